@@ -1,0 +1,217 @@
+#include "app/Caja.h"
+
+#include <algorithm>
+#include <cstring>
+#include <iostream>
+
+#include "app/sesion.h"
+#include "catalogs/people/cPermisosModulos.h"
+#include "catalogs/simple/Monedas_Window.h"
+#include "db/Apertura.h"
+#include "db/Login_Window.h"
+#include "framework/Iconos.h"
+#include "icons/iconos.h"
+#include "widgets/cajas.h"
+
+namespace {
+
+constexpr char seccion[] = "SETTINGS";
+constexpr char desconectado[] = "¡DESCONECTADO!";
+
+}  // namespace
+
+FXDEFMAP(Caja)
+CajaMap[] = {
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_ABOUT, Caja::onCmdAbout),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_CONECTAR, Caja::onCmdConectar),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_DESCONECTAR, Caja::onCmdDesconectar),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_PERMITIROP, Caja::onCmdPermitirop),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_MONEDAS, Caja::onCmdMonedas),
+    FXMAPFUNC(SEL_TIMEOUT, Caja::ID_CLOCK, Caja::onClock),
+};
+
+FXIMPLEMENT(Caja, FXMainWindow, CajaMap, ARRAYNUMBER(CajaMap))
+
+Caja::Caja(FXApp* app) : FXMainWindow(app, "Tolvara V. 0.0.7a", nullptr, nullptr, DECOR_ALL, 0, 0, 800, 600) {
+  bigIcon = icono(app, iconos::bigcaja_icon);
+  smallIcon = icono(app, iconos::smallcaja);
+  setIcon(bigIcon);
+  setMiniIcon(smallIcon);
+  app->setNormalFont(new FXFont(app, "arial", 9));
+  ArmaBarras();
+  ArmaEstado();
+  mdiClient = new FXMDIClient(this, LAYOUT_FILL_X | LAYOUT_FILL_Y);
+  mdiMenu = new FXMDIMenu(this, mdiClient);
+  ArmaMenu();
+  ArmaBotonesDeHija();
+  std::fill_n(mdiArray, RanurasMdi, false);
+}
+
+void Caja::ArmaBarras() {
+  dragShellMenu = new FXToolBarShell(this, FRAME_RAISED, 0, 0, 0, 0, 4, 4);
+  menuBar =
+      new FXMenuBar(this, dragShellMenu, LAYOUT_DOCK_SAME | LAYOUT_SIDE_TOP | LAYOUT_FILL_X | FRAME_RAISED, 0,
+                    0, 0, 0, 3, 3, 2, 2, 4, 4);
+  new FXToolBarGrip(menuBar, menuBar, FXMenuBar::ID_TOOLBARGRIP, TOOLBARGRIP_DOUBLE);
+  dragShellTool = new FXToolBarShell(this, FRAME_RAISED, 0, 0, 0, 0, 4, 4);
+  toolBar =
+      new FXToolBar(this, dragShellTool, LAYOUT_DOCK_NEXT | LAYOUT_SIDE_TOP | LAYOUT_FILL_X | FRAME_RAISED, 0,
+                    0, 0, 0, 3, 3, 2, 2, 4, 4);
+  new FXToolBarGrip(toolBar, toolBar, FXToolBar::ID_TOOLBARGRIP, TOOLBARGRIP_DOUBLE);
+}
+
+void Caja::ArmaEstado() {
+  constexpr FXuint aLaDerecha = LAYOUT_RIGHT | LAYOUT_CENTER_Y | JUSTIFY_RIGHT | FRAME_SUNKEN;
+  statusBar =
+      new FXStatusBar(this, LAYOUT_SIDE_BOTTOM | LAYOUT_FILL_X | STATUSBAR_WITH_DRAGCORNER | FRAME_RAISED, 0,
+                      0, 0, 0, 3, 3, 2, 2, 4, 0);
+  statusBar->getStatusLine()->setNormalText("Listo.");
+  clockField =
+      new FXTextField(statusBar, 11, nullptr, 0, TEXTFIELD_READONLY | aLaDerecha, 0, 0, 0, 0, 2, 2, 1, 1);
+  clockField->setBackColor(statusBar->getBackColor());
+  statusLabel = new FXLabel(statusBar, " ", nullptr, aLaDerecha, 0, 0, 0, 0, 2, 2, 1, 1);
+}
+
+void Caja::ArmaMenu() {
+  const bool permite = strcmp(getApp()->reg().readStringEntry(seccion, "permitirop", "S"), "S") == 0;
+
+  menuInicio = new FXMenuPane(this);
+  new FXMenuTitle(menuBar, "&Inicio", nullptr, menuInicio);
+  Entrada(menuInicio, "&Conectar\t\tConectarse al sistema", icono(getApp(), iconos::login_icon), ID_CONECTAR);
+  Entrada(menuInicio, "&Desconectar\t\tDesconectarse del sistema", nullptr, ID_DESCONECTAR);
+  Entrada(menuInicio, permite ? "&NO permitir opciones de conexion" : "&SI permitir opciones de conexion",
+          nullptr, ID_PERMITIROP);
+  new FXMenuSeparator(menuInicio);
+  new FXMenuCommand(menuInicio, "&Salir\tCtl-Q\tSalir del sistema", iconoGif(getApp(), iconos::quit_gif),
+                    getApp(), FXApp::ID_QUIT);
+
+  menuCatalogos = new FXMenuPane(this);
+  new FXMenuTitle(menuBar, "C&atalogos", nullptr, menuCatalogos);
+  Entrada(menuCatalogos, "&Monedas\t\tCatalogo de tipos de monedas", icono(getApp(), iconos::moneda_icon),
+          ID_MONEDAS);
+
+  menuAyuda = new FXMenuPane(this);
+  new FXMenuTitle(menuBar, "A&yuda", nullptr, menuAyuda, LAYOUT_RIGHT);
+  Entrada(menuAyuda, "&Acerca del Sistema ...", nullptr, ID_ABOUT);
+}
+
+void Caja::Entrada(FXMenuPane* menu, const char* etiqueta, FXIcon* icono, FXSelector mensaje) {
+  new FXMenuCommand(menu, etiqueta, icono, this, mensaje);
+}
+
+/// The window buttons of a child that fills the whole area.
+void Caja::ArmaBotonesDeHija() {
+  new FXMDIWindowButton(menuBar, mdiMenu, mdiClient, FXMDIClient::ID_MDI_MENUWINDOW, LAYOUT_LEFT);
+  constexpr FXuint opciones = FRAME_RAISED | LAYOUT_RIGHT;
+  new FXMDIDeleteButton(menuBar, mdiClient, FXMDIClient::ID_MDI_MENUCLOSE, opciones);
+  new FXMDIRestoreButton(menuBar, mdiClient, FXMDIClient::ID_MDI_MENURESTORE, opciones);
+  new FXMDIMinimizeButton(menuBar, mdiClient, FXMDIClient::ID_MDI_MENUMINIMIZE, opciones);
+}
+
+Caja::~Caja() {
+  getApp()->removeTimeout(this, ID_CLOCK);
+  delete menuInicio;
+  delete menuCatalogos;
+  delete menuAyuda;
+  delete mdiMenu;
+  delete menuBar;
+  delete statusBar;
+  delete toolBar;
+  delete dragShellMenu;
+  delete dragShellTool;
+}
+
+void Caja::create() {
+  FXMainWindow::create();
+  getApp()->addTimeout(this, ID_CLOCK, 1);
+  show(PLACEMENT_SCREEN);
+  Login();
+  std::cout << "Formato Cuenta " << formatocuenta << std::endl;
+}
+
+void Caja::Login() {
+  Login_Window login(this);
+  login.execute(PLACEMENT_SCREEN);
+  readRegistry();
+}
+
+void Caja::readRegistry() {
+  FXRegistry& ajustes = getApp()->reg();
+  statusLabel->setText(FXStringFormat(
+      "Usuario: %s - Suc. \\\\%s\\%s\\%s %s",  //
+      ajustes.readStringEntry(seccion, "user", "xxx"), ajustes.readStringEntry(seccion, "servidor", "xxx"),
+      ajustes.readStringEntry(seccion, "db", "xxx"), ajustes.readStringEntry(seccion, "sucursal", "xxx"),
+      IsConectado ? "*" : desconectado));
+}
+
+long Caja::onClock(FXObject*, FXSelector, void*) {
+  clockField->setText(FXSystem::time("%I:%M:%S %p", FXSystem::now()));
+  getApp()->addTimeout(this, ID_CLOCK, 500);
+  return 1;
+}
+
+long Caja::onCmdConectar(FXObject*, FXSelector, void*) {
+  Login();
+  return 1;
+}
+
+long Caja::onCmdDesconectar(FXObject*, FXSelector, void*) {
+  if (!TieneAcceso("0102")) return 1;
+  apertura::Cierra();
+  IsConectado = false;
+  statusLabel->setText(FXStringFormat("Usuario: %s - Suc. %s %s",  //
+                                      getApp()->reg().readStringEntry(seccion, "user", "xxx"),
+                                      getApp()->reg().readStringEntry(seccion, "sucursal", "xxx"),
+                                      desconectado));
+  return 1;
+}
+
+long Caja::onCmdPermitirop(FXObject*, FXSelector, void*) {
+  FXRegistry& ajustes = getApp()->reg();
+  if (strcmp(ajustes.readStringEntry(seccion, "permitirop", "S"), "S") == 0) {
+    ajustes.writeStringEntry(seccion, "permitirop", "N");
+    std::cout << "Opciones NO" << std::endl;
+  } else {
+    ajustes.writeStringEntry(seccion, "permitirop", "S");
+    std::cout << "Opciones SI" << std::endl;
+  }
+  std::cout << "Permitir" << ajustes.readStringEntry(seccion, "permitirop", "S") << std::endl;
+  return 1;
+}
+
+long Caja::onCmdAbout(FXObject*, FXSelector, void*) {
+  FXDialogBox acerca(this, "Acerca del Sistema", DECOR_TITLE | DECOR_BORDER);
+  auto* marco = new FXVerticalFrame(&acerca, LAYOUT_FILL_X | LAYOUT_FILL_Y, 0, 0, 0, 0, 10, 10, 10, 10, 0, 0);
+  constexpr FXuint aLaIzquierda = JUSTIFY_LEFT | LAYOUT_FILL_X;
+  new FXLabel(marco, "Tolvara ", nullptr, aLaIzquierda, 0, 0, 0, 0, 2, 2, 2, 2);
+  new FXHorizontalSeparator(marco, SEPARATOR_GROOVE | LAYOUT_FILL_X);
+  new FXLabel(marco,
+              FXStringFormat("\n TOLVARA, Cliente Gráfico Versión %sa\n\n"
+                             " El equipo de desarrollo de Tolvara\n",
+                             Version),
+              nullptr, aLaIzquierda);
+  auto* boton = new FXButton(marco, "&OK", nullptr, &acerca, FXDialogBox::ID_ACCEPT,
+                             BUTTON_INITIAL | BUTTON_DEFAULT | FRAME_RAISED | FRAME_THICK | LAYOUT_CENTER_X,
+                             0, 0, 0, 0, 32, 32, 2, 2);
+  acerca.create();
+  boton->setFocus();
+  acerca.execute(PLACEMENT_OWNER);
+  return 1;
+}
+
+/// May the user use the option? If not, says so.
+bool Caja::TieneAcceso(const char* modulo) {
+  if (permite.Acceso(glogin, modulo)) return true;
+  cajaError(this, "Acceso NO AUTORIZADO", "No tiene acceso a la opción ...");
+  return false;
+}
+
+/// An option whose form opens as a child, while the slot that the option tests is free. The form deletes
+/// itself when it closes.
+template <class Ventana>
+long Caja::OpcionHija(const char* modulo, int ranura) {
+  if (TieneAcceso(modulo) && !mdiArray[ranura]) (new Ventana(mdiClient, mdiMenu))->create();
+  return 1;
+}
+
+long Caja::onCmdMonedas(FXObject*, FXSelector, void*) { return OpcionHija<Monedas_Window>("0203", 1); }

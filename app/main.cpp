@@ -1,0 +1,20 @@
+#include <fx.h>
+
+#include <iostream>
+
+#include "app/Caja.h"
+#include "app/Traductor.h"
+
+int main(int argc, char* argv[]) {
+  try {
+    FXApp app("corvena", "Tolvara");  // the two names select the file of the settings
+    app.setTranslator(new Traductor(&app));
+    app.init(argc, argv);
+    new Caja(&app);
+    app.create();  // the first login runs in here
+    return app.run();
+  } catch (char* texto) {
+    std::cout << texto << std::endl;
+  }
+  return 0;
+}

@@ -1,0 +1,40 @@
+#include "catalogs/simple/cMonedas.h"
+
+#include <iostream>
+
+cMonedas::cMonedas(const char* id, const char* descri, float valor, bool cambiado, bool nuevo) {
+  CopiaTexto(MonedaID, id);
+  CopiaTexto(MonedaDescri, descri);
+  MonedaValor = valor;
+  dataChanged = cambiado;
+  isNew = nuevo;
+}
+
+bool cMonedas::Check() {
+  if (MonedaID[0] == '\0') Lanza("No se especifico la clave");
+  if (MonedaDescri[0] == '\0') Lanza("No ha especificado la descripción");
+  if (MonedaValor < 0) Lanza("El valor de la moneda no puede ser negativo");
+  return true;
+}
+
+void cMonedas::Update() {
+  if (!dataChanged || !Check()) return;
+  try {
+    Registro::Update();
+  } catch (char*) {
+    std::cout << "entrando a error" << std::endl;
+    throw;
+  }
+}
+
+Sentencia cMonedas::SqlAddNew() const {
+  return Sentencia("select spimoneda('%s','%s',%f);", MonedaID, MonedaDescri, MonedaValor);
+}
+
+Sentencia cMonedas::SqlUpdate() const {
+  return Sentencia("select spumoneda('%s','%s',%f);", MonedaID, MonedaDescri, MonedaValor);
+}
+
+Sentencia cMonedas::SqlDelete() const { return Sentencia("SELECT spdmoneda('%s');", MonedaID); }
+
+Sentencia cMonedas::SqlFind() const { return Sentencia("SELECT * FROM spsmoneda('%s');", MonedaID); }

@@ -1,0 +1,48 @@
+// A currency of the institution.
+#pragma once
+
+#include "framework/Registro.h"
+
+class cMonedas : public Registro<cMonedas> {
+ public:
+  cMonedas() { Clear(); }
+  /// Stores each argument as it stands, the key without its blank.
+  cMonedas(const char* id, const char* descri, float valor, bool dataChanged, bool isNew);
+
+  /// Key of 2 characters, stored with blanks behind it.
+  void setMonedaID(const char* valor) { PonRellenado(MonedaID, 2, valor); }
+  void setMonedaDescri(const char* valor) { Pon(MonedaDescri, valor); }
+  void setMonedaValor(float valor) { Pon(MonedaValor, valor); }
+
+  const char* getMonedaID() const { return MonedaID; }
+  const char* getMonedaDescri() const { return MonedaDescri; }
+  float getMonedaValor() const { return MonedaValor; }
+
+  /// True, or throws the message of the first rule that is broken.
+  bool Check();
+  /// As in every record; also traces a refusal of the server.
+  void Update();
+  const char* clase() const { return "Moneda"; }
+
+ private:
+  friend Registro<cMonedas>;
+  static constexpr unsigned trazas = TrazaUpdate;
+
+  template <class V>
+  void Columnas(V columna) {
+    columna(MonedaID);
+    columna(MonedaValor);
+    columna(MonedaDescri);
+  }
+  bool HayClaveFind() const { return MonedaID[0] != '\0'; }
+  bool HayClaveDelete() const { return MonedaID[0] != '\0'; }
+
+  Sentencia SqlAddNew() const;
+  Sentencia SqlUpdate() const;
+  Sentencia SqlDelete() const;
+  Sentencia SqlFind() const;
+
+  char MonedaID[3];
+  char MonedaDescri[32];
+  float MonedaValor;
+};

@@ -1,0 +1,59 @@
+// How a container of the cache takes the rows of a select: a map keyed by row number, or a sorted list.
+//
+// A load replaces its container as a whole. It walks the shared result, so neither Fill nor the copy
+// constructor of the record may query. The status of the select is not looked at: a failed one gives no rows
+// and no message.
+#pragma once
+
+#include <map>
+
+#include "app/sesion.h"
+#include "db/Engine.h"
+#include "widgets/lista.h"
+
+template <class T>
+void Vacia(std::map<int, T>& mapa) {
+  mapa.clear();
+}
+
+template <class T>
+void Vacia(lista<T>& filas) {
+  filas.RemoverTodos();
+}
+
+/// Reads the rows of `sql` into an empty map.
+template <class T>
+void LeeFilas(std::map<int, T>& mapa, const char* sql) {
+  Ejecuta(sql);
+  for (int fila = 0; fila < PQntuples(res); ++fila)
+    mapa.emplace_hint(mapa.end(), fila, T())->second.Fill(fila);
+}
+
+/// Reads the rows of `sql` into an empty list, sorted by its record's key.
+template <class T>
+void LeeFilas(lista<T>& filas, const char* sql) {
+  Ejecuta(sql);
+  T registro;
+  for (int fila = 0; fila < PQntuples(res); ++fila) {
+    registro.Fill(fila);
+    filas.Insertar(registro);
+  }
+}
+
+/// A load without a transaction.
+template <class Contenedor>
+void Carga(Contenedor& contenedor, const char* sql) {
+  Vacia(contenedor);
+  LeeFilas(contenedor, sql);
+  LiberaResultado();
+}
+
+/// A load inside a transaction; throws `mensaje`, the container already empty, when "BEGIN;" fails.
+template <class Contenedor>
+void CargaEnTransaccion(Contenedor& contenedor, const char* sql, const char* mensaje) {
+  Vacia(contenedor);
+  AbreTransaccion(mensaje);
+  LeeFilas(contenedor, sql);
+  Ejecuta("COMMIT;");
+  LiberaResultado();
+}

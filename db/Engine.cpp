@@ -1,0 +1,85 @@
+#include "db/Engine.h"
+
+#include <iostream>
+
+#include "app/sesion.h"
+
+int Engine::miTransactionCount = 0;
+int Engine::miNestedTransaction = 1;
+
+namespace {
+
+/// Executes a transaction command with a result of its own: a thrown server text that is still to be shown
+/// points into the shared one.
+void EjecutaAparte(const char* sql) { PQclear(PQexec(conn, sql)); }
+
+}  // namespace
+
+void Ejecuta(const char* sql) {
+  PGresult* respuesta = PQexec(conn, sql);
+  PQclear(res);
+  res = respuesta;
+}
+
+void LiberaResultado() {
+  PQclear(res);
+  res = nullptr;
+}
+
+const char* Celda(int fila, int columna) {
+  if (fila >= PQntuples(res) || columna >= PQnfields(res)) return "";
+  return PQgetvalue(res, fila, columna);
+}
+
+void Lanza(const char* texto) { throw const_cast<char*>(texto); }
+
+bool Rechazada() {
+  const ExecStatusType estado = PQresultStatus(res);
+  return estado == PGRES_NONFATAL_ERROR || estado == PGRES_FATAL_ERROR;
+}
+
+void LanzaSiRechazada() {
+  if (Rechazada()) Lanza(PQresultErrorMessage(res));
+}
+
+void AbreTransaccion(const char* mensaje) {
+  Ejecuta("BEGIN;");
+  if (res == nullptr || PQresultStatus(res) != PGRES_COMMAND_OK)
+    Lanza(mensaje != nullptr ? mensaje : PQresultErrorMessage(res));
+}
+
+void Engine::BeginTransaction() {
+  if (miTransactionCount == 0) EjecutaAparte("BEGIN;");
+  ++miTransactionCount;
+}
+
+void Engine::CommitTransaction() {
+  if (miTransactionCount <= miNestedTransaction) {
+    EjecutaAparte("COMMIT;");
+    miTransactionCount = 0;
+  } else {
+    --miTransactionCount;
+  }
+}
+
+void Engine::RollBackTransaction() {
+  if (miTransactionCount > 0) EjecutaAparte("ROLLBACK;");
+  miTransactionCount = 0;
+}
+
+void Engine::Inicializa() {
+  miTransactionCount = 0;
+  miNestedTransaction = 1;
+}
+
+bool Engine::LeeFila(const char* sql, bool traza) {
+  if (traza) std::cout << sql << std::endl;
+  Ejecuta(sql);
+  return PQntuples(res) > 0;
+}
+
+void Engine::EjecutaEscritura(const char* sql, bool traza) {
+  if (traza) std::cout << sql << std::endl;
+  Ejecuta(sql);
+  LanzaSiRechazada();
+}

@@ -1,0 +1,81 @@
+// The road of every statement to the server: one connection, one shared result, nested transactions.
+//
+// A statement is executed into the shared `res` (app/sesion.h). The result of the statement before it is
+// released by the next one, so a path may leave it behind. Failures travel as a thrown char*: a server text,
+// which points into `res` and is valid until the next statement or clear, or a literal of the program.
+#pragma once
+
+/// Executes `sql` on the session's connection; its answer is in `res` (null when the connection is closed).
+void Ejecuta(const char* sql);
+
+/// Clears the shared result and leaves it null.
+void LiberaResultado();
+
+/// The field of the shared result as text; "" for NULL and for a row or column that the answer does not have.
+const char* Celda(int fila, int columna);
+
+/// Throws `texto` as the plain char* that the forms catch.
+[[noreturn]] void Lanza(const char* texto);
+
+/// Did the server refuse the last statement (status 6 or 7)? A null result counts as refused.
+bool Rechazada();
+
+/// Throws the server's text if the last statement was refused; the text is empty for a null result.
+void LanzaSiRechazada();
+
+/// Opens a transaction around a load: executes "BEGIN;" and throws `mensaje`, or the server's text when it is
+/// null, if the answer is not that of an executed command. The result is left in `res`.
+void AbreTransaccion(const char* mensaje);
+
+/// Base of the record classes; has no data of its own. The transaction depth is one for the whole process, so
+/// a record that begins a transaction inside another record's transaction nests in it.
+class Engine {
+ public:
+  Engine() {}
+
+  /// Sends "BEGIN;" at depth 0; one level deeper in every case.
+  void BeginTransaction();
+
+  /// Sends "COMMIT;" from the outermost level, and also when nothing is open; one level up otherwise.
+  void CommitTransaction();
+
+  /// Sends "ROLLBACK;" if anything is open and resets the depth to 0. Leaves `res` as it is, so that a thrown
+  /// server text can still be shown.
+  void RollBackTransaction();
+
+  /// Always true; does not look at the connection.
+  bool Connected() { return true; }
+
+  /// Resets the depth; sends nothing.
+  void Inicializa();
+
+ protected:
+  /// The write: begin, trace, execute, throw on a refusal (the transaction then stays open for the catching
+  /// form to roll back), `alResponder` with the answer in `res`, clear, commit.
+  template <class AlResponder>
+  void Escribe(const char* sql, bool traza, AlResponder alResponder) {
+    BeginTransaction();
+    EjecutaEscritura(sql, traza);
+    alResponder();
+    LiberaResultado();
+    CommitTransaction();
+  }
+
+  /// The same without a look at the answer.
+  void Escribe(const char* sql, bool traza) {
+    Escribe(sql, traza, [] {});
+  }
+
+  /// The single-row read: trace and execute. True if a row came, which the caller fills from and then clears;
+  /// without a row the result stays uncleared. The status is not looked at.
+  bool LeeFila(const char* sql, bool traza);
+
+  static int miTransactionCount;
+  static int miNestedTransaction;
+
+ private:
+  void EjecutaEscritura(const char* sql, bool traza);
+};
+
+/// Engine as the virtual base of the records that others are built on.
+class EngineVirtual : public virtual Engine {};

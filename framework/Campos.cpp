@@ -1,0 +1,58 @@
+#include "framework/Campos.h"
+
+#include <charconv>
+
+namespace {
+
+constexpr FXuint opcionesDeCampo = FRAME_SUNKEN | FRAME_THICK | TEXTFIELD_LIMITED | LAYOUT_CENTER_Y;
+
+void Etiqueta(FXMatrix* matriz, const char* texto) {
+  new FXLabel(matriz, texto, nullptr, LABEL_NORMAL | JUSTIFY_LEFT | LAYOUT_CENTER_Y);
+}
+
+FXTextField* Campo(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato, FXuint opciones) {
+  Etiqueta(matriz, etiqueta);
+  return new FXTextField(matriz, columnas, &dato.destino, FXDataTarget::ID_VALUE,
+                         opcionesDeCampo | JUSTIFY_LEFT | opciones);
+}
+
+template <class Numero>
+FXString Digitos(Numero valor) {
+  char texto[400];  // the longest fixed notation of a double has some 330 characters
+  const auto fin = std::to_chars(texto, texto + sizeof texto, valor, std::chars_format::fixed).ptr;
+  return FXString(texto, static_cast<FXint>(fin - texto));
+}
+
+}  // namespace
+
+FXDEFMAP(CampoReal)
+CampoRealMap[] = {
+    FXMAPFUNC(SEL_COMMAND, CampoReal::ID_SETREALVALUE, CampoReal::onCmdSetRealValue),
+};
+
+FXIMPLEMENT(CampoReal, FXTextField, CampoRealMap, ARRAYNUMBER(CampoRealMap))
+
+CampoReal::CampoReal(FXComposite* padre, FXint columnas, FXObject* destino, FXSelector mensaje,
+                     FXuint opciones)
+    : FXTextField(padre, columnas, destino, mensaje, opciones) {}
+
+long CampoReal::onCmdSetRealValue(FXObject*, FXSelector, void* valor) {
+  const double numero = *static_cast<FXdouble*>(valor);
+  const float sencillo = static_cast<float>(numero);
+  setText(sencillo == numero ? Digitos(sencillo) : Digitos(numero));
+  return 1;
+}
+
+FXTextField* campoClave(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato) {
+  return Campo(matriz, etiqueta, columnas, dato, TEXTFIELD_ENTER_ONLY);
+}
+
+FXTextField* campoTexto(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato) {
+  return Campo(matriz, etiqueta, columnas, dato, 0);
+}
+
+CampoReal* campoReal(FXMatrix* matriz, const char* etiqueta, int columnas, DatoReal& dato) {
+  Etiqueta(matriz, etiqueta);
+  return new CampoReal(matriz, columnas, &dato.destino, FXDataTarget::ID_VALUE,
+                       opcionesDeCampo | JUSTIFY_RIGHT | TEXTFIELD_REAL);
+}

@@ -1,0 +1,20 @@
+// An SQL statement, formatted as by printf.
+//
+// The text grows as needed, so no value is ever cut, and the compiler checks every format against its
+// arguments. Values are embedded as they stand: a quote typed by a user reaches the server, which refuses the
+// statement.
+#pragma once
+
+#include <string>
+
+class Sentencia {
+ public:
+  /// Formats `formato` with the arguments that follow it. Text arguments must not be null.
+  explicit Sentencia(const char* formato, ...) __attribute__((format(printf, 2, 3)));
+
+  /// The statement; valid while this object lives.
+  operator const char*() const { return texto.c_str(); }
+
+ private:
+  std::string texto;
+};

@@ -1,0 +1,106 @@
+-- What every stored function does with its arguments. Each helper answers the value to store or raises an error in
+-- plain Spanish that names the field ("campo", with its article: 'la descripción'); nothing is ever cut off silently.
+SET LOCAL ROLE tolvara_propietario;
+SET LOCAL search_path TO comun, pg_temp;
+
+-- An optional text of at most `ancho` characters, trailing blanks apart; NULL becomes ''.
+CREATE OR REPLACE FUNCTION texto(valor text, ancho integer, campo text) RETURNS text
+LANGUAGE plpgsql IMMUTABLE SET search_path FROM CURRENT AS $$
+BEGIN
+  IF char_length(rtrim(valor)) > ancho THEN
+    RAISE EXCEPTION 'No cabe %: tiene % caracteres y admite %', campo, char_length(rtrim(valor)), ancho
+      USING ERRCODE = 'string_data_right_truncation';
+  END IF;
+  RETURN coalesce(valor, '');
+END $$;
+
+-- A text that must not be blank, otherwise as texto().
+CREATE OR REPLACE FUNCTION obligatorio(valor text, ancho integer, campo text) RETURNS text
+LANGUAGE plpgsql IMMUTABLE SET search_path FROM CURRENT AS $$
+BEGIN
+  IF coalesce(btrim(valor), '') = '' THEN
+    RAISE EXCEPTION 'Falta %', campo USING ERRCODE = 'not_null_violation';
+  END IF;
+  RETURN texto(valor, ancho, campo);
+END $$;
+
+-- A text that is NULL when blank, as references to another table are; otherwise as texto().
+CREATE OR REPLACE FUNCTION opcional(valor text, ancho integer, campo text) RETURNS text
+LANGUAGE plpgsql IMMUTABLE SET search_path FROM CURRENT AS $$
+BEGIN
+  RETURN CASE WHEN btrim(valor) <> '' THEN texto(valor, ancho, campo) END;
+END $$;
+
+-- A number between both bounds, inclusive. NULL and NaN are refused; the column rounds to its own decimals.
+CREATE OR REPLACE FUNCTION numero(valor numeric, minimo numeric, maximo numeric, campo text) RETURNS numeric
+LANGUAGE plpgsql IMMUTABLE SET search_path FROM CURRENT AS $$
+BEGIN
+  IF valor IS NULL THEN
+    RAISE EXCEPTION 'Falta %', campo USING ERRCODE = 'not_null_violation';
+  ELSIF valor = 'NaN' OR valor NOT BETWEEN minimo AND maximo THEN
+    RAISE EXCEPTION 'Está fuera de rango %: % no está entre % y %', campo, valor, minimo, maximo
+      USING ERRCODE = 'numeric_value_out_of_range';
+  END IF;
+  RETURN valor;
+END $$;
+
+-- A date from 'dd/mm/yyyy' or 'yyyy-mm-dd', whatever the session's DateStyle; '', NULL and the zero date mean none.
+CREATE OR REPLACE FUNCTION fecha(valor text) RETURNS date
+LANGUAGE plpgsql IMMUTABLE SET search_path FROM CURRENT AS $$
+DECLARE
+  limpio text := coalesce(btrim(valor), '');
+  parte text[];
+BEGIN
+  IF limpio IN ('', '0000-00-00', '00/00/0000') THEN
+    RETURN NULL;
+  ELSIF limpio ~ '^\d{1,2}/\d{1,2}/\d{4}$' THEN
+    parte := string_to_array(limpio, '/');
+    RETURN make_date(parte[3]::integer, parte[2]::integer, parte[1]::integer);
+  ELSIF limpio ~ '^\d{4}-\d{1,2}-\d{1,2}$' THEN
+    parte := string_to_array(limpio, '-');
+    RETURN make_date(parte[1]::integer, parte[2]::integer, parte[3]::integer);
+  END IF;
+  RAISE EXCEPTION 'La fecha "%" no tiene la forma dd/mm/aaaa ni aaaa-mm-dd', left(limpio, 30)
+    USING ERRCODE = 'invalid_datetime_format';
+EXCEPTION WHEN datetime_field_overflow THEN
+  RAISE EXCEPTION 'La fecha "%" no existe en el calendario', limpio USING ERRCODE = 'datetime_field_overflow';
+END $$;
+
+-- A date that must be given, otherwise as fecha().
+CREATE OR REPLACE FUNCTION fecha_obligatoria(valor text, campo text) RETURNS date
+LANGUAGE plpgsql IMMUTABLE SET search_path FROM CURRENT AS $$
+BEGIN
+  IF fecha(valor) IS NULL THEN
+    RAISE EXCEPTION 'Falta %', campo USING ERRCODE = 'not_null_violation';
+  END IF;
+  RETURN fecha(valor);
+END $$;
+
+-- Refuses a deletion because of the rows that point at `fila` ("la moneda MX") of `tabla`, and tells how many of which
+-- table. To be called by the handler of foreign_key_violation, which is where the deletion has already been undone.
+-- Only single-column references exist. A table is named by its comment up to the colon ('tipos de promoción: ...').
+CREATE OR REPLACE FUNCTION rechaza_uso(tabla regclass, clave text, fila text) RETURNS void
+LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+DECLARE
+  ajena record;
+  filas bigint;
+  usos text[] := '{}';
+BEGIN
+  FOR ajena IN
+    SELECT c.conrelid::regclass AS tabla, a.attname AS columna,
+           split_part(coalesce(obj_description(c.conrelid, 'pg_class'), c.conrelid::regclass::text), ':', 1) AS nombre
+      FROM pg_constraint c JOIN pg_attribute a ON a.attrelid = c.conrelid AND a.attnum = c.conkey[1]
+     WHERE c.contype = 'f' AND c.confrelid = rechaza_uso.tabla AND c.confdeltype IN ('a', 'r')
+     ORDER BY nombre, columna
+  LOOP
+    EXECUTE format('SELECT count(*) FROM %s WHERE rtrim(%I::text) = rtrim($1)', ajena.tabla, ajena.columna)
+       INTO filas USING clave;
+    IF filas > 0 THEN
+      usos := usos || format('%s %s', filas, ajena.nombre);
+    END IF;
+  END LOOP;
+  RAISE EXCEPTION 'No se puede borrar % porque se usa en: %', fila, array_to_string(usos, ', ')
+    USING ERRCODE = 'foreign_key_violation';
+END $$;
+
+RESET ROLE;

@@ -1,0 +1,72 @@
+#include "tests/support/Pantalla.h"
+
+#include <FXPNGImage.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <stdexcept>
+
+#include "tests/support/Proceso.h"
+
+namespace pruebas {
+namespace {
+
+// Starts the X server, which chooses its number itself and writes it into the pipe; answers the number.
+std::string AbrePantalla() {
+  int tubo[2];
+  if (pipe2(tubo, O_CLOEXEC) < 0) throw std::runtime_error("pipe2");
+  const Orden orden{{"Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"}};
+  static Hijo* const servidor = new Hijo(orden, tubo[1], SIGTERM);  // ends with this program, not before
+  close(tubo[1]);
+  std::string numero;
+  char letra;
+  while (read(tubo[0], &letra, 1) == 1 && letra != '\n') numero += letra;
+  close(tubo[0]);
+  if (numero.empty() || servidor->Acabo()) throw std::runtime_error("Xvfb no arranca: " + numero);
+  return numero;
+}
+
+FXApp* NuevaApp() {
+  static const CarpetaTemporal casa;
+  setenv("HOME", casa.Ruta().c_str(), 1);
+  setenv("DISPLAY", (":" + AbrePantalla()).c_str(), 1);
+  FXApp* const app = new FXApp("corvena", "Tolvara");
+  static char programa[] = "corvena";
+  char* argumentos[] = {programa, nullptr};
+  int cuantos = 1;
+  app->init(cuantos, argumentos);
+  app->create();
+  return app;
+}
+
+}  // namespace
+
+FXApp& App() {
+  static FXApp* const app = NuevaApp();
+  return *app;
+}
+
+void SinAjustes() { App().reg().clear(); }
+
+void Foto(const std::string& archivo, FXWindow* ventana) {
+  FXWindow* const modelo = ventana ? ventana : App().getRootWindow();
+  App().runWhileEvents();
+  App().repaint();
+  App().flush(TRUE);
+  FXPNGImage imagen(&App(), nullptr, 0, modelo->getWidth(), modelo->getHeight());
+  imagen.create();
+  {
+    FXDCWindow lienzo(&imagen);
+    lienzo.clipChildren(FALSE);
+    lienzo.drawArea(modelo, 0, 0, modelo->getWidth(), modelo->getHeight(), 0, 0);
+  }
+  imagen.restore();
+  FXFileStream salida;
+  if (!salida.open(archivo.c_str(), FXStreamSave) || !imagen.savePixels(salida)) {
+    throw std::runtime_error("no se puede escribir " + archivo);
+  }
+}
+
+}  // namespace pruebas

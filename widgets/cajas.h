@@ -1,0 +1,15 @@
+// The boxes of the system: errors, news and questions. Each blocks until it is answered.
+//
+// `texto` has the shape of a printf format without arguments: "%%" shows as "%", and a directive shows as it
+// stands. An empty text, which is what a closed connection leaves, shows as a sentence that says so. Lines
+// wider than 110 characters are broken and no more than 2,000 bytes are shown, so that a box always fits on
+// the screen.
+#pragma once
+
+#include <fx.h>
+
+void cajaError(FXWindow* duenio, const FXString& titulo, const char* texto);
+void cajaInformacion(FXWindow* duenio, const FXString& titulo, const char* texto);
+
+/// Yes and No; true for yes.
+bool cajaPregunta(FXWindow* duenio, const FXString& titulo, const char* texto);
