@@ -20,6 +20,13 @@ void Corta(PGconn* conexion) {
   if (PQsocket(conexion) >= 0) shutdown(PQsocket(conexion), SHUT_RDWR);
 }
 
+// As a literal of SQL; empty without a connection.
+std::string Citado(PGconn* conexion, const std::string& texto) {
+  const std::unique_ptr<char, decltype(&PQfreemem)> citado(PQescapeLiteral(conexion, texto.c_str(), texto.size()),
+                                                           PQfreemem);
+  return citado ? citado.get() : "";
+}
+
 // What stands in a field of a false answer; null for NULL.
 using Campo = std::function<const char*(int fila, int columna)>;
 
@@ -68,12 +75,9 @@ Falla Nula() {
 Falla Error(const std::string& texto) {
   return [texto](PGconn* conexion, const char*) {
     // The server itself says it, on the same session: an error like any other, with its effect on a transaction.
-    char* citado = PQescapeLiteral(conexion, texto.c_str(), texto.size());
-    const std::string sql = std::string("do $$ begin raise exception using message = ") + (citado ? citado : "''") +
-                            "; end $$";
-    PQfreemem(citado);
+    const std::string cuerpo = "begin raise exception using message = " + Citado(conexion, texto) + "; end";
     const PGVerbosity antes = PQsetErrorVerbosity(conexion, PQERRORS_TERSE);
-    PGresult* respuesta = __real_PQexec(conexion, sql.c_str());
+    PGresult* respuesta = __real_PQexec(conexion, ("do " + Citado(conexion, cuerpo)).c_str());
     PQsetErrorVerbosity(conexion, antes);
     return respuesta;
   };

@@ -75,11 +75,12 @@ Cuadro Retrato(FXDialogBox* ventana) {
   Cuadro cuadro;
   cuadro.titulo = ventana->getTitle().text();
   cuadro.botones = Botones(ventana);
-  for (FXLabel* pieza : Todos<FXLabel>(ventana)) {
-    if (dynamic_cast<FXButton*>(pieza)) continue;
-    const std::string texto = pieza->getText().text();
+  for (const std::string& texto : Etiquetas(ventana)) {
     if (!texto.empty()) cuadro.texto += (cuadro.texto.empty() ? "" : "\n") + texto;
-    if (dynamic_cast<FXMessageBox*>(ventana) && pieza->getIcon()) cuadro.clase = ClaseDe(pieza->getIcon());
+  }
+  if (!dynamic_cast<FXMessageBox*>(ventana)) return cuadro;
+  for (const FXLabel* pieza : Todos<FXLabel>(ventana)) {
+    if (pieza->getIcon()) cuadro.clase = ClaseDe(pieza->getIcon());
   }
   return cuadro;
 }

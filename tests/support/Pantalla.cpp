@@ -4,7 +4,9 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <cctype>
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <stdexcept>
 
@@ -13,19 +15,24 @@
 namespace pruebas {
 namespace {
 
-// Starts the X server, which chooses its number itself and writes it into the pipe; answers the number.
+// Starts the X server, which chooses its number itself and writes it into the pipe, perhaps after complaints about
+// numbers that are taken; answers the number.
 std::string AbrePantalla() {
   int tubo[2];
   if (pipe2(tubo, O_CLOEXEC) < 0) throw std::runtime_error("pipe2");
   const Orden orden{{"Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"}};
-  static Hijo* const servidor = new Hijo(orden, tubo[1], SIGTERM);  // ends with this program, not before
+  static const Hijo servidor(orden, tubo[1], SIGTERM);
   close(tubo[1]);
-  std::string numero;
-  char letra;
-  while (read(tubo[0], &letra, 1) == 1 && letra != '\n') numero += letra;
-  close(tubo[0]);
-  if (numero.empty() || servidor->Acabo()) throw std::runtime_error("Xvfb no arranca: " + numero);
-  return numero;
+  FILE* const dicho = fdopen(tubo[0], "r");
+  std::string todo;
+  for (char linea[256]; std::fgets(linea, sizeof linea, dicho);) {
+    todo += linea;
+    if (std::isdigit(static_cast<unsigned char>(*linea))) {
+      std::fclose(dicho);
+      return std::to_string(std::atoi(linea));
+    }
+  }
+  throw std::runtime_error("Xvfb no arranca: " + todo);
 }
 
 FXApp* NuevaApp() {

@@ -11,6 +11,7 @@
 #include <cerrno>
 #include <stdexcept>
 #include <system_error>
+#include <utility>
 
 #include "tests/support/Memoria.h"
 
@@ -118,11 +119,12 @@ Hijo::Hijo(const Orden& orden, int salida, int alMorir) : alMorir_(alMorir) {
   pid_ = Arranca(orden, entrada.fd(), salida, alMorir);
 }
 
-Hijo::~Hijo() {
-  if (pid_ <= 0) return;
-  kill(pid_, alMorir_);
-  while (waitpid(pid_, nullptr, 0) < 0 && errno == EINTR) {
-  }
+Hijo::~Hijo() { Termina(alMorir_); }
+
+void Hijo::Termina(int senal) {
+  if (Acabo()) return;
+  kill(pid_, senal);
+  Espera(std::exchange(pid_, 0));
 }
 
 bool Hijo::Acabo() {

@@ -39,12 +39,14 @@ class Hijo {
  public:
   /// Starts it with both outputs going to the descriptor `salida`, which the caller keeps.
   Hijo(const Orden& orden, int salida, int alMorir);
-  /// Ends it with the same signal and waits until it is gone.
+  /// Ends it with the same signal, unless it has ended.
   ~Hijo();
   Hijo(const Hijo&) = delete;
   Hijo& operator=(const Hijo&) = delete;
 
   pid_t pid() const { return pid_; }
+  /// Sends it a signal that ends it and waits until it is gone.
+  void Termina(int senal);
   /// Has it ended by itself?
   bool Acabo();
 

@@ -178,6 +178,7 @@ Textos Servidor::Entorno(const std::string& base) const {
 
 void Servidor::Plantilla(const std::string& nombre, const std::function<void(const std::string&)>& constructor) {
   if (Tiene(plantillas_, nombre)) return;
+  EnElServidor("drop database if exists " + Cita(nombre));  // left by a constructor that failed
   EnElServidor("create database " + Cita(nombre) + " template template0");
   const Textos antes = Roles();
   constructor(nombre);
@@ -185,7 +186,10 @@ void Servidor::Plantilla(const std::string& nombre, const std::function<void(con
   plantillas_.push_back(nombre);
 }
 
-void Servidor::Detiene() { proceso_.reset(); }
+void Servidor::Detiene() {
+  if (proceso_) proceso_->Termina(SIGINT);  // the orderly stop, which loses nothing
+  proceso_.reset();
+}
 
 void Servidor::Arranca() {
   if (!proceso_) Enciende();

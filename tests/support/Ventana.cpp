@@ -38,7 +38,8 @@ T* Primera(const std::vector<T*>& piezas, const std::string& rotulo) {
   return nullptr;
 }
 
-bool EsEtiqueta(const FXLabel* pieza) { return !dynamic_cast<const FXButton*>(pieza); }
+// Nothing but a label: buttons of all kinds derive from it.
+bool EsEtiqueta(const FXLabel* pieza) { return pieza->getMetaClass() == FXMETACLASS(FXLabel); }
 
 struct Suceso : FXEvent {
   explicit Suceso(FXuint tipo, FXint x = 0, FXint y = 0) : FXEvent() {
@@ -138,11 +139,11 @@ std::string Leido(FXWindow* raiz, const std::string& etiqueta, size_t cual) {
 }
 
 bool Usable(FXWindow* pieza) {
-  const FXWindow* const marco = pieza->getShell();
+  FXWindow* const marco = pieza->getShell();
   for (FXWindow* w = pieza; w && w != marco; w = w->getParent()) {
-    if (!w->shown() || !w->isEnabled()) return false;
+    if (!w->shown()) return false;
   }
-  return pieza->id() != 0;
+  return pieza->isEnabled() && pieza->id() != 0;
 }
 
 void Pulsa(FXWindow* pieza) {

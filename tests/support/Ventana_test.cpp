@@ -37,10 +37,10 @@ class Formulario : public FXMainWindow {
     combo->appendItem("dos");
     new FXLabel(matriz, "Valor:");
     new FXTextField(matriz, 10);
-    lista = new FXList(this, this, ID_LISTA, LIST_BROWSESELECT | LAYOUT_FILL);
-    for (int i = 0; i < 100; ++i) lista->appendItem(FXStringFormat("renglón %d", i));
     boton = new FXButton(this, "&Aceptar", nullptr, this, ID_BOTON);
     casilla = new FXCheckButton(this, "Casilla");
+    lista = new FXList(this, this, ID_LISTA, LIST_BROWSESELECT | LAYOUT_FILL);
+    for (int i = 0; i < 100; ++i) lista->appendItem(FXStringFormat("renglón %d", i));
   }
   ~Formulario() override { delete menu; }
 

@@ -1,0 +1,56 @@
+# What the scripts share: the root of the repository, the packages that they need, the build. To be sourced.
+raiz=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+
+paquetes_construccion=(g++ cmake ninja-build pkg-config libfox-1.6-dev libpq-dev)
+paquetes_servidor=(postgresql-15)
+paquetes_letra=(fonts-liberation) # answers for "arial"
+paquetes_visita=(xvfb openbox xdotool xclip imagemagick)
+paquetes_pruebas=(libgtest-dev clang-format postgresql-15-pgtap libtap-parser-sourcehandler-pgtap-perl)
+paquetes_bench=(libbenchmark-dev)
+
+falla() {
+  printf '%s: %s\n' "$(basename "$0")" "$*" >&2
+  exit 1
+}
+
+instalado() { [[ $(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null) == installed ]]; }
+
+# Installs the packages of the list that are missing. Without any, needs neither the network nor root.
+instala() {
+  local paquete faltan=() root=()
+  for paquete; do instalado "$paquete" || faltan+=("$paquete"); done
+  ((${#faltan[@]})) || return 0
+  echo "Se instalan los paquetes que faltan: ${faltan[*]}"
+  if ((EUID != 0)); then
+    command -v sudo >/dev/null ||
+      falla "hace falta ser root, o tener sudo, para instalar; como root corra: apt-get install ${faltan[*]}"
+    root=(sudo)
+  fi
+  "${root[@]}" sh -s -- "${faltan[@]}" <<'SH' || falla "no se pudieron instalar: ${faltan[*]}"
+set -e
+# The server package would make and start a cluster of its own. Ours is private, see scripts/servidor.
+ajuste=/etc/postgresql-common/createcluster.d/tolvara.conf
+trap 'rm -f "$ajuste"' EXIT
+mkdir -p "${ajuste%/*}"
+echo 'create_main_cluster = false' >"$ajuste"
+export DEBIAN_FRONTEND=noninteractive
+apt-get -qq update </dev/null
+apt-get -qq -o DPkg::Lock::Timeout=120 install -y --no-install-recommends "$@" </dev/null
+SH
+}
+
+# Configures and builds a preset of CMakePresets.json in build/PRESET.
+construye() {
+  (
+    cd "$raiz"
+    cmake --preset "$1" >/dev/null
+    cmake --build --preset "$1" --parallel "$(nproc)"
+  )
+}
+
+# A Spanish UTF-8 locale if the machine has one, otherwise the one that every Debian has.
+idioma() {
+  local disponibles
+  disponibles=$(locale -a)
+  grep -m1 -i '^es_MX\.utf-\?8$' <<<"$disponibles" || grep -m1 -i '^es_.*\.utf-\?8$' <<<"$disponibles" || echo C.UTF-8
+}
