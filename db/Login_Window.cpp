@@ -49,7 +49,7 @@ const Login_Window::Ajuste Login_Window::ajustes[] = {
 };
 
 Login_Window::Login_Window(Caja* owner)
-    : FXDialogBox(owner, "Login", DECOR_TITLE | DECOR_BORDER | DECOR_RESIZE) {
+    : FXDialogBox(owner, "Login", DECOR_TITLE | DECOR_BORDER | DECOR_RESIZE, 0, 0, 0, 0, 0, 0, 0, 0) {
   auto* marco = new FXHorizontalFrame(this, LAYOUT_FILL_X | LAYOUT_FILL_Y);
   ArmaCampos(new FXVerticalFrame(marco, LAYOUT_FILL_X | LAYOUT_FILL_Y));
   ArmaBotones(new FXVerticalFrame(marco, LAYOUT_FILL_X | LAYOUT_FILL_Y));
@@ -76,7 +76,7 @@ void Login_Window::ArmaCampos(FXComposite* padre) {
     new FXTextField(matriz, columnas, &dato.destino, FXDataTarget::ID_VALUE, limitado | opciones);
   };
 
-  matrizLogin = new FXMatrix(padre, 3, MATRIX_BY_COLUMNS | LAYOUT_FILL_X | LAYOUT_FILL_Y);
+  matrizLogin = new FXMatrix(padre, 3, MATRIX_BY_COLUMNS | LAYOUT_FILL_X, 0, 0, 0, 0, 0, 0, 0, 0);
   margen(matrizLogin, iconos::login);
   etiqueta(matrizLogin, "Login:");
   campo(matrizLogin, 20, sUser, TEXTFIELD_ENTER_ONLY);
@@ -88,7 +88,8 @@ void Login_Window::ArmaCampos(FXComposite* padre) {
   auto* marco = new FXVerticalFrame(padre, LAYOUT_FILL_X | LAYOUT_FILL_Y, 0, 0, 0, 0, 0, 0, 0, 0);
   grupoOpciones =
       new FXGroupBox(marco, "", FRAME_GROOVE | LAYOUT_FILL_X | LAYOUT_FILL_Y, 0, 0, 0, 0, 0, 0, 2, 2);
-  matrizOpciones = new FXMatrix(grupoOpciones, 3, MATRIX_BY_COLUMNS | LAYOUT_FILL_X | LAYOUT_FILL_Y);
+  matrizOpciones = new FXMatrix(grupoOpciones, 3, MATRIX_BY_COLUMNS | LAYOUT_FILL_X | LAYOUT_FILL_Y, 0, 0, 0,
+                                0, 2, 2, 0, 0);
   margen(matrizOpciones, iconos::sucx);
   etiqueta(matrizOpciones, "Sucursal:");
   campo(matrizOpciones, 20, sSucursal, 0);
@@ -105,10 +106,13 @@ void Login_Window::ArmaCampos(FXComposite* padre) {
 
 void Login_Window::ArmaBotones(FXComposite* padre) {
   constexpr FXuint comun = FRAME_RAISED | FRAME_THICK | ICON_BEFORE_TEXT | LAYOUT_FILL_X;
-  btnAceptar = new FXButton(padre, "&Aceptar", icono(getApp(), iconos::ok_icon), this, ID_ACEPTAR,
-                            comun | BUTTON_DEFAULT | BUTTON_INITIAL);
-  btnCerrar = new FXButton(padre, "&Cerrar", icono(getApp(), iconos::cerrar_icon), this, ID_CANCEL, comun);
-  btnOpciones = new FXButton(padre, "Opciones >>", nullptr, this, ID_CONFIGURAR, comun);
+  const auto boton = [&](const char* texto, FXIcon* icono, FXSelector mensaje, FXuint opciones) {
+    return new FXButton(padre, texto, icono, this, mensaje, comun | opciones, 0, 0, 0, 0, 2, 2, 1, 1);
+  };
+  btnAceptar =
+      boton("&Aceptar", icono(getApp(), iconos::ok_icon), ID_ACEPTAR, BUTTON_DEFAULT | BUTTON_INITIAL);
+  btnCerrar = boton("&Cerrar", icono(getApp(), iconos::cerrar_icon), ID_CANCEL, 0);
+  btnOpciones = boton("Opciones >>", nullptr, ID_CONFIGURAR, 0);
 }
 
 void Login_Window::readRegistry() {

@@ -41,7 +41,7 @@ FXApp* NuevaApp() {
   setenv("DISPLAY", (":" + AbrePantalla()).c_str(), 1);
   FXApp* const app = new FXApp("corvena", "Tolvara");
   static char programa[] = "corvena";
-  char* argumentos[] = {programa, nullptr};
+  static char* argumentos[] = {programa, nullptr};  // the toolkit keeps them
   int cuantos = 1;
   app->init(cuantos, argumentos);
   app->create();

@@ -109,6 +109,10 @@ void ConstruyeCompleta(const std::string& base) {
       {instala, "demostracion", "sur"},
   };
   for (const auto& paso : pasos) CorreBien({paso, "", entorno});
+  EnElServidor(std::string("do $$ declare login text; begin"
+                           "  for login in select rolname from pg_roles where rolcanlogin and not rolsuper loop"
+                           "    execute format('alter role %I password %L', login, '") +
+               BaseDatos::Clave + "'); end loop; end $$");
 }
 
 }  // namespace
@@ -144,7 +148,7 @@ void Servidor::Enciende() {
   const int salida = open(bitacora.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644);
   Orden orden{{Programa("postgres"), "-D", carpeta_.Ruta() / "datos", "-p", puerto_, "-k", carpeta_.Ruta()}};
   for (const char* ajuste : {"listen_addresses=127.0.0.1", "fsync=off", "synchronous_commit=off",
-                             "full_page_writes=off", "autovacuum=off", "shared_buffers=32MB"}) {
+                             "full_page_writes=off", "autovacuum=off", "shared_buffers=32MB", "wal_level=minimal", "max_wal_senders=0"}) {
     orden.argumentos.insert(orden.argumentos.end(), {"-c", ajuste});
   }
   orden.comoPostgres = true;
@@ -208,7 +212,7 @@ BaseDatos::BaseDatos(const std::string& plantilla) : conexion_(nullptr, PQfinish
   static int cuantas = 0;
   nombre_ = "prueba" + std::to_string(++cuantas);
   rolesDeAntes_ = Roles();
-  EnElServidor("create database " + Cita(nombre_) + " template " + Cita(plantilla) + " strategy wal_log");
+  EnElServidor("create database " + Cita(nombre_) + " template " + Cita(plantilla) + " strategy file_copy");
   conexion_ = Conecta();
 }
 

@@ -83,6 +83,8 @@ class BaseDatos {
   static constexpr const char* Vacia = "vacia";          ///< an empty database
   static constexpr const char* Completa = "plantilla";   ///< the reference database, branches norte and sur, with data
 
+  static constexpr const char* Clave = "clave de prueba";  ///< password of every login of Completa
+
   /// Clones the template: Vacia, Completa or one made with Servidor::Plantilla. Throws std::runtime_error.
   explicit BaseDatos(const std::string& plantilla = Completa);
   ~BaseDatos();
