@@ -10,10 +10,10 @@ void Etiqueta(FXMatrix* matriz, const char* texto) {
   new FXLabel(matriz, texto, nullptr, LABEL_NORMAL | JUSTIFY_LEFT | LAYOUT_CENTER_Y);
 }
 
-FXTextField* Campo(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato, FXuint opciones) {
+void Campo(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato, FXuint opciones) {
   Etiqueta(matriz, etiqueta);
-  return new FXTextField(matriz, columnas, &dato.destino, FXDataTarget::ID_VALUE,
-                         opcionesDeCampo | JUSTIFY_LEFT | opciones);
+  dato.campo = new FXTextField(matriz, columnas, &dato.destino, FXDataTarget::ID_VALUE,
+                               opcionesDeCampo | JUSTIFY_LEFT | opciones);
 }
 
 template <class Numero>
@@ -43,16 +43,16 @@ long CampoReal::onCmdSetRealValue(FXObject*, FXSelector, void* valor) {
   return 1;
 }
 
-FXTextField* campoClave(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato) {
-  return Campo(matriz, etiqueta, columnas, dato, TEXTFIELD_ENTER_ONLY);
+void campoClave(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato) {
+  Campo(matriz, etiqueta, columnas, dato, TEXTFIELD_ENTER_ONLY);
 }
 
-FXTextField* campoTexto(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato) {
-  return Campo(matriz, etiqueta, columnas, dato, 0);
+void campoTexto(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato) {
+  Campo(matriz, etiqueta, columnas, dato, 0);
 }
 
-CampoReal* campoReal(FXMatrix* matriz, const char* etiqueta, int columnas, DatoReal& dato) {
+void campoReal(FXMatrix* matriz, const char* etiqueta, int columnas, DatoReal& dato) {
   Etiqueta(matriz, etiqueta);
-  return new CampoReal(matriz, columnas, &dato.destino, FXDataTarget::ID_VALUE,
-                       opcionesDeCampo | JUSTIFY_RIGHT | TEXTFIELD_REAL);
+  dato.campo = new CampoReal(matriz, columnas, &dato.destino, FXDataTarget::ID_VALUE,
+                             opcionesDeCampo | JUSTIFY_RIGHT | TEXTFIELD_REAL);
 }

@@ -6,12 +6,19 @@
 
 #include <fx.h>
 
-/// A member of a form and what binds it to its field: the two stay equal without further code. T is FXString,
-/// FXint or FXdouble.
+/// A member of a form and what binds it to its field: what the user types is in `valor` at once, and Pon
+/// shows in the field what the program stores. T is FXString, FXint or FXdouble.
 template <class T>
 struct Dato {
   T valor{};
   FXDataTarget destino{valor};
+  FXTextField* campo = nullptr;
+
+  /// Stores a value and shows it, also in a field that is being edited.
+  void Pon(const T& nuevo) {
+    valor = nuevo;
+    if (campo != nullptr) destino.handle(campo, FXSEL(SEL_UPDATE, FXDataTarget::ID_VALUE), nullptr);
+  }
 };
 
 using DatoTexto = Dato<FXString>;
@@ -30,7 +37,7 @@ class CampoReal : public FXTextField {
 };
 
 /// The key: acts on Enter only.
-FXTextField* campoClave(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato);
-FXTextField* campoTexto(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato);
+void campoClave(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato);
+void campoTexto(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato);
 /// Takes real numbers only, right-justified.
-CampoReal* campoReal(FXMatrix* matriz, const char* etiqueta, int columnas, DatoReal& dato);
+void campoReal(FXMatrix* matriz, const char* etiqueta, int columnas, DatoReal& dato);

@@ -188,7 +188,7 @@ long Forma<Ventana, Base>::Load() {
 
 template <class Ventana, class Base>
 void Forma<Ventana, Base>::Read() {
-  Yo().Datos([this](auto& dato, auto get, auto) { dato.valor = (Yo().Actual().*get)(); });
+  Yo().Datos([this](auto& dato, auto get, auto) { dato.Pon((Yo().Actual().*get)()); });
 }
 
 template <class Ventana, class Base>
@@ -198,7 +198,7 @@ void Forma<Ventana, Base>::Update() {
 
 template <class Ventana, class Base>
 void Forma<Ventana, Base>::Clear() {
-  Yo().Datos([](auto& dato, auto, auto) { dato.valor = decltype(dato.valor)(); });
+  Yo().Datos([](auto& dato, auto, auto) { dato.Pon({}); });
 }
 
 template <class Ventana, class Base>

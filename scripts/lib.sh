@@ -48,6 +48,49 @@ construye() {
   )
 }
 
+# --- demonstration -------------------------------------------------------------------------------------------------
+
+sucursal=norte   # the branch of the demonstration
+usuario=adriana  # its administrator
+
+servidor() { "$raiz/scripts/servidor" "$@"; }
+
+# A line of the state of the server, which must be running: Datos, Puerto, Base.
+del_servidor() { servidor status | sed -n "s/^$1: //p"; }
+
+# Starts the server and, the first time, creates the branch with its users.
+prepara_demostracion() {
+  servidor start
+  [[ $(servidor psql -XAtc "SELECT to_regnamespace('$sucursal')") ]] || servidor sucursal "$sucursal" --demostracion
+}
+
+# The password of a user of the demonstration, as it was generated.
+clave_de() { sed -n "s/^$1 \([^ ]*\) $sucursal .*/\1/p" "$(del_servidor Datos)/demostracion.claves"; }
+
+# Opens the client, in place of this shell, with everything but the password filled in. Settings and files are kept in
+# the folder $1 and nowhere else. What the user has set there stays, but for the port, which is the server's to choose.
+abre_cliente_en() {
+  local ajustes=$1/.foxrc/Tolvara/corvena puerto
+  puerto=$(del_servidor Puerto)
+  if [[ -f $ajustes ]]; then
+    sed -i "s/^puerto=.*/puerto=$puerto/" "$ajustes"
+  else
+    mkdir -p "${ajustes%/*}"
+    cat >"$ajustes" <<AJUSTES
+[SETTINGS]
+user=$usuario
+sucursal=$sucursal
+servidor=127.0.0.1
+puerto=$puerto
+db=$(del_servidor Base)
+userdb=$usuario
+AJUSTES
+  fi
+  [[ -z ${DISPLAY:-} ]] || export XAUTHORITY=${XAUTHORITY:-$HOME/.Xauthority}
+  cd "$1"
+  exec env HOME="$1" LC_ALL="$(idioma)" "$raiz/build/entrega/corvena"
+}
+
 # A Spanish UTF-8 locale if the machine has one, otherwise the one that every Debian has.
 idioma() {
   local disponibles

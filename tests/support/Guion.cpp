@@ -40,13 +40,13 @@ void SeAcabo(int) {
   std::abort();
 }
 
-// The labels under which the answers stand, in the toolkit's language and in ours.
+// The labels under which an answer stands in boxes and dialogs, the usual one first.
 const std::map<Respuesta, Textos>& Rotulos() {
   static const std::map<Respuesta, Textos> rotulos = {
       {Respuesta::Aceptar, {"Aceptar", "OK"}},
-      {Respuesta::Si, {"Sí", "Si", "Yes"}},
+      {Respuesta::Si, {"Sí"}},
       {Respuesta::No, {"No"}},
-      {Respuesta::Cancelar, {"Cancelar", "Cancel", "Cerrar"}},
+      {Respuesta::Cancelar, {"Cancelar", "Cerrar"}},
   };
   return rotulos;
 }

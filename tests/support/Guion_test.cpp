@@ -51,17 +51,17 @@ TEST(Guion, RespondeYRetrata) {
   Guion guion;
   guion.Responde(Respuesta::Si);
   guion.Responde(Respuesta::No);
-  guion.Responde("&OK");
+  guion.Responde("&Aceptar");
   EXPECT_EQ(Pregunta("¿Uno?"), FXuint{MBOX_CLICKED_YES});
   EXPECT_EQ(Pregunta("¿Dos?"), FXuint{MBOX_CLICKED_NO});
   EXPECT_EQ(guion.Pendientes(), 1u);
   EXPECT_EQ(Error("Tres\nrenglones"), FXuint{MBOX_CLICKED_OK});
   EXPECT_EQ(guion.Mensajes(), (Textos{"¿Uno?", "¿Dos?", "Tres\nrenglones"}));
   EXPECT_EQ(guion.Cuadros()[0].titulo, "Monedas");
-  EXPECT_EQ(guion.Cuadros()[0].botones, (Textos{"&Yes", "&No"}));
+  EXPECT_EQ(guion.Cuadros()[0].botones, (Textos{"&Sí", "&No"}));
   EXPECT_EQ(guion.Cuadros()[0].clase, Clase::Pregunta);
   EXPECT_EQ(guion.Ultimo().clase, Clase::Error);
-  EXPECT_EQ(guion.Ultimo().botones, Textos{"&OK"});
+  EXPECT_EQ(guion.Ultimo().botones, Textos{"&Aceptar"});
 }
 
 TEST(Guion, DistingueLasClasesDeCaja) {

@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <stdexcept>
 
+#include "app/Traductor.h"
 #include "tests/support/Proceso.h"
 
 namespace pruebas {
@@ -40,6 +41,8 @@ FXApp* NuevaApp() {
   setenv("HOME", casa.Ruta().c_str(), 1);
   setenv("DISPLAY", (":" + AbrePantalla()).c_str(), 1);
   FXApp* const app = new FXApp("corvena", "Tolvara");
+  delete app->getTranslator();
+  app->setTranslator(new Traductor(app));
   static char programa[] = "corvena";
   static char* argumentos[] = {programa, nullptr};  // the toolkit keeps them
   int cuantos = 1;

@@ -19,9 +19,9 @@ TEST(Sesion, AbreLaConexionDelProgramaEnSuSucursal) {
     Sesion sesion(base, "adriana", sucursal);
     EXPECT_TRUE(espia.Sentencias().empty());
     EXPECT_STREQ(glogin, "adriana");
-    Ejecuta("select session_user, current_schemas(false)::text, count(*) from moneda");
+    Ejecuta("select session_user, current_setting('search_path'), count(*) from moneda");
     EXPECT_STREQ(Celda(0, 0), "adriana");
-    EXPECT_EQ(Celda(0, 1), "{public," + std::string(sucursal) + "}");
+    EXPECT_EQ(Celda(0, 1), "public, " + std::string(sucursal));
     EXPECT_STRNE(Celda(0, 2), "0");
   }
 }

@@ -220,4 +220,18 @@ bool BombeaHasta(const std::function<bool()>& condicion, FXuint milisegundos) {
   return cumplida;
 }
 
+Area::Area()
+    : ventana_(new FXMainWindow(&App(), "Pruebas", nullptr, nullptr, DECOR_ALL, 0, 0, 1000, 800)),
+      cliente_(new FXMDIClient(ventana_, LAYOUT_FILL)),
+      menu_(new FXMDIMenu(ventana_, cliente_)) {
+  ventana_->create();
+  ventana_->show();
+  Bombea();
+}
+
+Area::~Area() {
+  delete menu_;
+  delete ventana_;
+}
+
 }  // namespace pruebas

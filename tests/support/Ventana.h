@@ -86,4 +86,31 @@ void Bombea(FXuint milisegundos = 1);
 /// Lets the event loop run until the condition holds; false when it does not within the time.
 bool BombeaHasta(const std::function<bool()>& condicion, FXuint milisegundos = 5000);
 
+/// A main window with nothing but an area for child forms, closed with the object together with all of them:
+///
+///   Area area;
+///   auto* const forma = area.Abre<Monedas_Window>();
+class Area {
+ public:
+  Area();
+  ~Area();
+  Area(const Area&) = delete;
+  Area& operator=(const Area&) = delete;
+
+  /// A new form of that class, shown and ready for the user.
+  template <class Forma>
+  Forma* Abre() {
+    auto* const forma = new Forma(cliente_, menu_);
+    forma->create();
+    forma->show();
+    Bombea();
+    return forma;
+  }
+
+ private:
+  FXMainWindow* ventana_;
+  FXMDIClient* cliente_;
+  FXMDIMenu* menu_;
+};
+
 }  // namespace pruebas

@@ -199,6 +199,34 @@ TEST_F(VentanaTest, LaFotoMuestraLaVentana) {
   EXPECT_THROW(Foto((carpeta.Ruta() / "no" / "hay.png").string()), std::runtime_error);
 }
 
+// A child form, as the option handlers open it.
+class Hija : public FXMDIChild {
+ public:
+  Hija(FXMDIClient* cliente, FXMDIMenu* menu)
+      : FXMDIChild(cliente, "Hija", nullptr, menu, 0, 20, 20, 300, 200), campo(new FXTextField(this, 10)) {
+    ++abiertas;
+  }
+  ~Hija() override { --abiertas; }
+
+  FXTextField* campo;
+  static int abiertas;
+};
+int Hija::abiertas = 0;
+
+TEST(Area, AbreHijasYLasCierraConsigo) {
+  {
+    Area area;
+    Hija* const una = area.Abre<Hija>();
+    Hija* const otra = area.Abre<Hija>();
+    for (Hija* hija : {una, otra}) {
+      Escribe(hija->campo, "hola");
+      EXPECT_STREQ(hija->campo->getText().text(), "hola");
+    }
+    EXPECT_EQ(Hija::abiertas, 2);
+  }
+  EXPECT_EQ(Hija::abiertas, 0);
+}
+
 TEST(Ajustes, VivenEnUnaCasaPropia) {
   App().reg().writeStringEntry("SETTINGS", "user", "ana");
   EXPECT_TRUE(App().reg().write());

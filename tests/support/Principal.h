@@ -1,0 +1,27 @@
+// The main window of the program as the stage of a test.
+#pragma once
+
+#include <fx.h>
+
+#include "app/Caja.h"
+
+namespace pruebas {
+
+/// A main window on the screen whose first login has not been run. Its end takes all its children with it and gives
+/// the application back what it had before.
+class Principal {
+ public:
+  Principal();
+  ~Principal();
+  Principal(const Principal&) = delete;
+  Principal& operator=(const Principal&) = delete;
+
+  Caja* get() const { return caja_; }
+  Caja* operator->() const { return caja_; }
+
+ private:
+  FXFont* fuente_;
+  Caja* caja_;
+};
+
+}  // namespace pruebas
