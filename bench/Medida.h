@@ -6,17 +6,27 @@
 #pragma once
 
 #include <chrono>
+#include <ctime>
 #include <vector>
 
 namespace medida {
 
-/// Seconds that `obra` takes.
+/// Seconds that `obra` takes, waiting included.
 template <class Obra>
 double Segundos(Obra obra) {
   using Reloj = std::chrono::steady_clock;
   const Reloj::time_point inicio = Reloj::now();
   obra();
   return std::chrono::duration<double>(Reloj::now() - inicio).count();
+}
+
+/// Seconds of the processor that `obra` takes from this process. For work that never waits: what else the
+/// machine does meanwhile does not count.
+template <class Obra>
+double SegundosDeProcesador(Obra obra) {
+  const clock_t inicio = clock();
+  obra();
+  return static_cast<double>(clock() - inicio) / CLOCKS_PER_SEC;
 }
 
 /// The ratios of two sides, ours to the bare one, turn by turn.

@@ -1,13 +1,13 @@
-// From the start of the program to its visible login, and the memory that it then has for itself, against a bare
-// program of the toolkit with the same main window (ventana_llana.cpp).
+// From the start of the program to its visible login, and the memory that it then has for itself, against a
+// bare program of the toolkit with the same main window (ventana_llana.cpp).
 #include <X11/Xlib.h>
 #include <fcntl.h>
 #include <poll.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <fstream>
 #include <memory>
-#include <sstream>
 #include <stdexcept>
 #include <string>
 
@@ -26,7 +26,8 @@ class Vigia {
  public:
   Vigia() : pantalla(XOpenDisplay(nullptr), XCloseDisplay) {
     if (!pantalla) throw std::runtime_error("no se abre la pantalla");
-    XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });  // a window may be gone when we ask for its title
+    XSetErrorHandler(
+        [](Display*, XErrorEvent*) { return 0; });  // a window may be gone when we ask for its title
     XSelectInput(pantalla.get(), DefaultRootWindow(pantalla.get()), SubstructureNotifyMask);
     XSync(pantalla.get(), False);
   }
@@ -61,22 +62,25 @@ class Vigia {
   std::unique_ptr<Display, decltype(&XCloseDisplay)> pantalla;
 };
 
-/// Kilobytes of memory that the process shares with no other: what it wrote, so that code and data which the
-/// system can read again from a file do not count.
+/// Kilobytes of memory that belong to the process alone: what it has written. Pages as they stand in a file
+/// are shared with whoever else runs the same library, so they tell more about the machine than about the
+/// program.
 double MemoriaPropia(pid_t pid) {
   std::ifstream mapa("/proc/" + std::to_string(pid) + "/smaps_rollup");
-  const std::string campo = "Private_Dirty:";
+  const std::string campo = "Anonymous:";
   for (std::string linea; std::getline(mapa, linea);) {
     if (linea.compare(0, campo.size(), campo) == 0) return std::stod(linea.substr(campo.size()));
   }
   throw std::runtime_error("el sistema no dice la memoria del programa");
 }
 
+/// What a start costs.
 struct Costo {
   double segundos;
   double kilobytes;
 };
 
+/// Starts the program, waits for its window, looks at its memory and ends it.
 Costo Arranca(Vigia& vigia, const char* programa, const char* titulo) {
   const int nada = open("/dev/null", O_WRONLY | O_CLOEXEC);
   vigia.Olvida();
@@ -100,7 +104,6 @@ int main(int argc, char* argv[]) {
   for (int vuelta = 0; vuelta <= Vueltas; ++vuelta) {
     const Costo nuestro = Arranca(vigia, CORVENA, "Login");
     const Costo llano = Arranca(vigia, VENTANA_LLANA, "Tolvara V. 0.0.7a");
-    if (getenv("VER")) { printf("%.1f %.1f ms  %.0f %.0f KB\n", nuestro.segundos*1e3, llano.segundos*1e3, nuestro.kilobytes, llano.kilobytes); char c[99]; (void)c; }
     if (vuelta == 0) continue;  // the first turn warms the caches and does not count
     tiempo.Anota(nuestro.segundos, llano.segundos);
     memoria.Anota(nuestro.kilobytes, llano.kilobytes);

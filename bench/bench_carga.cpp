@@ -15,7 +15,7 @@
 namespace {
 
 constexpr int Filas = 100000;
-constexpr int Vueltas = 15;
+constexpr int Vueltas = 21;
 
 constexpr char sqlMonedas[] = "SELECT * FROM monedas;";
 constexpr char sqlRenglones[] = "SELECT * FROM renglones;";
@@ -75,15 +75,17 @@ medida::Razones Contra(const char* sql, Carga carga) {
 }
 
 void CreaTablas() {
-  Ejecuta(Sentencia("create table monedas as select to_char(i %% 100, 'FM00') as monedaid,"
-                    " (i * 0.37)::numeric(12,4) as monedavalor, 'Moneda de prueba ' || i as monedadescri"
-                    " from generate_series(1, %d) i",
-                    Filas));
+  Ejecuta(
+      Sentencia("create table monedas as select to_char(i %% 100, 'FM00') as monedaid,"
+                " (i * 0.37)::numeric(12,4) as monedavalor, 'Moneda de prueba ' || i as monedadescri"
+                " from generate_series(1, %d) i",
+                Filas));
   LanzaSiRechazada();
-  Ejecuta(Sentencia("create table renglones as select i as clave, 'Colonia de prueba ' || i as nombre,"
-                    " 'Ciudad ' || i %% 2478 as ciudad, to_char(i %% 100000, 'FM00000') as cp,"
-                    " (i * 0.37)::numeric(12,4) as valor from generate_series(1, %d) i",
-                    Filas));
+  Ejecuta(
+      Sentencia("create table renglones as select i as clave, 'Colonia de prueba ' || i as nombre,"
+                " 'Ciudad ' || i %% 2478 as ciudad, to_char(i %% 100000, 'FM00000') as cp,"
+                " (i * 0.37)::numeric(12,4) as valor from generate_series(1, %d) i",
+                Filas));
   LanzaSiRechazada();
 }
 

@@ -23,7 +23,7 @@ std::vector<cRenglon> EnOrden(int cuantas) {
 template <class Contenedor, class Pone>
 double Llenado(const std::vector<cRenglon>& filas, Pone pone) {
   Contenedor contenedor;
-  return medida::Segundos([&] {
+  return medida::SegundosDeProcesador([&] {
     for (const cRenglon& fila : filas) pone(contenedor, fila);
   });
 }

@@ -1,5 +1,5 @@
-// The record of the benchmarks: integer key, texts and a number in about a hundred bytes, as the rows that the
-// cache keeps in a sorted list.
+// The record of the benchmarks: integer key, texts and a number in about a hundred bytes, as the rows that
+// the cache keeps in a sorted list.
 #pragma once
 
 #include "framework/Registro.h"

@@ -4,8 +4,9 @@
 
 namespace {
 
-const char* const inicio[] = {"&Conectar\t\tConectarse al sistema", "&Desconectar\t\tDesconectarse del sistema",
-                              "&NO permitir opciones de conexion", nullptr, "&Salir\tCtl-Q\tSalir del sistema"};
+const char* const inicio[] = {
+    "&Conectar\t\tConectarse al sistema", "&Desconectar\t\tDesconectarse del sistema",
+    "&NO permitir opciones de conexion", nullptr, "&Salir\tCtl-Q\tSalir del sistema"};
 const char* const catalogos[] = {"&Monedas\t\tCatalogo de tipos de monedas"};
 const char* const ayuda[] = {"&Acerca del Sistema ..."};
 
@@ -33,8 +34,8 @@ Barra* Acoplada(FXMainWindow* ventana) {
 }
 
 void ArmaEstado(FXMainWindow* ventana) {
-  auto* estado = new FXStatusBar(
-      ventana, LAYOUT_SIDE_BOTTOM | LAYOUT_FILL_X | STATUSBAR_WITH_DRAGCORNER | FRAME_RAISED);
+  auto* estado =
+      new FXStatusBar(ventana, LAYOUT_SIDE_BOTTOM | LAYOUT_FILL_X | STATUSBAR_WITH_DRAGCORNER | FRAME_RAISED);
   estado->getStatusLine()->setNormalText("Listo.");
   new FXTextField(estado, 11, nullptr, 0, TEXTFIELD_READONLY | LAYOUT_RIGHT | FRAME_SUNKEN);
   new FXLabel(estado, " ", nullptr, LAYOUT_RIGHT | FRAME_SUNKEN);

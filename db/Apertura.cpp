@@ -115,7 +115,7 @@ std::string SelectDeEmpresa() {
 /// Lets go of a former handle. An open session stays open until the process ends: a further login does not
 /// close it.
 void Abandona(PGconn* anterior) {
-  static std::vector<PGconn*> abiertas;
+  static auto& abiertas = *new std::vector<PGconn*>;  // outlives every other static object
   if (PQstatus(anterior) == CONNECTION_OK) {
     abiertas.push_back(anterior);
   } else {

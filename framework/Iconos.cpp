@@ -6,7 +6,7 @@ namespace {
 
 template <class Formato>
 FXIcon* Unico(FXApp* app, const unsigned char* dibujo) {
-  static std::map<const unsigned char*, FXIcon*> iconos;
+  static auto& iconos = *new std::map<const unsigned char*, FXIcon*>;  // outlives all, as its icons do
   FXIcon*& icono = iconos[dibujo];
   if (icono == nullptr) icono = new Formato(app, dibujo, FXRGB(192, 192, 192));
   return icono;

@@ -5,9 +5,12 @@
 salida=$raiz/build/demo # a picture of each step, traza.txt (the client's standard output), errores.txt
 paciencia=20            # seconds
 
-paso=preparación # the step under way
-visto=0          # bytes of the trace that earlier steps have accounted for
+principal='Tolvara V. 0.0.7a' # title of the main window
+paso=preparación              # the step under way
+pasos=0
 fotos=0
+visto=0      # bytes of the trace that belong to earlier steps
+respuesta='' # the last thing looked at: what to tell when the step fails
 procesos=()
 
 # --- preparation ---------------------------------------------------------------------------------------------------
@@ -46,7 +49,8 @@ abre_pantalla() {
   export DISPLAY=:$numero
   openbox >"$temporal/openbox.log" 2>&1 &
   procesos+=($!)
-  espera 'no arranca el administrador de ventanas' xdotool getactivewindow
+  setxkbmap latam # a key for every letter that the steps type: one that has none is lost now and then
+  espera 'no arranca el administrador de ventanas' xdotool get_num_desktops
 }
 
 abre_cliente() {
@@ -60,12 +64,15 @@ abre_cliente() {
 # Names the step that begins. What it traces is looked for from here on.
 paso() {
   paso=$1
+  respuesta=''
+  ((++pasos))
   visto=$(stat -c %s "$salida/traza.txt" 2>/dev/null || echo 0)
   echo "- $paso"
 }
 
 no_paso() {
   echo "FALLA el paso «$paso»: $*" >&2
+  [[ ! $respuesta ]] || echo "Lo último que se vio: $respuesta" >&2
   if import -silent -window root "$salida/falla.png" 2>/dev/null; then
     echo "Así quedó la pantalla: $salida/falla.png" >&2
   fi
@@ -83,17 +90,37 @@ espera() {
   done
 }
 
-titulo_activo() { [[ $(xdotool getwindowname "$(xdotool getactivewindow)") == "$1" ]]; }
-hay_ventana() { xdotool search --onlyvisible --name "^$1\$"; }
-no_hay_ventana() { ! hay_ventana "$1"; }
+# Waits for the window with this title to have the keyboard; `ventana` is its number.
+espera_ventana() { espera "no aparece la ventana «$1»" es_activa "$1"; }
+es_activa() { ventana=$(xdotool getactivewindow) && [[ $(xdotool getwindowname "$ventana") == "$1" ]]; }
 
-# Waits for the window with this title to have the keyboard.
-espera_ventana() { espera "no aparece la ventana «$1»" titulo_activo "$1"; }
-espera_cierre() { espera "no se cierra la ventana «$1»" no_hay_ventana "$1"; }
+# Waits for another window than the last one waited for to have the keyboard.
+espera_cierre() { espera 'no se cierra la ventana' cambia_activa; }
+cambia_activa() {
+  local activa
+  activa=$(xdotool getactivewindow) && [[ $activa != "$ventana" ]]
+}
+
+# Waits for the client to end, which must be in good order.
+espera_fin() {
+  espera 'el programa no termina' termino
+  wait "$cliente" || no_paso "el programa terminó con $?"
+}
+
+termino() { ! kill -0 "$cliente"; }
 
 # Keys by their X names ("Tab", "alt+a"), one after the other.
 teclea() { xdotool key --delay 30 "$@"; }
 escribe() { xdotool type --delay 15 -- "$1"; }
+
+# Opens a pane of the menu bar. Always by way of the first one: the keys of the others can belong to a button as well.
+menu() {
+  teclea alt+i
+  case $1 in
+    Catalogos) teclea Right ;;
+    Ayuda) teclea Left ;;
+  esac
+}
 
 # Fills the fields from the one with the keyboard on.
 llena() {
@@ -105,18 +132,19 @@ llena() {
   done
 }
 
-# The boxes: waits for the one with this title, takes its picture, answers with a key and sees it go.
+# Answers a box: waits for the one with this title, takes its picture, types a key and sees it go.
 responde() {
-  espera_ventana "$1"
-  captura "$3"
-  teclea "$2"
-  espera_cierre "$1"
+  local titulo=$1 tecla=$2 nombre=$3
+  espera_ventana "$titulo"
+  captura "$nombre"
+  teclea "$tecla"
+  espera_cierre
 }
 
 # The picture of the screen once nothing moves, as build/demo/NN-$1.png.
 captura() {
   local archivo anterior='' huella='' limite=$((SECONDS + paciencia))
-  archivo=$salida/$(printf %02d "$((++fotos))")-$1.png
+  printf -v archivo '%s/%02d-%s.png' "$salida" "$((++fotos))" "$1"
   until [[ $huella && $huella == "$anterior" ]] || ((SECONDS > limite)); do
     anterior=$huella
     import -silent -window root "$archivo"
@@ -126,16 +154,20 @@ captura() {
 
 # --- outcomes ------------------------------------------------------------------------------------------------------
 
-en_traza() { tail -c "+$((visto + 1))" "$salida/traza.txt" | grep -qF -- "$1"; }
 exige_traza() { espera "falta en la traza: $1" en_traza "$1"; }
+en_traza() { tail -c "+$((visto + 1))" "$salida/traza.txt" | grep -F -- "$1"; }
 
 # What the server answers to a statement, asked as its administrator, must be $2.
-responde_servidor() { [[ $(servidor psql "$sucursal" -XAtc "$1") == "$2" ]]; }
 exige_dato() { espera "el servidor no responde «$2» a: $1" responde_servidor "$1" "$2"; }
+responde_servidor() {
+  respuesta=$(servidor psql "$sucursal" -XAtc "$1")
+  [[ $respuesta == "$2" ]]
+}
 
 # The field with the keyboard on must show $1.
-muestra() {
-  xdotool key --delay 30 ctrl+a ctrl+c
-  [[ $(timeout 2 xclip -selection clipboard -out -target UTF8_STRING) == "$1" ]]
-}
 exige_campo() { espera "el campo no muestra «$1»" muestra "$1"; }
+muestra() {
+  teclea ctrl+a ctrl+c
+  respuesta=$(timeout 2 xclip -selection clipboard -out -target UTF8_STRING)
+  [[ $respuesta == "$1" ]]
+}

@@ -31,13 +31,13 @@ BEGIN
   RETURN CASE WHEN btrim(valor) <> '' THEN texto(valor, ancho, campo) END;
 END $$;
 
--- A number between both bounds, inclusive. NULL and NaN are refused; the column rounds to its own decimals.
+-- A number between both bounds, inclusive; NaN sorts above any number. The column rounds to its own decimals.
 CREATE OR REPLACE FUNCTION numero(valor numeric, minimo numeric, maximo numeric, campo text) RETURNS numeric
 LANGUAGE plpgsql IMMUTABLE SET search_path FROM CURRENT AS $$
 BEGIN
   IF valor IS NULL THEN
     RAISE EXCEPTION 'Falta %', campo USING ERRCODE = 'not_null_violation';
-  ELSIF valor = 'NaN' OR valor NOT BETWEEN minimo AND maximo THEN
+  ELSIF valor NOT BETWEEN minimo AND maximo THEN
     RAISE EXCEPTION 'Está fuera de rango %: % no está entre % y %', campo, valor, minimo, maximo
       USING ERRCODE = 'numeric_value_out_of_range';
   END IF;

@@ -21,3 +21,10 @@ BEGIN
 EXCEPTION WHEN OTHERS THEN
   RETURN SQLERRM;
 END $$;
+
+-- The plan of a query, line by line.
+CREATE FUNCTION tap.plan(consulta text) RETURNS SETOF text
+LANGUAGE plpgsql AS $$
+BEGIN
+  RETURN QUERY EXECUTE 'EXPLAIN ' || consulta;
+END $$;

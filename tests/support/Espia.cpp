@@ -14,7 +14,9 @@ Espia* activo = nullptr;
 
 using Respuesta = std::unique_ptr<PGresult, decltype(&PQclear)>;
 
-bool Contiene(const std::string& texto, const std::string& parte) { return texto.find(parte) != std::string::npos; }
+bool Contiene(const std::string& texto, const std::string& parte) {
+  return texto.find(parte) != std::string::npos;
+}
 
 void Corta(PGconn* conexion) {
   if (PQsocket(conexion) >= 0) shutdown(PQsocket(conexion), SHUT_RDWR);
@@ -22,8 +24,8 @@ void Corta(PGconn* conexion) {
 
 // As a literal of SQL; empty without a connection.
 std::string Citado(PGconn* conexion, const std::string& texto) {
-  const std::unique_ptr<char, decltype(&PQfreemem)> citado(PQescapeLiteral(conexion, texto.c_str(), texto.size()),
-                                                           PQfreemem);
+  const std::unique_ptr<char, decltype(&PQfreemem)> citado(
+      PQescapeLiteral(conexion, texto.c_str(), texto.size()), PQfreemem);
   return citado ? citado.get() : "";
 }
 
@@ -37,9 +39,9 @@ PGresult* Falsa(const PGresult* verdadera, int columnas, int filas, const Campo&
   std::vector<PGresAttDesc> atributos;
   for (int c = 0; c < columnas; ++c) nombres.emplace_back(PQfname(verdadera, c));
   for (int c = 0; c < columnas; ++c) {
-    atributos.push_back({nombres[static_cast<size_t>(c)].data(), PQftable(verdadera, c), PQftablecol(verdadera, c),
-                         PQfformat(verdadera, c), PQftype(verdadera, c), PQfsize(verdadera, c),
-                         PQfmod(verdadera, c)});
+    atributos.push_back({nombres[static_cast<size_t>(c)].data(), PQftable(verdadera, c),
+                         PQftablecol(verdadera, c), PQfformat(verdadera, c), PQftype(verdadera, c),
+                         PQfsize(verdadera, c), PQfmod(verdadera, c)});
   }
   PQsetResultAttrs(falsa, columnas, atributos.data());
   for (int f = 0; f < filas; ++f) {
@@ -74,7 +76,8 @@ Falla Nula() {
 
 Falla Error(const std::string& texto) {
   return [texto](PGconn* conexion, const char*) {
-    // The server itself says it, on the same session: an error like any other, with its effect on a transaction.
+    // The server itself says it, on the same session: an error like any other, with its effect on a
+    // transaction.
     const std::string cuerpo = "begin raise exception using message = " + Citado(conexion, texto) + "; end";
     const PGVerbosity antes = PQsetErrorVerbosity(conexion, PQERRORS_TERSE);
     PGresult* respuesta = __real_PQexec(conexion, ("do " + Citado(conexion, cuerpo)).c_str());
@@ -84,12 +87,15 @@ Falla Error(const std::string& texto) {
 }
 
 Falla SinFilas() {
-  return Estropeada([](const PGresult* verdadera) { return Falsa(verdadera, PQnfields(verdadera), 0, Nulo); });
+  return Estropeada(
+      [](const PGresult* verdadera) { return Falsa(verdadera, PQnfields(verdadera), 0, Nulo); });
 }
 
 Falla Recortada(int columnas) {
   return Estropeada([columnas](const PGresult* verdadera) {
-    const auto campo = [verdadera](int f, int c) { return f < PQntuples(verdadera) ? PQgetvalue(verdadera, f, c) : ""; };
+    const auto campo = [verdadera](int f, int c) {
+      return f < PQntuples(verdadera) ? PQgetvalue(verdadera, f, c) : "";
+    };
     return Falsa(verdadera, std::min(columnas, PQnfields(verdadera)), AlMenosUna(verdadera), campo);
   });
 }
@@ -118,7 +124,8 @@ Falla CorteDespues() {
   return [](PGconn* conexion, const char* sentencia) {
     PQclear(__real_PQexec(conexion, sentencia));
     Corta(conexion);
-    return __real_PQexec(conexion, "");  // finds the line dead and answers as libpq does when an answer is lost
+    return __real_PQexec(conexion,
+                         "");  // finds the line dead and answers as libpq does when an answer is lost
   };
 }
 

@@ -1,7 +1,8 @@
-// The statement spy: what does the program really send to the server, and what if the server fails just there?
+// The statement spy: what does the program really send to the server, and what if the server fails just
+// there?
 //
-// Test programs are linked with `-Wl,--wrap=PQexec`. While an Espia lives, every PQexec of the program is recorded,
-// and those that it was told to spoil get another answer:
+// Test programs are linked with `-Wl,--wrap=PQexec`. While an Espia lives, every PQexec of the program is
+// recorded, and those that it was told to spoil get another answer:
 //
 //   Espia espia;
 //   espia.En(1, falla::CorteAntes());              // the second statement from now on finds the line dead
@@ -27,13 +28,13 @@ namespace pruebas {
 /// Answers a statement in the server's place; the result belongs to the caller of PQexec.
 using Falla = std::function<PGresult*(PGconn* conexion, const char* sentencia)>;
 
-/// The ways in which an answer can be bad. Those that spoil an answer send the statement first, so its effect on
-/// the server is real; a statement that yields no row gets one, so that the garbage is looked at.
+/// The ways in which an answer can be bad. Those that spoil an answer send the statement first, so its effect
+/// on the server is real; a statement that yields no row gets one, so that the garbage is looked at.
 namespace falla {
 /// No answer at all: a null result. The statement is not sent.
 Falla Nula();
-/// The server refuses: PQresultErrorMessage is "ERROR:  <texto>" and a line break. The statement is not sent, but
-/// an open transaction is broken as by any refused statement.
+/// The server refuses: PQresultErrorMessage is "ERROR:  <texto>" and a line break. The statement is not sent,
+/// but an open transaction is broken as by any refused statement.
 Falla Error(const std::string& texto);
 /// The right answer without any row.
 Falla SinFilas();

@@ -1,7 +1,7 @@
 // Answers to the modal boxes and dialogs that a test opens.
 //
-// A box blocks whoever opens it, so its answer has to be known before. A Guion is a list of steps; whenever a modal
-// window waits for the user, the next step is carried out on it:
+// A box blocks whoever opens it, so its answer has to be known before. A Guion is a list of steps; whenever a
+// modal window waits for the user, the next step is carried out on it:
 //
 //   Guion guion;
 //   guion.Responde(Respuesta::Si);                    // "Registrar ?"
@@ -9,9 +9,10 @@
 //   Pulsa(Boton(&ventana, "&Aceptar"));
 //   EXPECT_EQ(guion.Ultimo().texto, "No ha especificado la descripción");
 //
-// A window for which no step is left is a test failure, is recorded and dismissed; so no test hangs on a box. A step
-// that is left over when the Guion ends is a failure too. A dialog that is still open after its step gets the next
-// one. When nothing at all helps, the program is aborted after a time limit, with the test and the last box named.
+// A window for which no step is left is a test failure, is recorded and dismissed; so no test hangs on a box.
+// A step that is left over when the Guion ends is a failure too. A dialog that is still open after its step
+// gets the next one. When nothing at all helps, the program is aborted after a time limit, with the test and
+// the last box named.
 #pragma once
 
 #include <fx.h>
@@ -53,8 +54,8 @@ class Guion {
   void Responde(Respuesta respuesta);
   /// The next window is answered with the button of this label.
   void Responde(const std::string& rotulo);
-  /// On the next window `accion` is carried out, which may press buttons and so open further windows: those take
-  /// the steps that follow.
+  /// On the next window `accion` is carried out, which may press buttons and so open further windows: those
+  /// take the steps that follow.
   void Con(std::function<void(FXDialogBox* ventana)> accion);
 
   /// All windows so far, one for each step, in the order in which they waited for the user.
@@ -78,4 +79,3 @@ class Guion {
 };
 
 }  // namespace pruebas
-

@@ -10,7 +10,8 @@
 namespace pruebas {
 
 Memoria::Memoria(const std::string& contenido) : fd_(memfd_create("prueba", MFD_CLOEXEC)) {
-  if (fd_ < 0 || pwrite(fd_, contenido.data(), contenido.size(), 0) != static_cast<ssize_t>(contenido.size())) {
+  if (fd_ < 0 ||
+      pwrite(fd_, contenido.data(), contenido.size(), 0) != static_cast<ssize_t>(contenido.size())) {
     throw std::system_error(errno, std::generic_category(), "memfd");
   }
 }

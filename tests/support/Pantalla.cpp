@@ -16,12 +16,13 @@
 namespace pruebas {
 namespace {
 
-// Starts the X server, which chooses its number itself and writes it into the pipe, perhaps after complaints about
-// numbers that are taken; answers the number.
+// Starts the X server, which chooses its number itself and writes it into the pipe, perhaps after complaints
+// about numbers that are taken; answers the number.
 std::string AbrePantalla() {
   int tubo[2];
   if (pipe2(tubo, O_CLOEXEC) < 0) throw std::runtime_error("pipe2");
-  const Orden orden{{"Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"}};
+  const Orden orden{
+      {"Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"}};
   static const Hijo servidor(orden, tubo[1], SIGTERM);
   close(tubo[1]);
   FILE* const dicho = fdopen(tubo[0], "r");

@@ -7,8 +7,8 @@
 
 namespace pruebas {
 
-/// A main window on the screen whose first login has not been run. Its end takes all its children with it and gives
-/// the application back what it had before.
+/// A main window on the screen whose first login has not been run. Its end takes all its children with it and
+/// gives the application back what it had before.
 class Principal {
  public:
   Principal();

@@ -39,7 +39,8 @@ Textos Entorno(const Orden& orden) {
     const std::string nuestra = *v;
     const std::string nombre = nuestra.substr(0, nuestra.find('=') + 1);
     bool cambiada = false;
-    for (const std::string& dada : orden.entorno) cambiada = cambiada || dada.compare(0, nombre.size(), nombre) == 0;
+    for (const std::string& dada : orden.entorno)
+      cambiada = cambiada || dada.compare(0, nombre.size(), nombre) == 0;
     if (!cambiada) entorno.push_back(nuestra);
   }
   return entorno;
@@ -80,8 +81,8 @@ int Espera(pid_t pid) {
   return WIFSIGNALED(estado) ? PorSenal + WTERMSIG(estado) : WEXITSTATUS(estado);
 }
 
-// Stays behind until the pipe's other end, which only the test program holds, is closed; then removes the folder,
-// patiently, since a server that dies at the same moment may still write into it.
+// Stays behind until the pipe's other end, which only the test program holds, is closed; then removes the
+// folder, patiently, since a server that dies at the same moment may still write into it.
 [[noreturn]] void Guarda(int tubo, const std::filesystem::path& carpeta) {
   setsid();
   dup2(tubo, STDIN_FILENO);

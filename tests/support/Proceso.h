@@ -1,7 +1,7 @@
 // Other programs: the one place where the tests start them.
 //
-// Programs are started with fork and exec from an argument list; no shell ever sees a text of ours. A program in
-// the background dies with the test program, however that ends, and so does a temporary folder.
+// Programs are started with fork and exec from an argument list; no shell ever sees a text of ours. A program
+// in the background dies with the test program, however that ends, and so does a temporary folder.
 #pragma once
 
 #include <sys/types.h>
@@ -16,10 +16,10 @@ namespace pruebas {
 
 /// What to run, and as whom.
 struct Orden {
-  Textos argumentos;       ///< the program (looked up on the path) and its arguments
-  std::string entrada = {};                  ///< its standard input
-  Textos entorno = {};     ///< "NOMBRE=valor", on top of our own environment
-  bool comoPostgres = false;                 ///< when we are root: as the packaged user `postgres`
+  Textos argumentos;          ///< the program (looked up on the path) and its arguments
+  std::string entrada = {};   ///< its standard input
+  Textos entorno = {};        ///< "NOMBRE=valor", on top of our own environment
+  bool comoPostgres = false;  ///< when we are root: as the packaged user `postgres`
 };
 
 /// How a program ended.
@@ -55,8 +55,8 @@ class Hijo {
   int alMorir_;
 };
 
-/// A new temporary folder under $TMPDIR, removed with all its content once this program has ended, in whatever
-/// way. A root-run test program leaves it open to the user `postgres`.
+/// A new temporary folder under $TMPDIR, removed with all its content once this program has ended, in
+/// whatever way. A root-run test program leaves it open to the user `postgres`.
 class CarpetaTemporal {
  public:
   CarpetaTemporal();

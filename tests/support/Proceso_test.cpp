@@ -38,7 +38,9 @@ TEST(Corre, PoneElEntornoEnLugarDelNuestro) {
 
 TEST(Corre, UnProgramaQueNoExisteEs127) { EXPECT_EQ(Corre({{"no-hay-tal-programa"}}).codigo, 127); }
 
-TEST(Corre, UnaSenalEs128YSuNumero) { EXPECT_EQ(Corre({{"sh", "-c", "kill -TERM $$"}}).codigo, 128 + SIGTERM); }
+TEST(Corre, UnaSenalEs128YSuNumero) {
+  EXPECT_EQ(Corre({{"sh", "-c", "kill -TERM $$"}}).codigo, 128 + SIGTERM);
+}
 
 TEST(CorreBien, LanzaLoQueElProgramaDijo) {
   try {
@@ -92,7 +94,9 @@ TEST(Muerte, NoDejaHijosNiCarpetas) {
   EXPECT_TRUE(Pasa([&] { return !std::filesystem::exists(carpeta); }));
 }
 
-TEST(Raiz, EsLaDelRepositorio) { EXPECT_TRUE(std::filesystem::exists(Raiz() / "tests" / "support" / "Proceso.h")); }
+TEST(Raiz, EsLaDelRepositorio) {
+  EXPECT_TRUE(std::filesystem::exists(Raiz() / "tests" / "support" / "Proceso.h"));
+}
 
 }  // namespace
 }  // namespace pruebas

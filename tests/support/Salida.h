@@ -8,9 +8,9 @@
 
 namespace pruebas {
 
-/// From its construction to its destruction all that goes to standard output, through std::cout or C, is kept here
-/// instead. Other descriptors, standard error among them, are left alone. When the test has failed by then, the
-/// destructor passes the text on, so that no failure message is lost. May be nested.
+/// From its construction to its destruction all that goes to standard output, through std::cout or C, is kept
+/// here instead. Other descriptors, standard error among them, are left alone. When the test has failed by
+/// then, the destructor passes the text on, so that no failure message is lost. May be nested.
 class Salida {
  public:
   Salida();

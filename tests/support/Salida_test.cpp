@@ -1,6 +1,5 @@
 #include "tests/support/Salida.h"
 
-#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
 

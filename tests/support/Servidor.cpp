@@ -66,8 +66,9 @@ Textos Roles() {
 
 Textos NuevosRoles(const Textos& antes) {
   Textos nuevos = Roles();
-  nuevos.erase(std::remove_if(nuevos.begin(), nuevos.end(), [&](const std::string& rol) { return Tiene(antes, rol); }),
-               nuevos.end());
+  nuevos.erase(
+      std::remove_if(nuevos.begin(), nuevos.end(), [&](const std::string& rol) { return Tiene(antes, rol); }),
+      nuevos.end());
   return nuevos;
 }
 
@@ -109,10 +110,11 @@ void ConstruyeCompleta(const std::string& base) {
       {instala, "demostracion", "sur"},
   };
   for (const auto& paso : pasos) CorreBien({paso, "", entorno});
-  EnElServidor(std::string("do $$ declare login text; begin"
-                           "  for login in select rolname from pg_roles where rolcanlogin and not rolsuper loop"
-                           "    execute format('alter role %I password %L', login, '") +
-               BaseDatos::Clave + "'); end loop; end $$");
+  EnElServidor(
+      std::string("do $$ declare login text; begin"
+                  "  for login in select rolname from pg_roles where rolcanlogin and not rolsuper loop"
+                  "    execute format('alter role %I password %L', login, '") +
+      BaseDatos::Clave + "'); end loop; end $$");
 }
 
 }  // namespace
@@ -132,23 +134,25 @@ Servidor::Servidor() {
       throw std::runtime_error("no se puede dar la carpeta al usuario postgres");
     }
   }
-  Orden orden{{Programa("initdb"), "--pgdata", carpeta_.Ruta() / "datos", "--username", usuario_, "--pwfile", clave,
-               "--auth", "scram-sha-256", "--encoding", "UTF8", "--locale", "C.UTF-8", "--no-sync"}};
+  Orden orden{{Programa("initdb"), "--pgdata", carpeta_.Ruta() / "datos", "--username", usuario_, "--pwfile",
+               clave, "--auth", "scram-sha-256", "--encoding", "UTF8", "--locale", "C.UTF-8", "--no-sync"}};
   orden.comoPostgres = true;
   CorreBien(orden);
   for (int intento = 0; intento < 10 && !proceso_; ++intento) {
     puerto_ = PuertoLibre();
     Enciende();
   }
-  if (!proceso_) throw std::runtime_error("el servidor no arranca:\n" + TextoDe(carpeta_.Ruta() / "bitacora"));
+  if (!proceso_)
+    throw std::runtime_error("el servidor no arranca:\n" + TextoDe(carpeta_.Ruta() / "bitacora"));
 }
 
 void Servidor::Enciende() {
   const std::filesystem::path bitacora = carpeta_.Ruta() / "bitacora";
   const int salida = open(bitacora.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644);
   Orden orden{{Programa("postgres"), "-D", carpeta_.Ruta() / "datos", "-p", puerto_, "-k", carpeta_.Ruta()}};
-  for (const char* ajuste : {"listen_addresses=127.0.0.1", "fsync=off", "synchronous_commit=off",
-                             "full_page_writes=off", "autovacuum=off", "shared_buffers=32MB", "wal_level=minimal", "max_wal_senders=0"}) {
+  for (const char* ajuste :
+       {"listen_addresses=127.0.0.1", "fsync=off", "synchronous_commit=off", "full_page_writes=off",
+        "autovacuum=off", "shared_buffers=32MB", "wal_level=minimal", "max_wal_senders=0"}) {
     orden.argumentos.insert(orden.argumentos.end(), {"-c", ajuste});
   }
   orden.comoPostgres = true;
@@ -166,12 +170,14 @@ bool Servidor::Responde() const {
   return PQping(donde.c_str()) == PQPING_OK && !proceso_->Acabo();
 }
 
-Conexion Servidor::Conecta(const std::string& base, const std::string& usuario, const std::string& clave) const {
+Conexion Servidor::Conecta(const std::string& base, const std::string& usuario,
+                           const std::string& clave) const {
   const char* const nombres[] = {"host", "port", "dbname", "user", "password", "client_encoding", nullptr};
-  const char* const valores[] = {host_.c_str(),    puerto_.c_str(), base.c_str(), usuario.c_str(),
+  const char* const valores[] = {host_.c_str(), puerto_.c_str(), base.c_str(), usuario.c_str(),
                                  clave.c_str(), "UTF8",          nullptr};
   Conexion conexion(PQconnectdbParams(nombres, valores, 0), PQfinish);
-  PQsetNoticeProcessor(conexion.get(), [](void*, const char*) {}, nullptr);
+  PQsetNoticeProcessor(
+      conexion.get(), [](void*, const char*) {}, nullptr);
   return conexion;
 }
 
@@ -180,7 +186,8 @@ Textos Servidor::Entorno(const std::string& base) const {
           "PGDATABASE=" + base};
 }
 
-void Servidor::Plantilla(const std::string& nombre, const std::function<void(const std::string&)>& constructor) {
+void Servidor::Plantilla(const std::string& nombre,
+                         const std::function<void(const std::string&)>& constructor) {
   if (Tiene(plantillas_, nombre)) return;
   EnElServidor("drop database if exists " + Cita(nombre));  // left by a constructor that failed
   EnElServidor("create database " + Cita(nombre) + " template template0");
@@ -197,7 +204,8 @@ void Servidor::Detiene() {
 
 void Servidor::Arranca() {
   if (!proceso_) Enciende();
-  if (!proceso_) throw std::runtime_error("el servidor no arranca:\n" + TextoDe(carpeta_.Ruta() / "bitacora"));
+  if (!proceso_)
+    throw std::runtime_error("el servidor no arranca:\n" + TextoDe(carpeta_.Ruta() / "bitacora"));
 }
 
 void Servidor::Reinicia() {
@@ -244,7 +252,9 @@ Conexion BaseDatos::Conecta(const std::string& usuario, const std::string& clave
   return Servidor::Unico().Conecta(nombre_, usuario, clave);
 }
 
-Conexion BaseDatos::Conecta() const { return Conecta(Servidor::Unico().usuario(), Servidor::Unico().clave()); }
+Conexion BaseDatos::Conecta() const {
+  return Conecta(Servidor::Unico().usuario(), Servidor::Unico().clave());
+}
 
 std::string BaseDatos::Instala(const Textos& argumentos, const std::string& entrada) const {
   Orden orden{{Raiz() / "server" / "instala"}, entrada, Servidor::Unico().Entorno(nombre_)};

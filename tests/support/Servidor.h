@@ -1,8 +1,9 @@
 // A real PostgreSQL for the tests.
 //
-// The first use starts a private cluster: temporary folder, free port below 10000 (the login's port field takes
-// four digits) on 127.0.0.1, a socket, passwords asked for, durability off. It is stopped and removed when the test
-// program ends, also by a crash. Each test works in a database of its own, cloned from a template:
+// The first use starts a private cluster: temporary folder, free port below 10000 (the login's port field
+// takes four digits) on 127.0.0.1, a socket, passwords asked for, durability off. It is stopped and removed
+// when the test program ends, also by a crash. Each test works in a database of its own, cloned from a
+// template:
 //
 //   BaseDatos base;                          // with the branches norte and sur
 //   BaseDatos base(BaseDatos::Vacia);        // nothing in it: no role, no schema, no table of ours
@@ -33,10 +34,10 @@ class Servidor {
   /// The one cluster; started by the first call. Throws std::runtime_error when it does not come up.
   static Servidor& Unico();
 
-  const std::string& host() const { return host_; }          ///< "127.0.0.1"
-  const std::string& puerto() const { return puerto_; }      ///< four digits
-  const std::string& usuario() const { return usuario_; }    ///< the superuser's login
-  const std::string& clave() const { return clave_; }        ///< the superuser's password
+  const std::string& host() const { return host_; }        ///< "127.0.0.1"
+  const std::string& puerto() const { return puerto_; }    ///< four digits
+  const std::string& usuario() const { return usuario_; }  ///< the superuser's login
+  const std::string& clave() const { return clave_; }      ///< the superuser's password
 
   /// Opens a connection; never throws: test it with PQstatus. Its notices go nowhere.
   Conexion Conecta(const std::string& base, const std::string& usuario, const std::string& clave) const;
@@ -44,9 +45,9 @@ class Servidor {
   /// PGHOST, PGPORT, PGUSER, PGPASSWORD, PGDATABASE: what a script needs to reach that database as superuser.
   Textos Entorno(const std::string& base) const;
 
-  /// Makes the template `nombre` (a database) with `constructor`, the first time only: a second call with the same
-  /// name does nothing. `constructor` gets the name of the empty database that it has to fill; logins that it
-  /// creates stay.
+  /// Makes the template `nombre` (a database) with `constructor`, the first time only: a second call with the
+  /// same name does nothing. `constructor` gets the name of the empty database that it has to fill; logins
+  /// that it creates stay.
   void Plantilla(const std::string& nombre, const std::function<void(const std::string& base)>& constructor);
 
   /// Stops the server: every connection breaks and none can be made. Data stays.
@@ -80,8 +81,9 @@ class Servidor {
 /// login that was created meanwhile.
 class BaseDatos {
  public:
-  static constexpr const char* Vacia = "vacia";          ///< an empty database
-  static constexpr const char* Completa = "plantilla";   ///< the reference database, branches norte and sur, with data
+  static constexpr const char* Vacia = "vacia";  ///< an empty database
+  static constexpr const char* Completa =
+      "plantilla";  ///< the reference database, branches norte and sur, with data
 
   static constexpr const char* Clave = "clave de prueba";  ///< password of every login of Completa
 
@@ -105,7 +107,8 @@ class BaseDatos {
   /// A connection of the superuser to this database.
   Conexion Conecta() const;
 
-  /// Runs server/instala with these arguments on this database. Throws with the script's output when it fails.
+  /// Runs server/instala with these arguments on this database. Throws with the script's output when it
+  /// fails.
   std::string Instala(const Textos& argumentos, const std::string& entrada = "") const;
   /// A user of the branch with a password, made by server/instala.
   void Usuario(const std::string& login, const std::string& sucursal, const std::string& tipo,

@@ -17,7 +17,8 @@ TEST(Servidor, PideLaClave) {
   EXPECT_EQ(PQstatus(base.Conecta().get()), CONNECTION_OK);
   const Conexion mala = base.Conecta(Servidor::Unico().usuario(), "otra");
   EXPECT_EQ(PQstatus(mala.get()), CONNECTION_BAD);
-  EXPECT_NE(std::string(PQerrorMessage(mala.get())).find("FATAL:  password authentication failed"), std::string::npos);
+  EXPECT_NE(std::string(PQerrorMessage(mala.get())).find("FATAL:  password authentication failed"),
+            std::string::npos);
 }
 
 TEST(Servidor, ArmaUnaPlantillaUnaSolaVez) {
@@ -26,7 +27,8 @@ TEST(Servidor, ArmaUnaPlantillaUnaSolaVez) {
     ++veces;
     const Conexion conexion =
         Servidor::Unico().Conecta(nombre, Servidor::Unico().usuario(), Servidor::Unico().clave());
-    PQclear(PQexec(conexion.get(), "create table t(n int); insert into t values (1); create role de_plantilla"));
+    PQclear(
+        PQexec(conexion.get(), "create table t(n int); insert into t values (1); create role de_plantilla"));
   };
   for (int i = 0; i < 2; ++i) {
     Servidor::Unico().Plantilla("con_tabla", arma);

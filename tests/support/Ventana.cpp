@@ -55,7 +55,8 @@ struct Suceso : FXEvent {
 void Refresca() { App().forceRefresh(); }
 
 void ExigeUsable(FXWindow* pieza) {
-  if (!Usable(pieza)) throw std::runtime_error(std::string("un usuario no alcanza este ") + pieza->getClassName());
+  if (!Usable(pieza))
+    throw std::runtime_error(std::string("un usuario no alcanza este ") + pieza->getClassName());
 }
 
 void Clic(FXWindow* pieza, FXint x, FXint y) {
@@ -129,7 +130,8 @@ FXMenuCommand* Opcion(FXWindow* duena, const std::string& rotulo) {
 
 FXWindow* PiezaJuntoA(FXWindow* raiz, const std::string& etiqueta, size_t cual) {
   for (FXLabel* pieza : Todos<FXLabel>(raiz)) {
-    if (EsEtiqueta(pieza) && Dice(pieza, etiqueta) && pieza->getNext() && cual-- == 0) return pieza->getNext();
+    if (EsEtiqueta(pieza) && Dice(pieza, etiqueta) && pieza->getNext() && cual-- == 0)
+      return pieza->getNext();
   }
   NoHallado(raiz, "nada junto a " + etiqueta);
 }
@@ -166,7 +168,8 @@ void Escribe(FXTextField* campo, const std::string& texto) {
     if (letra == '\n') {
       Teclea(ventana, KEY_Return, 0, "\r");
     } else {
-      Teclea(ventana, letra, 0, teclas.mid(i, teclas.inc(i) - i));  // the keys of Latin-1 are numbered like it
+      Teclea(ventana, letra, 0,
+             teclas.mid(i, teclas.inc(i) - i));  // the keys of Latin-1 are numbered like it
     }
   }
   Refresca();

@@ -1,9 +1,10 @@
 // Windows under test: finding a widget by what the screen shows, and acting on it as a user does.
 //
-// Widgets are found by their labels. A label given with "&" has to match its shortcut too; without, only the text
-// counts. What is not found, or cannot be used by a user (hidden, disabled, not created), is a std::runtime_error
-// whose text lists what there is. Actions send the toolkit the events of mouse and keyboard, so that limits,
-// filters, focus and notifications work as on a desktop, and then bring the screen up to date.
+// Widgets are found by their labels. A label given with "&" has to match its shortcut too; without, only the
+// text counts. What is not found, or cannot be used by a user (hidden, disabled, not created), is a
+// std::runtime_error whose text lists what there is. Actions send the toolkit the events of mouse and
+// keyboard, so that limits, filters, focus and notifications work as on a desktop, and then bring the screen
+// up to date.
 #pragma once
 
 #include <fx.h>
@@ -46,8 +47,8 @@ FXList* Lista(FXWindow* raiz, size_t cual = 0);
 /// The entry of a menu pane that belongs to `duena`, cascades included.
 FXMenuCommand* Opcion(FXWindow* duena, const std::string& rotulo);
 
-/// The widget right after the label "etiqueta" in its matrix, or inside that widget. Number `cual` of those whose
-/// label reads so.
+/// The widget right after the label "etiqueta" in its matrix, or inside that widget. Number `cual` of those
+/// whose label reads so.
 FXWindow* PiezaJuntoA(FXWindow* raiz, const std::string& etiqueta, size_t cual = 0);
 [[noreturn]] void NoHallado(FXWindow* raiz, const std::string& que);
 template <class T>
@@ -74,7 +75,8 @@ void Pulsa(FXWindow* pieza);
 void Escribe(FXTextField* campo, const std::string& texto);
 /// The same in the field right after a label.
 void Escribe(FXWindow* raiz, const std::string& etiqueta, const std::string& texto);
-/// One key (KEY_Return, KEY_Escape, KEY_Tab...) for the window in which `pieza` is, after giving it the focus.
+/// One key (KEY_Return, KEY_Escape, KEY_Tab...) for the window in which `pieza` is, after giving it the
+/// focus.
 void Tecla(FXWindow* pieza, FXuint codigo, FXuint estado = 0, const std::string& texto = "");
 /// A click on a row of a list.
 void EligeRenglon(FXList* lista, FXint renglon);

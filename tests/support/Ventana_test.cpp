@@ -98,7 +98,8 @@ TEST_F(VentanaTest, LoNoHalladoDiceLoQueHay) {
     Boton(forma_, "&Borrar");
     FAIL() << "no lanzó";
   } catch (const std::runtime_error& error) {
-    EXPECT_NE(std::string(error.what()).find("&Borrar; dice: \"&Clave:\""), std::string::npos) << error.what();
+    EXPECT_NE(std::string(error.what()).find("&Borrar; dice: \"&Clave:\""), std::string::npos)
+        << error.what();
   }
 }
 
@@ -194,7 +195,8 @@ TEST_F(VentanaTest, LaFotoMuestraLaVentana) {
   ASSERT_TRUE(foto.loadPixels(entrada));
   ASSERT_EQ(foto.getWidth(), forma_->boton->getWidth());
   int rojos = 0;
-  for (FXint i = 0; i < foto.getWidth() * foto.getHeight(); ++i) rojos += foto.getData()[i] == FXRGB(255, 0, 0);
+  for (FXint i = 0; i < foto.getWidth() * foto.getHeight(); ++i)
+    rojos += foto.getData()[i] == FXRGB(255, 0, 0);
   EXPECT_GT(rojos, foto.getWidth() * foto.getHeight() / 2);
   EXPECT_THROW(Foto((carpeta.Ruta() / "no" / "hay.png").string()), std::runtime_error);
 }
@@ -230,7 +232,8 @@ TEST(Area, AbreHijasYLasCierraConsigo) {
 TEST(Ajustes, VivenEnUnaCasaPropia) {
   App().reg().writeStringEntry("SETTINGS", "user", "ana");
   EXPECT_TRUE(App().reg().write());
-  EXPECT_TRUE(std::filesystem::exists(std::filesystem::path(getenv("HOME")) / ".foxrc" / "Tolvara" / "corvena"));
+  EXPECT_TRUE(
+      std::filesystem::exists(std::filesystem::path(getenv("HOME")) / ".foxrc" / "Tolvara" / "corvena"));
   EXPECT_NE(std::string(getenv("HOME")).find("tolvara-"), std::string::npos);
   SinAjustes();
   EXPECT_STREQ(App().reg().readStringEntry("SETTINGS", "user", "xxx"), "xxx");
