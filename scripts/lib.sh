@@ -1,12 +1,11 @@
 # What the scripts share: the root of the repository, the packages that they need, the build. To be sourced.
 raiz=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
-paquetes_construccion=(g++ cmake ninja-build pkg-config libfox-1.6-dev libpq-dev)
+paquetes_programa=(g++ cmake ninja-build pkg-config libfox-1.6-dev libpq-dev fonts-liberation) # the face "arial"
 paquetes_servidor=(postgresql-15)
-paquetes_letra=(fonts-liberation) # answers for "arial"
-paquetes_visita=(xvfb openbox xdotool xclip imagemagick)
-paquetes_pruebas=(libgtest-dev clang-format postgresql-15-pgtap libtap-parser-sourcehandler-pgtap-perl)
-paquetes_bench=(libbenchmark-dev)
+paquetes_pantalla=(xvfb openbox xdotool xclip imagemagick)
+paquetes_pruebas=(libgtest-dev)
+paquetes_revision=(clang-format postgresql-15-pgtap libtap-parser-sourcehandler-pgtap-perl)
 
 falla() {
   printf '%s: %s\n' "$(basename "$0")" "$*" >&2

@@ -736,7 +736,7 @@ TEST_F(LoginFallaTest, UnaRespuestaMalaEnCualquierSentencia) {
       {"nula", falla::Nula(), "xx.x.xxx.x.."},
       {"error", falla::Error("se acabó %s %n %%"), "xxxx.xxx.x.."},
       {"sin filas", falla::SinFilas(), "...x.f......"},
-      {"sin columnas", falla::Recortada(0), "...s.f......"},
+      {"sin columnas", falla::Recortada(0), "...x.f......"},
       {"una columna", falla::Recortada(1), "...s........"},
       {"nulos", falla::ConNulos(), "...s.f......"},
       {"textos largos", falla::ConTextos(), "...s.f......"},

@@ -186,7 +186,10 @@ TEST_F(LoginWindowTest, GuardaLosAjustesTambienEnElDisco) {
   }
 }
 
-TEST_F(LoginWindowTest, EsperaLaContrasena) { EXPECT_TRUE(CampoJuntoA(&Login(), "Password:")->hasFocus()); }
+TEST_F(LoginWindowTest, EsperaLaContrasena) {
+  const FXTextField* const clave = CampoJuntoA(&Login(), "Password:");
+  EXPECT_EQ(clave->getParent()->getFocus(), clave);
+}
 
 TEST_F(LoginWindowTest, LasOpcionesSeAbrenYSeCierran) {
   EXPECT_FALSE(Usable(CampoJuntoA(&Login(), "DB:")));
