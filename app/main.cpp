@@ -8,6 +8,7 @@
 int main(int argc, char* argv[]) {
   try {
     FXApp app("corvena", "Tolvara");  // the two names select the file of the settings
+    delete app.getTranslator();       // the toolkit lets go of it without deleting it
     app.setTranslator(new Traductor(&app));
     app.init(argc, argv);
     new Caja(&app);

@@ -4,30 +4,34 @@
 
 namespace {
 
-constexpr int anchoDeLinea = 110;    // characters
-constexpr int largoDelTexto = 2000;  // bytes: a box must fit on the screen
+// A box must fit on the screen.
+constexpr int largoDelTexto = 2000;  // bytes
+constexpr int anchoDeLinea = 90;     // characters
+constexpr int lineasDeCaja = 30;
 
-/// Breaks the lines that are too wide for a box, at a blank where there is one.
+/// Where the line that begins at `inicio` ends: at its line end, or behind the last blank that still fits, or
+/// where the width is used up.
+FXint FinDeLinea(const FXString& texto, FXint inicio) {
+  FXint blanco = -1, ancho = 0;
+  for (FXint i = inicio; i < texto.length(); i = texto.inc(i)) {
+    if (texto[i] == '\n') return i;
+    if (ancho++ == anchoDeLinea) return blanco > inicio ? blanco + 1 : i;
+    if (texto[i] == ' ') blanco = i;
+  }
+  return texto.length();
+}
+
 FXString EnLineas(const FXString& texto) {
   FXString lineas;
-  FXint inicio = 0, blanco = -1, ancho = 0;
-  for (FXint i = 0; i < texto.length(); i = texto.inc(i)) {
-    if (texto[i] == '\n') {
-      lineas += texto.mid(inicio, i + 1 - inicio);
-      inicio = texto.inc(i);
-      blanco = -1;
-      ancho = 0;
-      continue;
-    }
-    if (texto[i] == ' ') blanco = i;
-    if (++ancho <= anchoDeLinea) continue;
-    const FXint corte = blanco > inicio ? blanco + 1 : i;
-    lineas += texto.mid(inicio, corte - inicio) + "\n";
-    inicio = corte;
-    blanco = -1;
-    ancho = texto.mid(inicio, texto.inc(i) - inicio).count();
+  FXint inicio = 0;
+  for (int i = 0; i < lineasDeCaja; ++i) {
+    const FXint fin = FinDeLinea(texto, inicio);
+    lineas += texto.mid(inicio, fin - inicio);
+    if (fin == texto.length()) break;
+    lineas += '\n';
+    inicio = texto[fin] == '\n' ? fin + 1 : fin;
   }
-  return lineas + texto.mid(inicio, texto.length() - inicio);
+  return lineas;
 }
 
 /// `texto` as the box shows it.

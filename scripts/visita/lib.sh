@@ -22,8 +22,11 @@ prepara() {
   temporal=$(mktemp -d "${TMPDIR:-/tmp}/tolvara-visita.XXXXXX")
   trap recoge EXIT
   trap 'exit 130' INT TERM HUP
+  set -o errtrace
+  trap 'no_paso "no se pudo: $BASH_COMMAND"' ERR
   chmod 711 "$temporal" # for the server's own user
   export HOME=$temporal/casa TOLVARA_DATOS=$temporal/servidor TOLVARA_PRUEBAS=1
+  export LC_ALL=C.UTF-8 # in which xdotool reads what it types
   mkdir "$HOME"
   prepara_demostracion
   abre_pantalla
@@ -73,6 +76,7 @@ paso() {
 no_paso() {
   echo "FALLA el paso «$paso»: $*" >&2
   [[ ! $respuesta ]] || echo "Lo último que se vio: $respuesta" >&2
+  [[ ! ${cliente:-} ]] || kill -0 "$cliente" 2>/dev/null || echo 'El programa ya no está en marcha.' >&2
   if import -silent -window root "$salida/falla.png" 2>/dev/null; then
     echo "Así quedó la pantalla: $salida/falla.png" >&2
   fi

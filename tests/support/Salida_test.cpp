@@ -4,7 +4,10 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <iostream>
+
+#include "tests/support/Memoria.h"
 
 namespace pruebas {
 namespace {
@@ -40,11 +43,29 @@ TEST(Salida, NoTomaLoDeAntesNiLoDeDespues) {
 }
 
 TEST(Salida, DejaEnPazLaSalidaDeErrores) {
+  const Memoria errores;
+  const int verdadera = dup(STDERR_FILENO);
+  dup2(errores.fd(), STDERR_FILENO);
   const Salida salida;
-  std::cerr << "";
-  std::fputs("", stderr);
-  EXPECT_EQ(write(STDERR_FILENO, "", 0), 0);
+  std::cerr << "uno";
+  dup2(verdadera, STDERR_FILENO);
+  close(verdadera);
+  EXPECT_EQ(errores.Texto(), "uno");
   EXPECT_EQ(salida.Texto(), "");
+}
+
+TEST(SalidaDeathTest, DevuelveElTextoDeUnaPruebaQueFalla) {
+  EXPECT_EXIT(
+      {
+        dup2(STDERR_FILENO, STDOUT_FILENO);  // a death test looks at standard error
+        {
+          const Salida salida;
+          std::cout << "lo que se escribió";
+          ADD_FAILURE();
+        }
+        std::exit(0);
+      },
+      testing::ExitedWithCode(0), "lo que se escribió");
 }
 
 TEST(Salida, TomaMuchoTexto) {

@@ -1,0 +1,201 @@
+-- The chart of accounts. Accounts of type "A" take postings; those of type "C" only add up what is below them. Numbers
+-- are ordered byte by byte, so that an account comes right ahead of those below it in every locale.
+CREATE TABLE catalogo_ctas (
+  cuentaid character(24) COLLATE "C" PRIMARY KEY,
+  cuentaacumula character(24) REFERENCES catalogo_ctas CHECK (cuentaacumula <> cuentaid),
+  identificacion character(1) NOT NULL CHECK (identificacion BETWEEN '0' AND '6'),
+  cuentanombre varchar(100) NOT NULL,
+  tipo_cta character(1) NOT NULL CHECK (tipo_cta IN ('A', 'C')),
+  estado_cta varchar(2) NOT NULL DEFAULT 'A',
+  fecha_estado date,
+  fecha_ult_mov date,
+  naturaleza character(1) NOT NULL CHECK (naturaleza IN ('A', 'D')),
+  digito_agrupador numeric(6,2) NOT NULL DEFAULT 0,
+  saldo_inic_ejer numeric(18,2) NOT NULL DEFAULT 0,
+  cargos_acum_ejer numeric(18,2) NOT NULL DEFAULT 0,
+  abonos_acum_ejer numeric(18,2) NOT NULL DEFAULT 0
+);
+COMMENT ON TABLE catalogo_ctas IS 'cuentas contables: catálogo de cuentas de la institución';
+COMMENT ON COLUMN catalogo_ctas.cuentaacumula IS 'cuenta en la que acumula; ninguna en el primer nivel';
+COMMENT ON COLUMN catalogo_ctas.identificacion IS
+  'rubro: 0 orden, 1 activo, 2 pasivo, 3 capital, 4 ingresos, 5 egresos, 6 resultados';
+COMMENT ON COLUMN catalogo_ctas.tipo_cta IS '"A" afectable, "C" acumulativa';
+COMMENT ON COLUMN catalogo_ctas.estado_cta IS '"A" activa, "B" de baja';
+COMMENT ON COLUMN catalogo_ctas.naturaleza IS '"A" acreedora, "D" deudora';
+CREATE INDEX ON catalogo_ctas (cuentaacumula);
+
+CREATE TRIGGER bitacora AFTER INSERT OR UPDATE OR DELETE ON catalogo_ctas
+  FOR EACH ROW EXECUTE FUNCTION anota_bitacora('cuentaid');
+
+-- What other catalogues do with an account that they are given, `campo` being its name with the article. Blank is none
+-- (NULL), unless it is required.
+CREATE FUNCTION cuenta_existente(cuenta text, campo text) RETURNS text
+LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+BEGIN
+  IF btrim(cuenta) <> ''
+     AND NOT EXISTS (SELECT FROM catalogo_ctas WHERE cuentaid = texto(cuenta, 24, campo)::bpchar) THEN
+    RAISE EXCEPTION 'No existe %: % no está en el catálogo de cuentas', campo, rtrim(cuenta)
+      USING ERRCODE = 'foreign_key_violation';
+  END IF;
+  RETURN nullif(rtrim(cuenta), '');
+END $$;
+
+CREATE FUNCTION cuenta_afectable(cuenta text, campo text) RETURNS text
+LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+BEGIN
+  IF (SELECT tipo_cta FROM catalogo_ctas WHERE cuentaid = cuenta_existente(cuenta, campo)::bpchar) <> 'A' THEN
+    RAISE EXCEPTION 'No es afectable %: % acumula a otras cuentas', campo, rtrim(cuenta)
+      USING ERRCODE = 'check_violation';
+  END IF;
+  RETURN nullif(rtrim(cuenta), '');
+END $$;
+
+CREATE FUNCTION cuenta_requerida(cuenta text, campo text) RETURNS text
+LANGUAGE sql STABLE SET search_path FROM CURRENT
+RETURN cuenta_afectable(obligatorio(cuenta, 24, campo), campo);
+
+-- The row's values as they will be stored, or a refusal; shared by insert and update.
+CREATE FUNCTION cuenta_valida(cuenta text, acumula text, rubro text, nombre text, tipo text, estado text,
+                              fecha_del_estado text, ultimo_movimiento text, naturaleza text, digito numeric,
+                              saldo numeric, cargos numeric, abonos numeric) RETURNS catalogo_ctas
+LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+DECLARE
+  fila catalogo_ctas;
+  maximo CONSTANT numeric := 9999999999999999.99;
+BEGIN
+  fila.cuentaid := obligatorio(cuenta, 24, 'la cuenta');
+  fila.cuentaacumula := cuenta_existente(acumula, 'la cuenta en que acumula');
+  fila.identificacion := obligatorio(rubro, 1, 'el rubro');
+  fila.cuentanombre := obligatorio(nombre, 100, 'el nombre de la cuenta');
+  fila.tipo_cta := obligatorio(tipo, 1, 'el tipo de cuenta');
+  fila.estado_cta := texto(estado, 2, 'el estado de la cuenta');
+  fila.fecha_estado := fecha_opcional(fecha_del_estado);
+  fila.fecha_ult_mov := fecha_opcional(ultimo_movimiento);
+  fila.naturaleza := obligatorio(naturaleza, 1, 'la naturaleza');
+  fila.digito_agrupador := numero(digito, 0, 9999.99, 'el dígito agrupador');
+  fila.saldo_inic_ejer := numero(saldo, -maximo, maximo, 'el saldo inicial');
+  fila.cargos_acum_ejer := numero(cargos, -maximo, maximo, 'los cargos acumulados');
+  fila.abonos_acum_ejer := numero(abonos, -maximo, maximo, 'los abonos acumulados');
+
+  IF fila.identificacion NOT BETWEEN '0' AND '6' THEN
+    RAISE EXCEPTION 'El rubro debe ser un número del 0 al 6' USING ERRCODE = 'check_violation';
+  ELSIF fila.tipo_cta NOT IN ('A', 'C') THEN
+    RAISE EXCEPTION 'El tipo de cuenta debe ser A (afectable) o C (acumulativa)' USING ERRCODE = 'check_violation';
+  ELSIF fila.naturaleza NOT IN ('A', 'D') THEN
+    RAISE EXCEPTION 'La naturaleza debe ser A (acreedora) o D (deudora)' USING ERRCODE = 'check_violation';
+  ELSIF (SELECT c.tipo_cta FROM catalogo_ctas c WHERE c.cuentaid = fila.cuentaacumula) = 'A' THEN
+    RAISE EXCEPTION 'La cuenta % es afectable: ninguna puede acumular en ella', rtrim(fila.cuentaacumula)
+      USING ERRCODE = 'check_violation';
+  END IF;
+  PERFORM exige_sin_ciclo(fila.cuentaid, fila.cuentaacumula);
+  RETURN fila;
+END $$;
+
+-- Refuses an account that would accumulate, through those above it, in itself.
+CREATE FUNCTION exige_sin_ciclo(cuenta character, acumula character) RETURNS void
+LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+BEGIN
+  IF EXISTS (WITH RECURSIVE arriba AS (
+               SELECT acumula AS id
+               UNION
+               SELECT c.cuentaacumula FROM catalogo_ctas c JOIN arriba ON c.cuentaid = arriba.id)
+             SELECT FROM arriba WHERE id = cuenta) THEN
+    RAISE EXCEPTION 'La cuenta % no puede acumular en sí misma', rtrim(cuenta) USING ERRCODE = 'check_violation';
+  END IF;
+END $$;
+
+CREATE FUNCTION spscatalogo_ctas(clave text)
+RETURNS TABLE (cuentaid character(24), cuentaacumula character(24), identificacion character(1),
+               cuentanombre varchar(100), tipo_cta character(1), estado_cta varchar(2), fecha_estado date,
+               fecha_ult_mov date, naturaleza character(1), digito_agrupador numeric, saldo_inic_ejer numeric,
+               cargos_acum_ejer numeric, abonos_acum_ejer numeric)
+LANGUAGE sql STABLE
+BEGIN ATOMIC
+  SELECT c.cuentaid, c.cuentaacumula, c.identificacion, c.cuentanombre, c.tipo_cta, c.estado_cta, c.fecha_estado,
+         c.fecha_ult_mov, c.naturaleza, c.digito_agrupador, c.saldo_inic_ejer, c.cargos_acum_ejer, c.abonos_acum_ejer
+    FROM catalogo_ctas c
+   WHERE coalesce(btrim(clave), '') = '' OR c.cuentaid = clave::bpchar
+   ORDER BY c.cuentaid;
+END;
+
+CREATE FUNCTION spicatalogo_ctas(cuenta text, acumula text, rubro text, nombre text, tipo text, estado text,
+                                 fecha_del_estado text, ultimo_movimiento text, naturaleza text, digito numeric,
+                                 saldo numeric, cargos numeric, abonos numeric) RETURNS void
+LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
+DECLARE
+  fila catalogo_ctas;
+BEGIN
+  PERFORM exige_permiso('0901');
+  fila := cuenta_valida(cuenta, acumula, rubro, nombre, tipo, estado, fecha_del_estado, ultimo_movimiento, naturaleza,
+                        digito, saldo, cargos, abonos);
+  INSERT INTO catalogo_ctas SELECT fila.* ON CONFLICT DO NOTHING;
+  IF NOT FOUND THEN
+    RAISE EXCEPTION 'La cuenta % ya existe', rtrim(cuenta) USING ERRCODE = 'unique_violation';
+  END IF;
+END $$;
+
+CREATE FUNCTION spucatalogo_ctas(cuenta text, acumula text, rubro text, nombre text, tipo text, estado text,
+                                 fecha_del_estado text, ultimo_movimiento text, naturaleza text, digito numeric,
+                                 saldo numeric, cargos numeric, abonos numeric) RETURNS void
+LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
+DECLARE
+  fila catalogo_ctas;
+BEGIN
+  PERFORM exige_permiso('0901');
+  fila := cuenta_valida(cuenta, acumula, rubro, nombre, tipo, estado, fecha_del_estado, ultimo_movimiento, naturaleza,
+                        digito, saldo, cargos, abonos);
+  IF fila.tipo_cta = 'A' AND EXISTS (SELECT FROM catalogo_ctas WHERE cuentaacumula = fila.cuentaid) THEN
+    RAISE EXCEPTION 'La cuenta % no puede ser afectable: otras acumulan en ella', rtrim(cuenta)
+      USING ERRCODE = 'check_violation';
+  END IF;
+  UPDATE catalogo_ctas
+     SET (cuentaid, cuentaacumula, identificacion, cuentanombre, tipo_cta, estado_cta, fecha_estado, fecha_ult_mov,
+          naturaleza, digito_agrupador, saldo_inic_ejer, cargos_acum_ejer, abonos_acum_ejer) = (SELECT fila.*)
+   WHERE cuentaid = fila.cuentaid;
+  IF NOT FOUND THEN
+    RAISE EXCEPTION 'La cuenta % no existe', rtrim(cuenta) USING ERRCODE = 'no_data_found';
+  END IF;
+END $$;
+
+-- Adds an account to every branch that does not have it yet. Each asks for the permission by itself: without it in one
+-- of them none gets the account.
+CREATE FUNCTION spicatalogo_ctasc(cuenta text, acumula text, rubro text, nombre text, tipo text, estado text,
+                                  fecha_del_estado text, ultimo_movimiento text, naturaleza text, digito numeric,
+                                  saldo numeric, cargos numeric, abonos numeric) RETURNS void
+LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
+DECLARE
+  sucursal name;
+  existe boolean;
+  agregadas integer := 0;
+BEGIN
+  PERFORM exige_permiso('0901');
+  FOR sucursal IN SELECT sucursales() LOOP
+    EXECUTE format('SELECT EXISTS (SELECT FROM %I.catalogo_ctas WHERE cuentaid = $1::bpchar)', sucursal)
+       INTO existe USING cuenta;
+    IF NOT existe THEN
+      EXECUTE format('SELECT %I.spicatalogo_ctas($1, $2, $3, $4, $5, $6, $7, $8, $9, $10, $11, $12, $13)', sucursal)
+        USING cuenta, acumula, rubro, nombre, tipo, estado, fecha_del_estado, ultimo_movimiento, naturaleza, digito,
+              saldo, cargos, abonos;
+      agregadas := agregadas + 1;
+    END IF;
+  END LOOP;
+  IF agregadas = 0 THEN
+    RAISE EXCEPTION 'La cuenta % ya existe en todas las sucursales', rtrim(cuenta) USING ERRCODE = 'unique_violation';
+  END IF;
+END $$;
+
+CREATE FUNCTION spdcatalogo_ctas(clave text) RETURNS void
+LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
+BEGIN
+  PERFORM exige_permiso('0901');
+  DELETE FROM catalogo_ctas WHERE cuentaid = obligatorio(clave, 24, 'la cuenta')::bpchar;
+  IF NOT FOUND THEN
+    RAISE EXCEPTION 'La cuenta % no existe', rtrim(clave) USING ERRCODE = 'no_data_found';
+  END IF;
+EXCEPTION WHEN foreign_key_violation THEN
+  PERFORM rechaza_uso('catalogo_ctas', clave, 'la cuenta ' || rtrim(clave));
+END $$;
+
+GRANT SELECT ON catalogo_ctas TO :"grupo";
+GRANT EXECUTE ON FUNCTION spscatalogo_ctas, spicatalogo_ctas, spucatalogo_ctas, spicatalogo_ctasc, spdcatalogo_ctas
+  TO :"grupo";
