@@ -4,6 +4,7 @@
 #include <cstring>
 #include <iostream>
 
+#include "app/Traductor.h"
 #include "app/sesion.h"
 #include "catalogs/people/cPermisosModulos.h"
 #include "catalogs/simple/Monedas_Window.h"
@@ -42,6 +43,7 @@ Caja::Caja(FXApp* app) : FXMainWindow(app, "Tolvara V. 0.0.7a", nullptr, nullptr
   ArmaEstado();
   mdiClient = new FXMDIClient(this, LAYOUT_FILL_X | LAYOUT_FILL_Y);
   mdiMenu = new FXMDIMenu(this, mdiClient);
+  TraduceMenu(mdiMenu);
   ArmaMenu();
   ArmaBotonesDeHija();
   std::fill_n(mdiArray, RanurasMdi, false);

@@ -12,3 +12,7 @@ class Traductor : public FXTranslator {
   /// The Spanish text of `mensaje`; texts that are not the toolkit's come back as they are.
   const FXchar* tr(const FXchar* contexto, const FXchar* mensaje, const FXchar* pista) const override;
 };
+
+/// Puts the entries of the toolkit's menu of child windows into Spanish, which it does not ask the translator
+/// for.
+void TraduceMenu(FXMDIMenu* menu);

@@ -66,10 +66,12 @@ prepara_demostracion() {
 # The password of a user of the demonstration, as it was generated.
 clave_de() { sed -n "s/^$1 \([^ ]*\) $sucursal .*/\1/p" "$(del_servidor Datos)/demostracion.claves"; }
 
-# Opens the client, in place of this shell, with everything but the password filled in. Settings and files are kept in
-# the folder $1 and nowhere else. What the user has set there stays, but for the port, which is the server's to choose.
+# Opens the client of preset $1, in place of this shell, with everything but the password filled in. Settings and files
+# are kept in the folder $2 and nowhere else. What the user has set there stays, but for the port, which is the server's
+# to choose.
 abre_cliente_en() {
-  local ajustes=$1/.foxrc/Tolvara/corvena puerto
+  local preset=$1 casa=$2 puerto
+  local ajustes=$casa/.foxrc/Tolvara/corvena
   puerto=$(del_servidor Puerto)
   if [[ -f $ajustes ]]; then
     sed -i "s/^puerto=.*/puerto=$puerto/" "$ajustes"
@@ -86,8 +88,8 @@ userdb=$usuario
 AJUSTES
   fi
   [[ -z ${DISPLAY:-} ]] || export XAUTHORITY=${XAUTHORITY:-$HOME/.Xauthority}
-  cd "$1"
-  exec env HOME="$1" LC_ALL="$(idioma)" "$raiz/build/entrega/corvena"
+  cd "$casa"
+  exec env HOME="$casa" LC_ALL="$(idioma)" "$raiz/build/$preset/corvena"
 }
 
 # A Spanish UTF-8 locale if the machine has one, otherwise the one that every Debian has.

@@ -26,9 +26,9 @@ FXString EnLineas(const FXString& texto) {
   FXint inicio = 0;
   for (int i = 0; i < lineasDeCaja; ++i) {
     const FXint fin = FinDeLinea(texto, inicio);
+    if (i > 0) lineas += '\n';
     lineas += texto.mid(inicio, fin - inicio);
     if (fin == texto.length()) break;
-    lineas += '\n';
     inicio = texto[fin] == '\n' ? fin + 1 : fin;
   }
   return lineas;

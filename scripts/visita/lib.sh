@@ -1,10 +1,9 @@
 # The guided journey: a private X server, database server and home, one session of the client, and the steps that the
-# NN-tema.sh files are written with. To be sourced after ../lib.sh.
+# NN-tema.sh files are written with. To be sourced after ../lib.sh; `preset` is the build that is driven, `salida` the
+# folder of the results.
 #
 # Nothing here sleeps for a fixed time: a step waits until its outcome shows, and fails after $paciencia seconds.
-salida=$raiz/build/demo # a picture of each step, traza.txt (the client's standard output), errores.txt
-paciencia=20            # seconds
-
+paciencia=20
 principal='Tolvara V. 0.0.7a' # title of the main window
 paso=preparación              # the step under way
 pasos=0
@@ -57,7 +56,7 @@ abre_pantalla() {
 }
 
 abre_cliente() {
-  (abre_cliente_en "$HOME") >"$salida/traza.txt" 2>"$salida/errores.txt" </dev/null &
+  (abre_cliente_en "$preset" "$HOME") >"$salida/traza.txt" 2>"$salida/errores.txt" </dev/null &
   cliente=$!
   procesos+=("$cliente")
 }
@@ -145,7 +144,7 @@ responde() {
   espera_cierre
 }
 
-# The picture of the screen once nothing moves, as build/demo/NN-$1.png.
+# The picture of the screen once nothing moves, as NN-$1.png.
 captura() {
   local archivo anterior='' huella='' limite=$((SECONDS + paciencia))
   printf -v archivo '%s/%02d-%s.png' "$salida" "$((++fotos))" "$1"

@@ -18,7 +18,7 @@ CREATE TABLE catalogo_ctas (
 COMMENT ON TABLE catalogo_ctas IS 'cuentas contables: catálogo de cuentas de la institución';
 COMMENT ON COLUMN catalogo_ctas.cuentaacumula IS 'cuenta en la que acumula; ninguna en el primer nivel';
 COMMENT ON COLUMN catalogo_ctas.identificacion IS
-  'rubro: 0 orden, 1 activo, 2 pasivo, 3 capital, 4 ingresos, 5 egresos, 6 resultados';
+  'rubro: 1 activo, 2 pasivo, 3 capital, 4 ingresos, 5 egresos, 6 cuentas de orden, 0 sin rubro';
 COMMENT ON COLUMN catalogo_ctas.tipo_cta IS '"A" afectable, "C" acumulativa';
 COMMENT ON COLUMN catalogo_ctas.estado_cta IS '"A" activa, "B" de baja';
 COMMENT ON COLUMN catalogo_ctas.naturaleza IS '"A" acreedora, "D" deudora';

@@ -61,12 +61,12 @@ TEST_F(CajasTest, ElErrorYLaNoticiaSeAceptan) {
   cajaError(duenio_, "Error en Validación", "Está mal");
   cajaInformacion(duenio_, "Moneda", "Registro NO encontrado");
   ASSERT_EQ(guion.Cuadros().size(), 2u);
-  const Cuadro& error = guion.Cuadros()[0];
+  const Cuadro& error = guion.Cuadros().at(0);
   EXPECT_EQ(error.clase, Clase::Error);
   EXPECT_EQ(error.titulo, "Error en Validación");
   EXPECT_EQ(error.texto, "Está mal");
   EXPECT_EQ(error.botones.size(), 1u);
-  const Cuadro& noticia = guion.Cuadros()[1];
+  const Cuadro& noticia = guion.Cuadros().at(1);
   EXPECT_EQ(noticia.clase, Clase::Informacion);
   EXPECT_EQ(noticia.titulo, "Moneda");
   EXPECT_EQ(noticia.texto, "Registro NO encontrado");
@@ -150,7 +150,7 @@ TEST_F(CajasTest, UnaCajaLlenaCabeEnLaPantalla) {
     guion.Con([](FXDialogBox* caja) {
       EXPECT_LE(caja->getWidth(), App().getRootWindow()->getWidth());
       EXPECT_LE(caja->getHeight(), App().getRootWindow()->getHeight());
-      Pulsa(Todos<FXButton>(caja)[0]);
+      Pulsa(Todos<FXButton>(caja).at(0));
     });
     cajaError(duenio_, "Error", texto.c_str());
   }

@@ -1,0 +1,153 @@
+// The rows of a form: label and field, bound to a member both ways.
+#include "framework/Campos.h"
+
+#include <fxkeys.h>
+#include <gtest/gtest.h>
+
+#include <cfloat>
+#include <cstdlib>
+#include <limits>
+
+#include "tests/support/Pantalla.h"
+#include "tests/support/Ventana.h"
+
+namespace pruebas {
+namespace {
+
+class CamposTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    ventana_ = new FXMainWindow(&App(), "Campos", nullptr, nullptr, DECOR_ALL, 0, 0, 600, 300);
+    matriz_ = new FXMatrix(ventana_, 2, MATRIX_BY_COLUMNS);
+    campoClave(matriz_, "Clave:", 3, claveDato_);
+    campoTexto(matriz_, "Descripción:", 30, textoDato_);
+    campoReal(matriz_, "Valor :", 10, realDato_);
+    campoReal(matriz_, "Ancho:", 400, anchoDato_);
+    ventana_->create();
+    ventana_->show(PLACEMENT_SCREEN);
+    Bombea();
+    clave_ = CampoJuntoA(matriz_, "Clave:");
+    texto_ = CampoJuntoA(matriz_, "Descripción:");
+    real_ = CampoJuntoA(matriz_, "Valor :");
+    ancho_ = CampoJuntoA(matriz_, "Ancho:");
+  }
+  void TearDown() override { delete ventana_; }
+
+  FXMainWindow* ventana_ = nullptr;
+  FXMatrix* matriz_ = nullptr;
+  FXTextField* clave_ = nullptr;
+  FXTextField* texto_ = nullptr;
+  FXTextField* real_ = nullptr;
+  FXTextField* ancho_ = nullptr;
+  DatoTexto claveDato_, textoDato_;
+  DatoReal realDato_, anchoDato_;
+};
+
+TEST_F(CamposTest, CadaRenglonEsUnaEtiquetaYUnCampo) {
+  EXPECT_EQ(Etiquetas(matriz_), (Textos{"Clave:", "Descripción:", "Valor :", "Ancho:"}));
+  EXPECT_EQ(Todos<FXTextField>(matriz_), (std::vector<FXTextField*>{clave_, texto_, real_, ancho_}));
+  for (const FXLabel* etiqueta : Todos<FXLabel>(matriz_)) EXPECT_TRUE(etiqueta->getJustify() & JUSTIFY_LEFT);
+}
+
+TEST_F(CamposTest, CadaClaseTieneSuEstilo) {
+  const struct {
+    const FXTextField* campo;
+    FXint columnas;
+    FXuint estilo;
+    FXuint lado;
+  } campos[] = {
+      {clave_, 3, TEXTFIELD_LIMITED | TEXTFIELD_ENTER_ONLY, JUSTIFY_LEFT},
+      {texto_, 30, TEXTFIELD_LIMITED, JUSTIFY_LEFT},
+      {real_, 10, TEXTFIELD_LIMITED | TEXTFIELD_REAL, JUSTIFY_RIGHT},
+  };
+  for (const auto& [campo, columnas, estilo, lado] : campos) {
+    EXPECT_EQ(campo->getNumColumns(), columnas);
+    EXPECT_EQ(campo->getTextStyle(), estilo);
+    EXPECT_EQ(campo->getJustify() & (JUSTIFY_LEFT | JUSTIFY_RIGHT), lado);
+    EXPECT_EQ(campo->getPadLeft(), 2);
+    EXPECT_EQ(campo->getPadBottom(), 2);
+  }
+}
+
+TEST_F(CamposTest, LoEscritoLlegaAlMiembro) {
+  Escribe(clave_, "Ñx");  // without Enter
+  Escribe(texto_, "árbol");
+  Escribe(real_, "-12.5e1");
+  EXPECT_STREQ(claveDato_.valor.text(), "Ñx");
+  EXPECT_STREQ(textoDato_.valor.text(), "árbol");
+  EXPECT_EQ(realDato_.valor, -125);
+  Escribe(real_, "");
+  EXPECT_EQ(realDato_.valor, 0);
+}
+
+TEST_F(CamposTest, ElMiembroCambiadoSeMuestra) {
+  claveDato_.valor = "MX";
+  textoDato_.valor = "Peso";
+  realDato_.valor = 17.25;
+  Bombea();
+  EXPECT_EQ(Leido(matriz_, "Clave:"), "MX");
+  EXPECT_EQ(Leido(matriz_, "Descripción:"), "Peso");
+  EXPECT_EQ(Leido(matriz_, "Valor :"), "17.25");
+}
+
+TEST_F(CamposTest, ElLimiteCuentaLetras) {
+  Escribe(clave_, "ñÑáé");
+  EXPECT_STREQ(claveDato_.valor.text(), "ñÑá");
+  Escribe(real_, "12345678901");
+  EXPECT_EQ(realDato_.valor, 1234567890);
+}
+
+TEST_F(CamposTest, SeTecleaUnNumeroLetraPorLetra) {
+  Escribe(real_, "");
+  for (const char letra : std::string("1.050"))
+    Tecla(real_, static_cast<FXuint>(letra), 0, std::string(1, letra));
+  EXPECT_EQ(Leido(matriz_, "Valor :"), "1.050");  // not tidied up under the user's fingers
+  EXPECT_EQ(realDato_.valor, 1.05);
+}
+
+TEST_F(CamposTest, UnNumeroSeMuestraConLasCifrasQueLoDistinguen) {
+  const std::pair<double, std::string> numeros[] = {
+      {0, "0"},
+      {1, "1"},
+      {-0.5, "-0.5"},
+      {17.25, "17.25"},
+      {20.1, "20.1"},
+      {20.1f, "20.1"},  // a number of a single-precision column
+      {0.004358f, "0.004358"},
+      {0.115632, "0.115632"},
+      {1.0 / 3, "0.3333333333333333"},
+      {16777217, "16777217"},
+      {123456789.0123, "123456789.0123"},
+      {1e-7, "0.0000001"},
+      {1e15, "1000000000000000"},
+      {1e22, "1" + std::string(22, '0')},
+      {1e30, ""},
+      {-1e300, ""},
+      {DBL_MAX, ""},
+      {DBL_TRUE_MIN, ""},
+  };
+  for (const auto& [numero, texto] : numeros) {  // without a text: any that reads back as the same number
+    anchoDato_.valor = numero;
+    Bombea();
+    const std::string visto = Leido(matriz_, "Ancho:");
+    EXPECT_EQ(visto.find_first_of("eE"), std::string::npos) << visto;
+    if (texto.empty()) {
+      EXPECT_EQ(std::strtod(visto.c_str(), nullptr), numero) << visto;
+    } else {
+      EXPECT_EQ(visto, texto);
+    }
+  }
+}
+
+TEST_F(CamposTest, LoQueNoEsUnNumeroTampocoTumbaElCampo) {
+  for (const double numero :
+       {std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(),
+        std::numeric_limits<double>::quiet_NaN()}) {
+    anchoDato_.valor = numero;
+    Bombea();
+    EXPECT_NE(Leido(matriz_, "Ancho:"), "");
+  }
+}
+
+}  // namespace
+}  // namespace pruebas
