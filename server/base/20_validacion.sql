@@ -87,13 +87,14 @@ DECLARE
   usos text[] := '{}';
 BEGIN
   FOR ajena IN
-    SELECT c.conrelid::regclass AS tabla, a.attname AS columna,
+    SELECT c.conrelid::regclass AS tabla, string_agg(format('rtrim(%I::text)', a.attname), ', ') AS columnas,
            split_part(coalesce(obj_description(c.conrelid, 'pg_class'), c.conrelid::regclass::text), ':', 1) AS nombre
       FROM pg_constraint c JOIN pg_attribute a ON a.attrelid = c.conrelid AND a.attnum = c.conkey[1]
      WHERE c.contype = 'f' AND c.confrelid = rechaza_uso.tabla AND c.confdeltype IN ('a', 'r')
-     ORDER BY nombre, columna
+     GROUP BY c.conrelid
+     ORDER BY nombre
   LOOP
-    EXECUTE format('SELECT count(*) FROM %s WHERE rtrim(%I::text) = rtrim($1)', ajena.tabla, ajena.columna)
+    EXECUTE format('SELECT count(*) FROM %s WHERE rtrim($1) IN (%s)', ajena.tabla, ajena.columnas)
        INTO filas USING clave;
     IF filas > 0 THEN
       usos := usos || format('%s %s', filas, ajena.nombre);

@@ -32,6 +32,7 @@ INSERT INTO contrato VALUES
   ('creausuario', 'text, text', 'integer'),
   ('serverdate', 'text', 'integer'),
   ('fechacobroiva', '', 'date');
+\ir contrato/60_finanzas.sql
 
 CREATE TEMPORARY VIEW funcion AS
 SELECT p.oid, p.proname::text AS nombre, coalesce(tipos.lista, '') AS argumentos,

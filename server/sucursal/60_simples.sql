@@ -224,7 +224,7 @@ BEGIN
   PERFORM exige_permiso('0217');
   INSERT INTO tiposocio (tiposocioid, descritiposocio, observaciones)
   VALUES (obligatorio(clave, 2, 'la clave'), obligatorio(descri, 30, 'la descripción'),
-          texto(notas, 254, 'las observaciones'))
+          texto(notas, 254, 'el texto de observaciones'))
   ON CONFLICT DO NOTHING;
   IF NOT FOUND THEN
     RAISE EXCEPTION 'El tipo de socio % ya existe', rtrim(clave) USING ERRCODE = 'unique_violation';
@@ -237,7 +237,7 @@ BEGIN
   PERFORM exige_permiso('0217');
   UPDATE tiposocio
      SET descritiposocio = obligatorio(descri, 30, 'la descripción'),
-         observaciones = texto(notas, 254, 'las observaciones')
+         observaciones = texto(notas, 254, 'el texto de observaciones')
    WHERE tiposocioid = obligatorio(clave, 2, 'la clave')::bpchar;
   IF NOT FOUND THEN
     RAISE EXCEPTION 'El tipo de socio % no existe', rtrim(clave) USING ERRCODE = 'no_data_found';

@@ -74,8 +74,8 @@ BEGIN
   fila.naturaleza := obligatorio(naturaleza, 1, 'la naturaleza');
   fila.digito_agrupador := numero(digito, 0, 9999.99, 'el dígito agrupador');
   fila.saldo_inic_ejer := numero(saldo, -maximo, maximo, 'el saldo inicial');
-  fila.cargos_acum_ejer := numero(cargos, -maximo, maximo, 'los cargos acumulados');
-  fila.abonos_acum_ejer := numero(abonos, -maximo, maximo, 'los abonos acumulados');
+  fila.cargos_acum_ejer := numero(cargos, -maximo, maximo, 'el total de cargos');
+  fila.abonos_acum_ejer := numero(abonos, -maximo, maximo, 'el total de abonos');
 
   IF fila.identificacion NOT BETWEEN '0' AND '6' THEN
     RAISE EXCEPTION 'El rubro debe ser un número del 0 al 6' USING ERRCODE = 'check_violation';

@@ -44,7 +44,7 @@ DECLARE
 BEGIN
   fila.tipomovimientoid := obligatorio(clave, 2, 'la clave');
   fila.desctipomovimiento := obligatorio(descri, 30, 'la descripción');
-  fila.aplicasaldo := letra_si_no(aplica_saldo, 'si el movimiento aplica al saldo');
+  fila.aplicasaldo := letra_si_no(aplica_saldo, 'la marca de aplicar al saldo');
   fila.cuentadeposito := cuenta_requerida(deposito, 'la cuenta de depósito');
   fila.cuentaretiro := cuenta_requerida(retiro, 'la cuenta de retiro');
   fila.cuentaintpagado := cuenta_requerida(int_pagado, 'la cuenta de interés pagado');
@@ -52,12 +52,12 @@ BEGIN
   fila.cuentaivamovimiento := cuenta_requerida(iva, 'la cuenta de IVA');
   fila.cuentaisr := cuenta_requerida(isr, 'la cuenta de ISR');
   fila.tipopoliza := obligatorio(poliza, 1, 'el tipo de póliza');
-  fila.aceptadeposito := letra_si_no(acepta_deposito, 'si acepta depósitos');
-  fila.aceptaretiro := letra_si_no(acepta_retiro, 'si acepta retiros');
+  fila.aceptadeposito := letra_si_no(acepta_deposito, 'la marca de aceptar depósitos');
+  fila.aceptaretiro := letra_si_no(acepta_retiro, 'la marca de aceptar retiros');
   fila.tasainteres := numero(tasa, 0, 9999.999999, 'la tasa de interés');
   fila.cuentaordenacredor := cuenta_afectable(orden_acredor, 'la cuenta de orden acreedora');
   fila.cuentaordendeudor := cuenta_afectable(orden_deudor, 'la cuenta de orden deudora');
-  fila.cuentaorden := letra_si_no(maneja_orden, 'si maneja cuentas de orden');
+  fila.cuentaorden := letra_si_no(maneja_orden, 'la marca de cuentas de orden');
   fila.cuentaprovisionisr := cuenta_requerida(provision_isr, 'la cuenta de provisión de ISR');
   fila.comision := numero(cuota, 0, 999999999999.99, 'la cuota de comisión');
   fila.porcomision := numero(por_comision, 0, 100, 'el porcentaje de comisión');
@@ -66,7 +66,7 @@ BEGIN
                                           'la cuenta de comisión');
   fila.cuentaivacomision := cuenta_existente(obligatorio(cuenta_iva_comision, 24, 'la cuenta de IVA de la comisión'),
                                              'la cuenta de IVA de la comisión');
-  fila.desglosaiva := numero(desglosa, 0, 1, 'la marca de desglose del IVA');
+  fila.desglosaiva := numero(desglosa, 0, 1, 'la marca de desglosar IVA');
   RETURN fila;
 END $$;
 

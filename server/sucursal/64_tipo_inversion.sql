@@ -50,9 +50,9 @@ BEGIN
   fila.cuentaintinvernocob := cuenta_requerida(interes_no_cobrado, 'la cuenta de interés no cobrado');
   fila.cuentaivainver := cuenta_requerida(iva, 'la cuenta de IVA de la inversión');
   fila.cuentariesgocred := cuenta_requerida(riesgo, 'la cuenta de riesgo crediticio');
-  fila.aplicaivainversion := letra_si_no(aplica_iva, 'si aplica IVA');
-  fila.aplicaisr := numero(aplica_isr, 0, 1, 'la marca de aplica ISR');
-  fila.reinvierteinteres := numero(reinvierte, 0, 1, 'la marca de reinvierte interés');
+  fila.aplicaivainversion := letra_si_no(aplica_iva, 'la marca de aplicar IVA');
+  fila.aplicaisr := numero(aplica_isr, 0, 1, 'la marca de aplicar ISR');
+  fila.reinvierteinteres := numero(reinvierte, 0, 1, 'la marca de reinvertir interés');
   fila.calculoid := formula_existente(formula, 'la fórmula de cálculo');
   fila.tipomovimientoid := referencia(opcional(movimiento, 2, 'el tipo de movimiento'), 'tipomovimiento',
                                       'tipomovimientoid', 'el tipo de movimiento');

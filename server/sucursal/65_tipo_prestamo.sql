@@ -102,8 +102,8 @@ BEGIN
   fila.tipoprestamoid := obligatorio(clave, 3, 'la clave');
   fila.cuentaordenaval := cuenta_requerida(orden_aval, 'la cuenta de orden de aval');
   fila.cuentaordeninteres := cuenta_requerida(orden_interes, 'la cuenta de orden de interés');
-  fila.aplicaivaprestamo := letra_si_no(aplica_iva, 'si el préstamo aplica IVA');
-  fila.diastraspasoavencida := numero(dias, 1, 99999, 'los días para traspasar a vencida');
+  fila.aplicaivaprestamo := letra_si_no(aplica_iva, 'la marca de aplicar IVA');
+  fila.diastraspasoavencida := numero(dias, 1, 99999, 'el plazo para traspasar a vencida');
   fila.cuentaintdevnocobres := cuenta_requerida(int_dev_no_cob_res,
                                                 'la cuenta de interés normal devengado de resultados');
   fila.cuentaintmoranocobact := cuenta_requerida(int_mora_no_cob_act,
