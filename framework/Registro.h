@@ -135,7 +135,7 @@ class Registro : public Base {
     char nuevo[N];
     CopiaTexto(nuevo, valor);
     if (strcmp(columna, nuevo) == 0) return;
-    memcpy(columna, nuevo, N);
+    CopiaTexto(columna, nuevo);
     dataChanged = true;
   }
 
