@@ -38,7 +38,9 @@ Caja::Caja(FXApp* app) : FXMainWindow(app, "Tolvara V. 0.0.7a", nullptr, nullptr
   smallIcon = icono(app, iconos::smallcaja);
   setIcon(bigIcon);
   setMiniIcon(smallIcon);
-  app->setNormalFont(new FXFont(app, "arial", 9));
+  fuenteAnterior = app->getNormalFont();
+  fuente = new FXFont(app, "arial", 9);
+  app->setNormalFont(fuente);
   ArmaBarras();
   ArmaEstado();
   mdiClient = new FXMDIClient(this, LAYOUT_FILL_X | LAYOUT_FILL_Y);
@@ -121,6 +123,8 @@ Caja::~Caja() {
   delete toolBar;
   delete dragShellMenu;
   delete dragShellTool;
+  getApp()->setNormalFont(fuenteAnterior);
+  delete fuente;
 }
 
 void Caja::create() {

@@ -62,4 +62,6 @@ class Caja : public FXMainWindow {
   FXLabel* statusLabel = nullptr;
   FXIcon* bigIcon = nullptr;
   FXIcon* smallIcon = nullptr;
+  FXFont* fuente = nullptr;          // the application's normal font while this window lives
+  FXFont* fuenteAnterior = nullptr;  // and what it was before
 };

@@ -531,6 +531,15 @@ TEST_F(CajaOpcionTest, ElTextoDiceLoGuardadoAunqueElLoginSeRechace) {
             "Usuario: adriana - Suc. \\\\127.0.0.1\\" + base.nombre() + "\\sur " + Desconectado);
 }
 
+TEST(CajaFin, DevuelveALaAplicacionLaLetraQueTenia) {
+  FXFont* const anterior = App().getNormalFont();
+  {
+    const Principal caja;
+    EXPECT_NE(App().getNormalFont(), anterior);
+  }
+  EXPECT_EQ(App().getNormalFont(), anterior);
+}
+
 TEST_F(CajaOpcionTest, SeDejaDestruirConFormasAbiertas) {
   const Sesion sesion(*base_);
   auto caja = std::make_unique<Principal>();

@@ -5,17 +5,12 @@
 
 namespace pruebas {
 
-Principal::Principal() : fuente_(App().getNormalFont()), caja_(new Caja(&App())) {
+Principal::Principal() : caja_(new Caja(&App())) {
   caja_->FXMainWindow::create();
   caja_->show(PLACEMENT_SCREEN);
   Bombea();
 }
 
-Principal::~Principal() {
-  FXFont* const suya = App().getNormalFont();
-  delete caja_;
-  App().setNormalFont(fuente_);
-  delete suya;
-}
+Principal::~Principal() { delete caja_; }
 
 }  // namespace pruebas

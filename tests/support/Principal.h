@@ -7,8 +7,7 @@
 
 namespace pruebas {
 
-/// A main window on the screen whose first login has not been run. Its end takes all its children with it and
-/// gives the application back what it had before.
+/// A main window on the screen whose first login has not been run. Its end takes all its children with it.
 class Principal {
  public:
   Principal();
@@ -20,7 +19,6 @@ class Principal {
   Caja* operator->() const { return caja_; }
 
  private:
-  FXFont* fuente_;
   Caja* caja_;
 };
 
