@@ -2,13 +2,14 @@
 
 #include <iostream>
 
+#include "app/Aplicacion.h"
 #include "app/Caja.h"
 #include "app/Traductor.h"
 
 int main(int argc, char* argv[]) {
   try {
-    FXApp app("corvena", "Tolvara");  // the two names select the file of the settings
-    delete app.getTranslator();       // the toolkit lets go of it without deleting it
+    Aplicacion app;
+    delete app.getTranslator();  // the toolkit lets go of it without deleting it
     app.setTranslator(new Traductor(&app));
     app.init(argc, argv);
     new Caja(&app);

@@ -123,6 +123,9 @@ Forma<Ventana, Base>::~Forma() {
 
 template <class Ventana, class Base>
 void Forma<Ventana, Base>::ArmaLista(const char* titulo) {
+  // A child form keeps the keys of its buttons to itself: in the main window's table they would take those of
+  // the menu away when the form closes.
+  if constexpr (std::is_base_of_v<FXMDIChild, Base>) this->setAccelTable(new FXAccelTable);
   cuerpo = new FXHorizontalFrame(this, LAYOUT_FILL_X | LAYOUT_FILL_Y);
   auto* grupo = new FXGroupBox(cuerpo, titulo, FRAME_GROOVE | LAYOUT_FILL_X | LAYOUT_FILL_Y);
   auto* marco = new FXVerticalFrame(grupo, FRAME_SUNKEN | FRAME_THICK | LAYOUT_FILL_X | LAYOUT_FILL_Y, 0, 0,

@@ -33,6 +33,7 @@ INSERT INTO contrato VALUES
   ('serverdate', 'text', 'integer'),
   ('fechacobroiva', '', 'date');
 \ir contrato/60_finanzas.sql
+\ir contrato/80_personas.sql
 
 CREATE TEMPORARY VIEW funcion AS
 SELECT p.oid, p.proname::text AS nombre, coalesce(tipos.lista, '') AS argumentos,

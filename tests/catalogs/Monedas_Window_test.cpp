@@ -57,7 +57,7 @@ class MonedasTest : public testing::Test {
 
   void SetUp() override {
     base_->Ejecuta(
-        "delete from norte.moneda; insert into norte.moneda (monedaid, monedadescri, monedavalor) values"
+        "truncate norte.moneda cascade; insert into norte.moneda (monedaid, monedadescri, monedavalor) values"
         " ('MX', 'Peso mexicano', 1), ('US', 'Dólar estadounidense', 17.25), ('EU', 'Euro', 20.1)");
     moneda.Clear();
     Conecta();
@@ -264,7 +264,7 @@ TEST_F(MonedasTest, ElRegistroSobreviveALaVentana) {
 }
 
 TEST_F(MonedasTest, UnCatalogoVacioDaUnaListaVacia) {
-  base_->Ejecuta("delete from norte.moneda");
+  base_->Ejecuta("truncate norte.moneda cascade");
   Cierra();
   Abre();
   EXPECT_TRUE(Renglones().empty());

@@ -152,6 +152,7 @@ const struct {
 };
 
 TEST_F(cMonedasTest, CadaOperacionMandaLoSuyoYSoloUpdateTraza) {
+  SueltaMonedas(base_);
   for (const auto& fila : operaciones) {
     SCOPED_TRACE(fila.nombre);
     base_.Ejecuta("delete from norte.moneda where monedaid = 'MX'");
@@ -169,6 +170,7 @@ TEST_F(cMonedasTest, CadaOperacionMandaLoSuyoYSoloUpdateTraza) {
 }
 
 TEST_F(cMonedasTest, LasBanderasQuedanSegunElDesenlace) {
+  SueltaMonedas(base_);
   const Falla bien = __real_PQexec;
   const struct {
     const char* caso;
@@ -509,6 +511,7 @@ TEST(cMonedasCortes, NadaQuedaAMediasYElProgramaSigue) {
       {"Find", 0, Antes, false, false},   {"Find", 0, Despues, false, false},
   };
   BaseDatos base;
+  SueltaMonedas(base);
   for (const auto& fila : tabla) {
     SCOPED_TRACE(std::string(fila.operacion) + " " + std::to_string(fila.posicion) +
                  (fila.corte == Antes ? " antes" : " después"));

@@ -75,7 +75,7 @@ TEST_F(CatalogoTest, CadaFilaQuedaBajoSuNumeroConSusColumnas) {
 
 TEST_F(CatalogoTest, UnaTablaVaciaDejaElMapaVacioYNadaMas) {
   catalogo.LoadMonedas();
-  base_.Ejecuta("delete from norte.moneda");
+  base_.Ejecuta("truncate norte.moneda cascade");
   EXPECT_EQ(Lanzado([] { catalogo.LoadMonedas(); }), std::nullopt);
   EXPECT_TRUE(Catalogo::Monedas.empty());
 }
@@ -272,6 +272,7 @@ TEST_F(CatalogoTest, QuitarLaGuardaVuelveACargar) {
   Espia espia;
   catalogo.Load();
   EXPECT_TRUE(espia.Sentencias().empty());
+  SueltaMonedas(base_);
   base_.Ejecuta("delete from norte.moneda where monedaid <> 'MX'");
   catalogo.setLoad(false);
   catalogo.Load();

@@ -209,7 +209,7 @@ TEST_F(LoginTest, EscribeSusTrazas) {
   const Textos esperadas = {
       SelectDeEmpresa,
       "Formato Cuenta 9999-99-99-99-9999",
-      "CiudadMexID de default 0",
+      "CiudadMexID de default " + comun_->Valor("select ciudadmexid from norte.empresa"),
       "Recibo query==0",
       "nombre de la cajaCaja Solidaria Valle de Ensueño, S.C. de A.P. de R.L. de C.V.",
       "formatopoliza==1",

@@ -38,6 +38,11 @@ class ConSucursal : public testing::Test {
   Sesion sesion_{base_};
 };
 
+/// Takes away what the demonstration hangs on the currencies of norte, so that any of them can be deleted.
+inline void SueltaMonedas(BaseDatos& base) {
+  base.Ejecuta("truncate norte.depreciacion, norte.activo cascade");
+}
+
 /// The program connected, as superuser, to a database of its own with nothing in it.
 class ConBaseVacia : public testing::Test {
  protected:

@@ -1,0 +1,118 @@
+-- Persons, addresses and goods through the functions, each row after the one above; adriana may. {p} is the person that
+-- the first step makes, {b} the good.
+BEGIN;
+SELECT no_plan();
+\ir apoyo/numeracion.sql
+CREATE TEMPORARY TABLE clave AS
+SELECT (SELECT max(sujetoid) + 1 FROM norte.sujeto) AS p, (SELECT max(bienid) + 1 FROM norte.bienes) AS b,
+       (SELECT max(domicilioid) + 1 FROM norte.domicilio) AS d;
+
+SELECT is(como('adriana', 'norte', comun.rellena(sentencia, to_jsonb(clave))), comun.rellena(esperado, to_jsonb(clave)),
+          sentencia)
+  FROM clave, (VALUES
+    -- persons
+    ($$select spisujeto('Núñez ','Peña','Ana María','NUPA800229AB1','X',46,'29/02/1980','');$$, '{p}'),
+    ($$SELECT sujetoid || '|' || paterno || '|' || materno || '|' || nombre || '|' || rfc || '|' || curp || '|' || edad
+         || '|' || fechanacimiento || '|' || razonsocial FROM spssujeto({p});$$,
+     '{p}|Núñez|Peña|Ana María|NUPA800229AB1|X|46|1980-02-29|'),
+    ($$select spusujeto({p},'Núñez','','Ana','','',0,'1980-03-01','Razón, S.A.');$$, ''),
+    ($$SELECT materno || '|' || nombre || '|' || fechanacimiento || '|' || razonsocial FROM spssujeto({p})$$,
+     '|Ana|1980-03-01|Razón, S.A.'),
+    ($$select spusujeto({p},'Núñez','','Ana','','',0,'0000-00-00','');$$, ''),
+    ($$SELECT fechanacimiento IS NULL FROM spssujeto({p})$$, 'true'),
+    ($$select spusujeto({p},'Núñez','','Ana','','',0,'1900-01-01','');$$, ''),
+    ($$SELECT fechanacimiento IS NULL FROM spssujeto({p})$$, 'true'),
+    ($$select spisujeto('','Peña','Ana','','',0,'','');$$, 'Falta el apellido paterno'),
+    ($$select spisujeto('Núñez','Peña',' ','','',0,'','');$$, 'Falta el nombre'),
+    ($$select spisujeto(repeat('ñ',21),'','Ana','','',0,'','');$$,
+     'No cabe el apellido paterno: tiene 21 caracteres y admite 20'),
+    ($$select spisujeto('Núñez','','Ana','','',-1,'','');$$, 'Está fuera de rango la edad: -1 no está entre 0 y 150'),
+    ($$select spisujeto('Núñez','','Ana','','',0,'30/02/1980','');$$,
+     'La fecha "30/02/1980" no existe en el calendario'),
+    ($$select spisujeto('Núñez','','Ana','','',0,'01/01/2999','');$$,
+     'La fecha de nacimiento 01/01/2999 está en el futuro'),
+    ($$select spusujeto(0,'Núñez','','Ana','','',0,'','');$$, 'La persona 0 no existe'),
+    ($$SELECT count(*) = (SELECT count(*) FROM sujeto) FROM spssujeto(0)$$, 'true'),
+    -- the search: words in any order, accents and capitals apart, signs of patterns for themselves
+    ($$SELECT string_agg(sujetoid::text, ',') FROM spssujetos('NUNEZ ana')$$, '{p}'),
+    ($$SELECT string_agg(sujetoid::text, ',') FROM spssujetos('  ana   núñ ')$$, '{p}'),
+    ($$SELECT count(*) FROM spssujetos('núñez inés')$$, '0'),
+    ($$SELECT count(*) FROM spssujetos('%')$$, '0'),
+    ($$SELECT count(*) FROM spssujetos('n_nez')$$, '0'),
+    ($$SELECT count(*) FROM spssujetos('\')$$, '0'),
+    ($$SELECT count(*) = (SELECT count(*) FROM sujeto) FROM spssujetos('')$$, 'true'),
+    -- addresses
+    ($$SELECT count(*) FROM spsdomiciliosujeto({p})$$, '0'),
+    ($$SELECT spidomicilio(1,{p},'Calle Uno','10','B','Centro',20000,'Pueblo','555',1);$$, '{d}'),
+    ($$SELECT domicilioid || '|' || ciudadmexid || '|' || sujetoid || '|' || calle || '|' || numero_ext || '|' ||
+         numero_int || '|' || colonia || '|' || codpostal || '|' || comunidad || '|' || teldomicilio || '|' || coloniaid
+         FROM spsdomiciliosujeto({p});$$, '{d}|1|{p}|Calle Uno|10|B|Centro|20000|Pueblo|555|1'),
+    ($$SELECT spidomicilio(1,{p},'Calle Dos','','','',0,'','',0);$$, 'La persona {p} ya tiene domicilio'),
+    ($$SELECT spudomicilio(0,1,{p},'Calle Dos','','','',0,'','',0);$$, 'La persona {p} ya tiene domicilio'),
+    ($$SELECT spudomicilio({d},0,{p},'Calle Dos','','','',0,'','',0);$$, ''),
+    ($$SELECT calle || '|' || ciudadmexid || '|' || coloniaid FROM spsdomicilio({d})$$, 'Calle Dos|0|0'),
+    ($$SELECT spudomicilio({d},1,999999,'','','','',0,'','',0);$$, 'La persona 999999 no existe'),
+    ($$SELECT spudomicilio({d},9999,{p},'','','','',0,'','',0);$$, 'El municipio 9999 no existe'),
+    ($$SELECT spudomicilio({d},1,{p},'','','','',0,'','',99999);$$, 'La colonia 99999 no existe'),
+    ($$SELECT spudomicilio({d},1,{p},repeat('x',41),'','','',0,'','',0);$$,
+     'No cabe la calle: tiene 41 caracteres y admite 40'),
+    ($$SELECT spudomicilio({d},1,{p},'','','','',123456,'','',0);$$,
+     'Está fuera de rango el código postal: 123456 no está entre 0 y 99999'),
+    ($$SELECT spudomicilio(999999,1,{p},'','','','',0,'','',0);$$, 'El domicilio 999999 no existe'),
+    ($$SELECT spdomicilio({d});$$, ''),
+    ($$SELECT spdomicilio({d});$$, 'El domicilio {d} no existe'),
+    ($$SELECT spudomicilio(0,1,{p},'Calle Tres','','','',0,'','',0);$$, ''),
+    ($$SELECT calle FROM spsdomiciliosujeto({p})$$, 'Calle Tres'),
+    ($$SELECT count(*) = (SELECT count(*) FROM domicilio) FROM spsdomicilio(0)$$, 'true'),
+    -- goods: by their own number and by the person's
+    ($$select spibienes({p},'Dueño','Casa','Grande','Libro 1',1.50,2.25,3.75,'Libre',1.5,'N',NULL);$$, '{b}'),
+    ($$SELECT bienid || '|' || sujetoid || '|' || propietario || '|' || describien || '|' || caracteristicas || '|' ||
+         registropublico || '|' || valorcomercial || '|' || valorfiscal || '|' || valorcatastro || '|' || datoshipoteca
+         || '|' || relaciongarantia || '|' || adjudicado || '|' || coalesce(fechaadjudicado::text, '-')
+         FROM spsbienes({b});$$, '{b}|{p}|Dueño|Casa|Grande|Libro 1|1.50|2.25|3.75|Libre|1.500000|N|-'),
+    ($$SELECT bienid FROM spsbienes({p});$$, '{b}'),
+    ($$select spubienes({b},{p},'Dueña','Casa','Grande','Libro 1',1.5,2.25,3.75,'Libre',1.5,'S','15/03/2006');$$, ''),
+    ($$SELECT propietario || adjudicado || fechaadjudicado FROM spsbienes({b})$$, 'DueñaS2006-03-15'),
+    ($$select spubienes({b},{p},'Dueña','Casa','Grande','Libro 1',1.5,2.25,3.75,'Libre',1.5,'S',NULL);$$,
+     'Falta la fecha de adjudicación'),
+    ($$select spubienes({b},{p},'Dueña','Casa','Grande','Libro 1',1.5,2.25,3.75,'Libre',1.5,'Q',NULL);$$,
+     'Debe ser S o N la marca de adjudicado'),
+    ($$select spubienes({b},{p},'','Casa','Grande','Libro 1',1.5,2.25,3.75,'Libre',1.5,'N',NULL);$$,
+     'Falta el propietario'),
+    ($$select spubienes({b},{p},'Dueña','Casa','Grande','Libro 1',-1,2.25,3.75,'Libre',1.5,'N',NULL);$$,
+     'Está fuera de rango el valor comercial: -1 no está entre 0 y 999999999999.99'),
+    ($$select spubienes({b},999999,'Dueña','Casa','Grande','Libro 1',1,2.25,3.75,'Libre',1.5,'N',NULL);$$,
+     'La persona 999999 no existe'),
+    ($$select spubienes(7,{p},'Dueña','Casa','Grande','Libro 1',1,2.25,3.75,'Libre',1.5,'N',NULL);$$,
+     'El bien 7 no existe'),
+    ($$SELECT spsujeto({p});$$, 'No se puede borrar la persona {p} porque se usa en: 1 bienes'),
+    ($$SELECT spdbienes({b});$$, ''),
+    ($$SELECT spdbienes({b});$$, 'El bien {b} no existe'),
+    ($$SELECT count(*) = (SELECT count(*) FROM bienes) FROM spsbienes(0)$$, 'true'),
+    -- deleting a person
+    ($$SELECT spsujeto(1);$$, 'No se puede borrar la persona 1 porque se usa en: 1 usuarios'),
+    ($$SELECT spsujeto({p});$$, ''),
+    ($$SELECT count(*) FROM domicilio WHERE sujetoid = {p}$$, '0'),
+    ($$SELECT spsujeto({p});$$, 'La persona {p} no existe')
+  ) AS paso (sentencia, esperado);
+
+SELECT ok((SELECT max(sujetoid) FROM norte.sujeto) < (SELECT min(bienid) FROM norte.bienes),
+          'ningún bien lleva el número de una persona');
+SELECT matches(como('adriana', 'norte', format('SELECT spdbienes(%s)', garantiabienid)),
+               '^No se puede borrar el bien 1\d+ porque se usa en: \d+ garantías$', 'un bien que garantiza no se borra')
+  FROM (SELECT garantiabienid FROM norte.garantia LIMIT 1) AS g;
+
+-- Members are only read.
+SELECT is(como('camila', 'norte', sentencia), esperado, sentencia)
+  FROM (VALUES
+    ($$SELECT count(*) FROM spssociocaja();$$, '260'),
+    ($$SELECT socioid || '|' || clavesocioint || '|' || estatus FROM spssociocaja();$$, '1|0001-000001|Activo'),
+    ($$SELECT count(*) FROM spssociocajaf('');$$, '260'),
+    ($$SELECT string_agg(clavesocioint, ',') FROM spssociocajaf('0001-000021');$$, '0001-000021'),
+    ($$SELECT count(*) FROM spssociocajaf('nadie así');$$, '0'),
+    ($$SELECT trunc(extract(epoch from max(fechaalta))) > 0 from socio;$$, 'true'),
+    ($$INSERT INTO socio (clavesocioint, sujetoid) VALUES ('X', 1)$$, 'permission denied for table socio')
+  ) AS paso (sentencia, esperado);
+
+SELECT * FROM finish();
+ROLLBACK;

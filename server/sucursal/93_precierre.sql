@@ -1,0 +1,147 @@
+-- The monthly pre-close of the loans: their state at the end of a day, one row each, computed once per month.
+
+-- The rows as they would be at the end of `corte`: loans with a balance, and those paid in the same month.
+--   Payments of capital and of interest cover the oldest amortisations first; what is forgiven counts as paid, and so
+--   does the interest to come of a loan without balance. An amortisation is overdue from the day after it fell due, and
+--   the loan since its oldest overdue one.
+--   Interest accrues daily on the balance, over the institution's days of the year. The part that accrued since the
+--   loan had `diastraspasoavencida` days of arrears belongs to the overdue portfolio ("mayor"), what went before to
+--   the current one ("menor"). Late interest accrues on the overdue capital of each amortisation, parted in the same
+--   way; what was paid of it since the arrears began is taken off the older part first.
+CREATE FUNCTION calcula_precorte(corte date) RETURNS SETOF precorte
+LANGUAGE sql STABLE SET search_path FROM CURRENT AS $$
+  WITH mes AS (
+    SELECT date_trunc('month', corte)::date AS inicio, 100.0 * coalesce(nullif(diasanualesprestamo, 0), 360) AS base
+      FROM empresa),
+  pagado AS (
+    SELECT prestamoid, sum(capital) AS capital, sum(interes + bonificacioninteres) AS interes,
+           sum(capital * (corte - fecha)) AS capital_por_dias,
+           sum(capital) FILTER (WHERE fecha >= inicio) AS capital_mes,
+           sum(interes) FILTER (WHERE fecha >= inicio) AS interes_mes,
+           sum(moratorio) FILTER (WHERE fecha >= inicio) AS moratorio_mes,
+           sum(bonificacioninteres) FILTER (WHERE fecha >= inicio) AS bonificacion_interes_mes,
+           sum(bonificacionmoratorio) FILTER (WHERE fecha >= inicio) AS bonificacion_moratorio_mes,
+           max(fecha) FILTER (WHERE capital > 0) AS ultimo_capital,
+           max(fecha) FILTER (WHERE interes > 0) AS ultimo_interes
+      FROM pago CROSS JOIN mes
+     WHERE fecha <= corte
+     GROUP BY prestamoid),
+  cartera AS (
+    SELECT p.*, t.diastraspasoavencida, p.montoprestamo - coalesce(g.capital, 0) AS saldo,
+           coalesce(g.capital, 0) AS capital_pagado, coalesce(g.interes, 0) AS interes_pagado,
+           coalesce(g.capital_por_dias, 0) AS capital_por_dias, g.capital_mes, g.interes_mes, g.moratorio_mes,
+           g.bonificacion_interes_mes, g.bonificacion_moratorio_mes, g.ultimo_capital, g.ultimo_interes
+      FROM prestamos p JOIN tipoprestamo t USING (tipoprestamoid) LEFT JOIN pagado g USING (prestamoid)
+     WHERE p.fecha_otorga <= corte AND (p.montoprestamo > coalesce(g.capital, 0) OR g.capital_mes IS NOT NULL)),
+  pendiente AS (
+    SELECT c.prestamoid, c.diastraspasoavencida, a.fecha_vencimiento AS vence,
+           least(a.capital, greatest(0, sum(a.capital) OVER lo_anterior - c.capital_pagado)) AS capital,
+           CASE WHEN c.saldo > 0
+                THEN least(a.interes, greatest(0, sum(a.interes) OVER lo_anterior - c.interes_pagado))
+                ELSE 0 END AS interes
+      FROM cartera c JOIN amortizacion a USING (prestamoid)
+    WINDOW lo_anterior AS (PARTITION BY a.prestamoid ORDER BY a.numero)),
+  atraso AS (
+    SELECT prestamoid, min(vence) FILTER (WHERE vencida) AS desde, count(*) FILTER (WHERE vencida) AS amortizaciones,
+           sum(capital) FILTER (WHERE vencida) AS capital,
+           sum(capital * least(corte - vence, diastraspasoavencida)) FILTER (WHERE vencida) AS mora_menor,
+           sum(capital * greatest(0, corte - vence - diastraspasoavencida)) FILTER (WHERE vencida) AS mora_mayor,
+           max(vence) FILTER (WHERE capital + interes = 0) AS ultima_pagada
+      FROM (SELECT *, vence < corte AND capital + interes > 0 AS vencida FROM pendiente) AS p
+     GROUP BY prestamoid),
+  devengado AS (
+    SELECT c.*, coalesce(corte - a.desde, 0) AS dias, coalesce(a.amortizaciones, 0) AS amortizaciones,
+           coalesce(a.capital, 0) AS capital_vencido, a.ultima_pagada,
+           CASE WHEN c.saldo > 0
+                THEN greatest(0, round(c.tasanormal / mes.base
+                                       * (c.montoprestamo * (corte - c.fecha_otorga) - c.capital_por_dias), 2)
+                                 - c.interes_pagado) ELSE 0 END AS interes,
+           round(c.saldo * c.tasanormal / mes.base
+                 * greatest(0, coalesce(corte - a.desde, 0) - c.diastraspasoavencida), 2) AS interes_tras_traspaso,
+           round(coalesce(a.mora_menor, 0) * c.tasa_moratoria / mes.base, 2) AS mora_menor,
+           round(coalesce(a.mora_mayor, 0) * c.tasa_moratoria / mes.base, 2) AS mora_mayor,
+           coalesce((SELECT sum(g.moratorio + g.bonificacionmoratorio) FROM pago g
+                      WHERE g.prestamoid = c.prestamoid AND g.fecha > a.desde AND g.fecha <= corte), 0) AS mora_pagada
+      FROM mes CROSS JOIN cartera c LEFT JOIN atraso a USING (prestamoid))
+  SELECT extract(year FROM corte)::integer, extract(month FROM corte)::integer, d.prestamoid, corte, d.tipoprestamoid,
+         d.clavefinalidad, d.montoprestamo, d.fecha_vencimiento, d.saldo, d.diastraspasoavencida, d.dias,
+         d.amortizaciones::integer,
+         CASE WHEN d.dias <= d.diastraspasoavencida THEN d.capital_vencido ELSE 0 END,
+         CASE WHEN d.dias <= d.diastraspasoavencida THEN 0 ELSE d.capital_vencido END,
+         d.interes - least(d.interes, d.interes_tras_traspaso), least(d.interes, d.interes_tras_traspaso),
+         greatest(0, d.mora_menor - d.mora_pagada),
+         greatest(0, d.mora_mayor - greatest(0, d.mora_pagada - d.mora_menor)),
+         coalesce(r.porcentaje, 0), coalesce(r.porcentaje, 0) / 100,
+         round(d.saldo * coalesce(r.porcentaje, 0) / 100, 2),
+         coalesce(d.capital_mes, 0), coalesce(d.interes_mes, 0), coalesce(d.moratorio_mes, 0),
+         coalesce(d.bonificacion_interes_mes, 0), coalesce(d.bonificacion_moratorio_mes, 0),
+         d.ultima_pagada, d.ultimo_capital, d.ultimo_interes
+    FROM devengado d
+    LEFT JOIN LATERAL (SELECT porcentaje FROM tramoreserva WHERE diasdesde <= d.dias
+                        ORDER BY diasdesde DESC LIMIT 1) AS r ON true
+$$;
+
+-- Runs the pre-close of the month of a day, as of that day, and answers 1. A month is closed once.
+CREATE FUNCTION precierre(dia text) RETURNS integer
+LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
+DECLARE
+  corte date;
+BEGIN
+  PERFORM exige_permiso('0910');
+  corte := fecha_obligatoria(dia, 'la fecha de cierre');
+  IF corte > current_date THEN
+    RAISE EXCEPTION 'La fecha de cierre % está en el futuro', to_char(corte, 'DD/MM/YYYY')
+      USING ERRCODE = 'datetime_field_overflow';
+  END IF;
+  INSERT INTO cierre (ejercicio, periodo, fechacierre)
+  VALUES (numero(extract(year FROM corte), 1900, 9999, 'el ejercicio'), extract(month FROM corte), corte)
+  ON CONFLICT DO NOTHING;
+  IF NOT FOUND THEN
+    RAISE EXCEPTION 'El mes % ya está cerrado', to_char(corte, 'MM/YYYY') USING ERRCODE = 'unique_violation';
+  END IF;
+  INSERT INTO precorte SELECT * FROM calcula_precorte(corte);
+  RETURN 1;
+END $$;
+
+-- The export of a month, row by row as the client's own statement reads it; the deposits are those of the closing day.
+CREATE VIEW precorte_detalle AS
+SELECT s.clavesocioint, pr.referenciaprestamo, p.ejercicio, p.periodo, p.fechacierre, p.diasvencidos,
+       p.porcentajeaplicado, p.factoraplicado, p.saldoprestamo, p.reservacalculada, p.interesdevengadomenoravencido,
+       p.interesdevengadomayoravencido, p.pagocapitalenperiodo, p.pagointeresenperiodo, p.pagomoratorioenperiodo,
+       p.bonificacionintenperiodo, p.bonificacionmorenperiodo, p.noamorvencidas, p.saldovencidomenoravencido,
+       p.saldovencidomayoravencido, p.fechaultamorpagada, p.tipoprestamoid, p.montoprestamo, pr.fecha_vencimiento,
+       t.tantos, saldodemovr(pr.socioid, t.tipomovimientoid, p.fechacierre::text, pr.prestamoid) AS depositogarantia,
+       pr.tasanormal, pr.tasa_moratoria, su.nombre || ' ' || su.paterno || ' ' || su.materno AS nombresocio, d.calle,
+       d.numero_ext, d.colonia, d.comunidad, d.codpostal, c.nombreciudadmex, p.ultimoabono, p.diastraspasoavencida,
+       p.ultimoabonointeres, pr.numero_de_amor, pr.fecha_otorga, f.descripcionfinalidad,
+       CASE WHEN p.fecha_vencimiento > p.fechacierre AND p.saldoprestamo > 0
+            THEN p.fecha_vencimiento - p.fechacierre ELSE 0 END AS diasrestantes,
+       round((pr.fecha_vencimiento - pr.fecha_otorga)::numeric / pr.numero_de_amor) AS diasporamortizacion,
+       p.interesdevmormenor, p.interesdevmormayor,
+       CASE pr.condicionid WHEN 0 THEN 'Pago periodico de capital e interes'
+                           WHEN 1 THEN 'Pago unico de capital al vencimiento e interes periodico'
+                           WHEN 2 THEN 'Pago unico de capital e intereses al vencimiento'
+                           WHEN 3 THEN 'Revolvente' END AS condicionpago
+  FROM precorte p
+  JOIN prestamos pr USING (prestamoid)
+  JOIN socio s USING (socioid)
+  JOIN tipoprestamo t ON t.tipoprestamoid = pr.tipoprestamoid
+  JOIN sujeto su USING (sujetoid)
+  JOIN domicilio d USING (sujetoid)
+  JOIN ciudadesmex c USING (ciudadmexid)
+  JOIN finalidades f ON f.clavefinalidad = p.clavefinalidad;
+
+-- The same of all branches. A user reads only his own; this reads the others with the owner's rights, for whoever may
+-- run the pre-close here, and answers nothing but that month.
+CREATE FUNCTION precorteconsolidado(anio integer, mes integer) RETURNS SETOF precorte_detalle
+LANGUAGE plpgsql STABLE SECURITY DEFINER SET search_path FROM CURRENT AS $$
+BEGIN
+  PERFORM exige_permiso('0910');
+  RETURN QUERY EXECUTE
+    (SELECT string_agg(format('SELECT * FROM %I.precorte_detalle WHERE ejercicio = $1 AND periodo = $2', sucursal),
+                       ' UNION ALL ')
+       FROM sucursales() AS sucursal) || ' ORDER BY diasvencidos, clavesocioint, referenciaprestamo'
+    USING anio, mes;
+END $$;
+
+GRANT EXECUTE ON FUNCTION precierre, precorteconsolidado TO :"grupo";
