@@ -2,7 +2,7 @@
 INSERT INTO tipoprestamo (
   tipoprestamoid, desctipoprestamo, tantos, tasa_normal, tasa_mora, plazomaximo, montominimo, montomaximo,
   avalesminimos, periododiasdefault, diastraspasoavencida, clavefinalidad, aplicaivaprestamo, prestamogrupal, comision,
-  nivelautorizacion, reciprocidad, clavemovigarantia, ivacomision, estatus, clasificacioncontable, calculonormalid,
+  nivelautorizacion, reciprocidad, tipomovimientoid, ivacomision, estatus, clasificacioncontable, calculonormalid,
   calculomoraid,
   cuentaactivo, cuentaactivovencida, cuentaintnormalnocob, cuentaintnormalvencida, cuentaintmoranocobact,
   cuentariesgocred, cuentaintnormal, cuentaintmora, cuentaintmoravencida, cuentaintdevnocobres,

@@ -4,8 +4,8 @@ INSERT INTO prestamos (referenciaprestamo, socioid, tipoprestamoid, clavefinalid
                        tasa_moratoria, fecha_otorga, fecha_vencimiento, numero_de_amor, condicionid)
 SELECT format('%s-%s-%s', rtrim(e.sucid), extract(year FROM c.otorga), lpad(n::text, 6, '0')), s.socioid,
        t.tipoprestamoid, t.clavefinalidad,
-       t.montominimo + round((t.montomaximo - t.montominimo) * (n * 13 % 37) / 37, -2), t.tasa_normal, t.tasa_mora, c.otorga, c.otorga + t.periododiasdefault * c.amortizaciones, c.amortizaciones,
-       c.condicion
+       t.montominimo + round((t.montomaximo - t.montominimo) * (n * 13 % 37) / 37, -2), t.tasa_normal, t.tasa_mora,
+       c.otorga, c.otorga + t.periododiasdefault * c.amortizaciones, c.amortizaciones, c.condicion
   FROM generate_series(1, 300) AS n
   JOIN (SELECT *, row_number() OVER (ORDER BY tipoprestamoid) - 1 AS lugar FROM tipoprestamo) AS t ON t.lugar = n % 8
   JOIN (SELECT *, row_number() OVER (ORDER BY socioid) - 1 AS lugar FROM socio) AS s ON s.lugar = n * 7 % 260

@@ -40,7 +40,8 @@ SELECT is(como('adriana', 'norte', sentencia), esperado, sentencia)
     ($$select spiciudadmex(34,'12345','Larga');$$, 'No cabe la clave: tiene 5 caracteres y admite 4'),
     ($$select spiciudadmex(34,'2','');$$, 'Falta el nombre'),
     ($$select spuciudadmex('7','Villa',33,129);$$, ''),
-    ($$SELECT estadomexid || '|' || rtrim(claveciudadmex) || '|' || nombreciudadmex FROM spsciudadmex(129)$$, '33|7|Villa'),
+    ($$SELECT estadomexid || '|' || rtrim(claveciudadmex) || '|' || nombreciudadmex FROM spsciudadmex(129)$$,
+     '33|7|Villa'),
     ($$select spuciudadmex('1','Villa',33,129);$$, 'El municipio con clave 1 ya existe en ese estado'),
     ($$select spuciudadmex('7','Villa',99,129);$$, 'El estado 99 no existe'),
     ($$select spuciudadmex('7','Villa',33,999);$$, 'El municipio 999 no existe'),
@@ -53,7 +54,8 @@ SELECT is(como('adriana', 'norte', sentencia), esperado, sentencia)
     ($$select spicolonia(129,'El Muelle                                         ',98765,9);$$, '1281'),
     ($$SELECT coloniaid || '|' || ciudadmexid || '|' || nombrecolonia || '|' || cp || '|' || tipoasentamientoid
          FROM spscolonia(1281);$$, '1281|129|El Muelle|98765|9'),
-    ($$select spicolonia(129,'El Muelle',98765,9);$$, 'La colonia El Muelle ya existe en ese municipio y código postal'),
+    ($$select spicolonia(129,'El Muelle',98765,9);$$,
+     'La colonia El Muelle ya existe en ese municipio y código postal'),
     ($$select spicolonia(999,'Lejos',98765,9);$$, 'El municipio 999 no existe'),
     ($$select spicolonia(129,'Lejos',98765,99);$$, 'El tipo de asentamiento 99 no existe'),
     ($$select spicolonia(129,' ',98765,9);$$, 'Falta el nombre'),
@@ -69,7 +71,7 @@ SELECT is(como('adriana', 'norte', sentencia), esperado, sentencia)
     ($$SELECT spdciudadmex(131);$$, 'No se puede borrar el municipio 131 porque se usa en: 1 colonias'),
     ($$SELECT spdcolonia(1281);$$, ''),
     ($$SELECT spdcolonia(1281);$$, 'La colonia 1281 no existe'),
-    ($$SELECT spdcolonia((SELECT coloniaid FROM domicilio WHERE sujetoid = 100))$$ || '',
+    ($$SELECT spdcolonia((SELECT coloniaid FROM domicilio WHERE sujetoid = 100))$$,
      (SELECT format('No se puede borrar la colonia %s porque se usa en: %s domicilios', coloniaid, count(*))
         FROM norte.domicilio WHERE coloniaid = (SELECT coloniaid FROM norte.domicilio WHERE sujetoid = 100)
        GROUP BY coloniaid)),

@@ -35,7 +35,8 @@ SELECT is(como('adriana', 'norte', replace(sentencia, '{C}', '''1101-01-00-00-00
          feciniciodepfiscal || '|' || actdeduccioninme || '|' || activotasafiscal || '|' || actdepreacumfiscal || '|' ||
          actmetododeprefiscal || '|' || actmonmaxdedufiscal || '|' || montooriginal || '|' || monedaid || '|' ||
          departamento FROM spsactivo(41);$$,
-     '41|5|CLAVE|Descripción|1.50|2.2500|3.75|Lugar|Serie|2006-03-15|4.5000|5.25|1|2007-04-16|S|6.5000|7.25|2|8.50|9.75|MX|2'),
+     '41|5|CLAVE|Descripción|1.50|2.2500|3.75|Lugar|Serie|2006-03-15|4.5000|5.25|1|2007-04-16|S|6.5000|7.25|2|8.50|9.75'
+     '|MX|2'),
     ($$select spuactivo(41,1,'CLAVE','Otra',0,0,0,'Sitio','S2','2008-01-02',0,0,0,'2008-01-03','N',0,0,0,0,0,'US',0);$$,
      ''),
     ($$SELECT depreciacionid || '|' || activodescripcion || '|' || localizacion || '|' || feciniciodepconta || '|' ||

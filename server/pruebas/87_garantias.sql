@@ -23,7 +23,8 @@ SELECT is(como('gerardo', 'norte', comun.rellena(sentencia, to_jsonb(clave))), c
     ($$select spigarantia(NULL,0,NULL,'','','','','');$$, 'Falta el préstamo que se garantiza'),
     ($$select spigarantia(NULL,999999,NULL,'','','','','');$$, 'El préstamo 999999 no existe'),
     ($$select spigarantia(NULL,{p},5,'','','','','');$$, 'El bien 5 no existe'),
-    ($$select spigarantia(NULL,{p},NULL,'','','2016-03-15','2006-03-15','');$$, 'La garantía vence antes de su registro'),
+    ($$select spigarantia(NULL,{p},NULL,'','','2016-03-15','2006-03-15','');$$,
+     'La garantía vence antes de su registro'),
     ($$select spigarantia(NULL,{p},NULL,repeat('x',31),'','','','');$$,
      'No cabe el número de hipoteca: tiene 31 caracteres y admite 30'),
     ($$select spugarantia(999999,NULL,{p},NULL,'','','','','');$$, 'La garantía 999999 no existe'),
@@ -45,7 +46,8 @@ SELECT is(como('camila', 'norte', format('SELECT saldodemovr(1,%L,%L,%s)', tipo,
           format('saldo de %s al %s', tipo, dia))
   FROM clave, (VALUES ('AH', '09/01/2020', '0'), ('AH', '10/01/2020', '100.00'), ('AH', '2020-02-10', '150.25'),
                       ('AH', '31/12/2020', '120.25'), ('AH', '', '120.25'), ('VC', '31/12/2020', '7.00'),
-                      ('ES', '31/12/2020', '0'), ('AH', '31/02/2020', 'La fecha "31/02/2020" no existe en el calendario'))
+                      ('ES', '31/12/2020', '0'),
+                      ('AH', '31/02/2020', 'La fecha "31/02/2020" no existe en el calendario'))
                AS t (tipo, dia, saldo);
 
 SELECT * FROM finish();

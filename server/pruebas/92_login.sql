@@ -20,7 +20,8 @@ SELECT is(como('camila', 'norte', sentencia), esperado, sentencia)
   ) AS paso (sentencia, esperado);
 
 ALTER ROLE braulio NOLOGIN;
-SELECT is(como('camila', 'norte', $$select login('braulio','Contraseña 1');$$), '0', 'quien no puede entrar, tampoco aquí');
+SELECT is(como('camila', 'norte', $$select login('braulio','Contraseña 1');$$), '0',
+          'quien no puede entrar, tampoco aquí');
 
 -- The published example of the derivation (RFC 7677): password "pencil".
 ALTER ROLE julieta PASSWORD 'SCRAM-SHA-256$4096:W22ZaJ0SNY7soEsUEjb6gQ=='

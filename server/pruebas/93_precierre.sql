@@ -21,7 +21,8 @@ SELECT pg_temp.presta('AL CORRIENTE', 'ORD') AS corriente, pg_temp.presta('ATRAS
        pg_temp.presta('LIQUIDADO EN MES', 'ORD') AS liquidado, pg_temp.presta('LIQUIDADO ANTES', 'ORD') AS antes,
        pg_temp.presta('FUTURO', 'ORD') AS futuro \gset
 UPDATE norte.prestamos SET fecha_otorga = '2024-03-16' WHERE prestamoid = :futuro;
-INSERT INTO norte.pago (prestamoid, fecha, capital, interes, moratorio, bonificacioninteres, bonificacionmoratorio) VALUES
+INSERT INTO norte.pago (prestamoid, fecha, capital, interes, moratorio, bonificacioninteres, bonificacionmoratorio)
+VALUES
   (:corriente, '2024-01-31', 1000, 180, 0, 0, 0), (:corriente, '2024-03-01', 1000, 165, 0, 0, 0),
   (:corriente, '2024-03-16', 1000, 150, 0, 0, 0),  -- after the close: does not count
   (:parcial, '2024-02-10', 400, 100, 5, 20, 1),
@@ -112,8 +113,29 @@ SELECT results_eq(
 SELECT is(como('hilda', 'norte', $$select * from precierre('31/01/1950');$$), '1', 'un mes sin préstamos se cierra');
 SELECT is(como('hilda', 'norte', $$select count(*) from precorteconsolidado(1950,1);$$), '0', 'y sale vacío');
 
--- The exports. The client's statement is its own text, as an ordinary user runs it; the deposits are of the closing day.
-\set exporta 'select s.clavesocioint,pr.referenciaprestamo,p.ejercicio,p.periodo, p.fechacierre,p.diasvencidos,p.porcentajeaplicado, p.factoraplicado,p.saldoprestamo,p.reservacalculada, p.interesdevengadomenoravencido, p.interesdevengadomayoravencido,p.pagocapitalenperiodo, p.pagointeresenperiodo,p.pagomoratorioenperiodo, p.bonificacionintenperiodo,p.bonificacionmorenperiodo, p.noamorvencidas,p.saldovencidomenoravencido, p.saldovencidomayoravencido,p.fechaultamorpagada, p.tipoprestamoid,p.montoprestamo,pr.fecha_vencimiento, t.tantos, saldodemovr(pr.socioid,t.tipomovimientoid,''15/03/2024'',pr.prestamoid) as depositogarantia, pr.tasanormal,pr.tasa_moratoria, su.nombre||'' ''||su.paterno||'' ''|| su.materno AS nombresocio, d.calle,d.numero_ext,d.colonia,d.comunidad,d.codpostal, c.nombreciudadmex,p.ultimoabono,p.diastraspasoavencida, p.ultimoabonointeres,pr.numero_de_amor,pr.fecha_otorga, f.descripcionfinalidad, (case when p.fecha_vencimiento>p.fechacierre and p.saldoprestamo>0 then p.fecha_vencimiento-p.fechacierre else 0 end) as diasrestantes, round((pr.fecha_vencimiento-pr.fecha_otorga)/(pr.numero_de_amor*0.1/0.1)), interesdevmormenor,interesdevmormayor, (case when pr.condicionid=0 then ''Pago periodico de capital e interes'' when pr.condicionid=1 then ''Pago unico de capital al vencimiento e interes periodico'' when pr.condicionid=2 then ''Pago unico de capital e intereses al vencimiento'' when pr.condicionid=3 then ''Revolvente'' end) from precorte p,prestamos pr,socio s,tipoprestamo t, sujeto su, domicilio d, ciudadesmex c, finalidades f where p.ejercicio=2024 and p.periodo=3 and pr.prestamoid=p.prestamoid and s.socioid=pr.socioid and t.tipoprestamoid = pr.tipoprestamoid and su.sujetoid=s.sujetoid and d.sujetoid=s.sujetoid and c.ciudadmexid = d.ciudadmexid and f.clavefinalidad=p.clavefinalidad order by p.diasvencidos,s.clavesocioint'
+-- The exports. The client's statement is its own text, as an ordinary user runs it; deposits are of the closing day.
+SELECT $$
+select s.clavesocioint,pr.referenciaprestamo,p.ejercicio,p.periodo, p.fechacierre,p.diasvencidos,p.porcentajeaplicado,
+p.factoraplicado,p.saldoprestamo,p.reservacalculada, p.interesdevengadomenoravencido,
+p.interesdevengadomayoravencido,p.pagocapitalenperiodo, p.pagointeresenperiodo,p.pagomoratorioenperiodo,
+p.bonificacionintenperiodo,p.bonificacionmorenperiodo, p.noamorvencidas,p.saldovencidomenoravencido,
+p.saldovencidomayoravencido,p.fechaultamorpagada, p.tipoprestamoid,p.montoprestamo,pr.fecha_vencimiento, t.tantos,
+saldodemovr(pr.socioid,t.tipomovimientoid,'15/03/2024',pr.prestamoid) as depositogarantia,
+pr.tasanormal,pr.tasa_moratoria, su.nombre||' '||su.paterno||' '|| su.materno AS nombresocio,
+d.calle,d.numero_ext,d.colonia,d.comunidad,d.codpostal, c.nombreciudadmex,p.ultimoabono,p.diastraspasoavencida,
+p.ultimoabonointeres,pr.numero_de_amor,pr.fecha_otorga, f.descripcionfinalidad,
+(case when p.fecha_vencimiento>p.fechacierre and p.saldoprestamo>0 then p.fecha_vencimiento-p.fechacierre else 0 end)
+as diasrestantes, round((pr.fecha_vencimiento-pr.fecha_otorga)/(pr.numero_de_amor*0.1/0.1)),
+interesdevmormenor,interesdevmormayor,
+(case when pr.condicionid=0 then 'Pago periodico de capital e interes'
+when pr.condicionid=1 then 'Pago unico de capital al vencimiento e interes periodico'
+when pr.condicionid=2 then 'Pago unico de capital e intereses al vencimiento'
+when pr.condicionid=3 then 'Revolvente' end)
+from precorte p,prestamos pr,socio s,tipoprestamo t, sujeto su, domicilio d, ciudadesmex c, finalidades f
+where p.ejercicio=2024 and p.periodo=3 and pr.prestamoid=p.prestamoid and s.socioid=pr.socioid
+and t.tipoprestamoid = pr.tipoprestamoid and su.sujetoid=s.sujetoid and d.sujetoid=s.sujetoid
+and c.ciudadmexid = d.ciudadmexid and f.clavefinalidad=p.clavefinalidad
+order by p.diasvencidos,s.clavesocioint $$ AS exporta \gset
 UPDATE norte.prestamos SET condicionid = prestamoid % 4 WHERE fecha_otorga = '2024-01-01';
 INSERT INTO norte.movimiento (socioid, tipomovimientoid, prestamoid, fecha, importe)
 VALUES (1, 'GL', :atrasado, '2024-03-15', 500), (1, 'GL', :atrasado, '2024-03-16', 70);
@@ -126,8 +148,8 @@ SET LOCAL search_path TO tap, public;
 SELECT is((SELECT depositogarantia FROM norte.precorte_detalle
             WHERE ejercicio = 2024 AND periodo = 3 AND referenciaprestamo = 'ATRASADO'), 500.00,
           'el depósito en garantía es el del día del cierre');
-SELECT is((SELECT count(*) FROM pg_attribute WHERE attrelid = 'norte.precorte_detalle'::regclass AND attnum > 0), 46::bigint,
-          'son 46 columnas');
+SELECT is((SELECT count(*) FROM pg_attribute WHERE attrelid = 'norte.precorte_detalle'::regclass AND attnum > 0),
+          46::bigint, 'son 46 columnas');
 
 INSERT INTO sur.prestamos (referenciaprestamo, socioid, tipoprestamoid, clavefinalidad, montoprestamo, tasanormal,
                            tasa_moratoria, fecha_otorga, fecha_vencimiento, numero_de_amor, condicionid)

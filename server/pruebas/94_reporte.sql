@@ -45,8 +45,8 @@ SELECT is(regexp_replace(como('camila', 'norte', $$SELECT * FROM spssujeto('ange
   (18, repeat('-', 135)),
   (19, 'Personas: 1')) AS r (n, renglon)), 'el reporte de una persona');
 
-SELECT is((regexp_match(como('camila', 'norte', format('SELECT * FROM spssujeto(%L,%L,%L,%L);', nombre, paterno, materno,
-                                                       clave)), 'Personas: (\d+)'))[1]::integer, personas,
+SELECT is((regexp_match(como('camila', 'norte', format('SELECT * FROM spssujeto(%L,%L,%L,%L);', nombre, paterno,
+                                                       materno, clave)), 'Personas: (\d+)'))[1]::integer, personas,
           concat_ws('|', nombre, paterno, materno, clave))
   FROM (VALUES
     ('REPORTE', '', '', '', 1), ('angel reporte', '', '', '', 1), ('', 'zzuniga', '', '', 1), ('', '', 'PEÑAF', '', 1),
@@ -54,8 +54,8 @@ SELECT is((regexp_match(como('camila', 'norte', format('SELECT * FROM spssujeto(
     ('', '', '', 'clave-7777', 1), ('reporte', 'otro', '', '', 0), ('%', '', '', '', 0), ('', '', '', '', 281)
   ) AS caso (nombre, paterno, materno, clave, personas);
 
-SELECT is((SELECT max(length(renglon)) FROM regexp_split_to_table(norte.spssujeto('', '', '', ''), E'\n') AS renglon), 135,
-          'ningún renglón pasa de 135 columnas');
+SELECT is((SELECT max(length(renglon)) FROM regexp_split_to_table(norte.spssujeto('', '', '', ''), E'\n') AS renglon),
+          135, 'ningún renglón pasa de 135 columnas');
 SELECT matches(como('camila', 'norte', $$SELECT * FROM spssujeto('nadie así','','','');$$),
                'No hay personas con esos datos\.', 'se dice que no hay nadie');
 

@@ -25,7 +25,7 @@ CREATE TABLE tipoprestamo (
   cuentariesgocred character(24) NOT NULL REFERENCES catalogo_ctas,
   cuentaordeninteres character(24) NOT NULL REFERENCES catalogo_ctas,
   cuentaordenaval character(24) NOT NULL REFERENCES catalogo_ctas,
-  clavemovigarantia character(2) REFERENCES tipomovimiento,
+  tipomovimientoid character(2) REFERENCES tipomovimiento,
   desctipoprestamo varchar(31) NOT NULL,
   tantos integer NOT NULL CHECK (tantos >= 0),
   tasa_normal numeric(10,6) NOT NULL CHECK (tasa_normal >= 0),
@@ -67,7 +67,7 @@ CREATE TABLE tipoprestamo (
   clasificacioncontable text
 );
 COMMENT ON TABLE tipoprestamo IS 'tipos de préstamo: créditos que ofrece la institución';
-COMMENT ON COLUMN tipoprestamo.clavemovigarantia IS 'tipo de movimiento de la garantía';
+COMMENT ON COLUMN tipoprestamo.tipomovimientoid IS 'tipo de movimiento de la garantía';
 COMMENT ON COLUMN tipoprestamo.diastraspasoavencida IS 'días de atraso con que pasa a cartera vencida';
 COMMENT ON COLUMN tipoprestamo.plazomaximo IS 'plazo mayor, en días';
 COMMENT ON COLUMN tipoprestamo.estatus IS '1 se ofrece, 0 ya no';
@@ -123,7 +123,7 @@ BEGIN
   fila.tantos := numero(veces, 0, 99999, 'el número de tantos');
   fila.tasa_normal := numero(normal, 0, 9999.999999, 'la tasa normal');
   fila.tasa_mora := numero(mora, 0, 9999.999999, 'la tasa moratoria');
-  fila.clavemovigarantia := referencia(opcional(movi_garantia, 2, 'el movimiento de garantía'), 'tipomovimiento',
+  fila.tipomovimientoid := referencia(opcional(movi_garantia, 2, 'el movimiento de garantía'), 'tipomovimiento',
                                        'tipomovimientoid', 'el movimiento de garantía');
   fila.calculonormalid := formula_existente(formula_normal, 'la fórmula de interés normal');
   fila.calculomoraid := formula_existente(formula_mora, 'la fórmula de interés moratorio');
@@ -171,7 +171,7 @@ RETURNS TABLE (tipoprestamoid character(3), cuentaactivo character(24), cuentaac
                cuentaintnormal character(24), cuentaintnormalvencida character(24), cuentaintnormalnocob character(24),
                cuentaintmora character(24), cuentaintmoravencida character(24), cuentaiva character(24),
                cuentariesgocred character(24), cuentaordeninteres character(24), cuentaordenaval character(24),
-               clavemovigarantia character(2), desctipoprestamo varchar(31), tantos integer, tasa_normal numeric,
+               tipomovimientoid character(2), desctipoprestamo varchar(31), tantos integer, tasa_normal numeric,
                tasa_mora numeric, aplicaivaprestamo character(1), diastraspasoavencida integer,
                cuentaintdevnocobres character(24), cuentariesgocredres character(24),
                cuentaintmoranocobact character(24), cuentaintmoradevnocobres character(24),
@@ -189,7 +189,7 @@ LANGUAGE sql STABLE
 BEGIN ATOMIC
   SELECT t.tipoprestamoid, t.cuentaactivo, t.cuentaactivovencida, t.cuentaintnormal, t.cuentaintnormalvencida,
          t.cuentaintnormalnocob, t.cuentaintmora, t.cuentaintmoravencida, t.cuentaiva, t.cuentariesgocred,
-         t.cuentaordeninteres, t.cuentaordenaval, coalesce(t.clavemovigarantia, ''::character(2)),
+         t.cuentaordeninteres, t.cuentaordenaval, coalesce(t.tipomovimientoid, ''::character(2)),
          t.desctipoprestamo, t.tantos, t.tasa_normal, t.tasa_mora, t.aplicaivaprestamo, t.diastraspasoavencida,
          t.cuentaintdevnocobres, coalesce(t.cuentariesgocredres, ''::character(24)), t.cuentaintmoranocobact,
          t.cuentaintmoradevnocobres, coalesce(t.ordendeudornormalbonificado, ''::character(24)),
@@ -259,7 +259,7 @@ BEGIN
          cuentaintnormalnocob = fila.cuentaintnormalnocob, cuentaintmora = fila.cuentaintmora,
          cuentaintmoravencida = fila.cuentaintmoravencida, cuentaiva = fila.cuentaiva,
          cuentariesgocred = fila.cuentariesgocred, cuentaordeninteres = fila.cuentaordeninteres,
-         cuentaordenaval = fila.cuentaordenaval, clavemovigarantia = fila.clavemovigarantia,
+         cuentaordenaval = fila.cuentaordenaval, tipomovimientoid = fila.tipomovimientoid,
          desctipoprestamo = fila.desctipoprestamo, tantos = fila.tantos, tasa_normal = fila.tasa_normal,
          tasa_mora = fila.tasa_mora, aplicaivaprestamo = fila.aplicaivaprestamo,
          diastraspasoavencida = fila.diastraspasoavencida, cuentaintdevnocobres = fila.cuentaintdevnocobres,

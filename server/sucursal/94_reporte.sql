@@ -34,7 +34,8 @@ LANGUAGE sql STABLE SET search_path FROM CURRENT AS $$
                           THEN format('Socio %-15s  %-32s  desde %s', s.clavesocioint, s.estatus,
                                       to_char(s.fechaalta, 'DD/MM/YYYY')) END,
            (SELECT string_agg(format('%sPréstamo %-18s  tipo %-3s  otorgado %s  vence %s  monto %15s  saldo %15s',
-                                     margen, r.referenciaprestamo, r.tipoprestamoid, to_char(r.fecha_otorga, 'DD/MM/YYYY'),
+                                     margen, r.referenciaprestamo, r.tipoprestamoid,
+                                     to_char(r.fecha_otorga, 'DD/MM/YYYY'),
                                      to_char(r.fecha_vencimiento, 'DD/MM/YYYY'), to_char(r.montoprestamo, importe),
                                      to_char(r.montoprestamo - coalesce((SELECT sum(g.capital) FROM pago g
                                                                           WHERE g.prestamoid = r.prestamoid), 0),

@@ -1,6 +1,6 @@
--- The tests of every function that writes, `llamada` (module, function, arguments of a call that is right), and of those
--- that read, `lectura` (function, how many arguments): who may call it, and what it does with any input. `correcto` is
--- the pattern of the right answers, set by the including file.
+-- The tests of every function that writes, `llamada` (module, function, arguments of a call that is right), and of
+-- those that read, `lectura` (function, how many arguments): who may call it, and what it does with any input.
+-- `correcto` is the pattern of the right answers, set by the including file.
 CREATE FUNCTION pg_temp.llama(usuario text, funcion text, argumentos text[]) RETURNS text
 LANGUAGE sql AS $$
   SELECT como(usuario, 'norte', format('SELECT * FROM %s(%s)', funcion, array_to_string(argumentos, ',', 'NULL')))

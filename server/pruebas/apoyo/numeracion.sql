@@ -1,5 +1,5 @@
--- For the tests that name the numbers of new rows: until the end of the transaction each table of norte goes on from its
--- highest number, whatever other tests have used up.
+-- For the tests that name the numbers of new rows: until the end of the transaction each table of norte goes on from
+-- its highest number, whatever other tests have used up.
 DO $$
 DECLARE
   columna record;

@@ -120,7 +120,7 @@ INSERT INTO contrato VALUES
    'TABLE(tipoprestamoid character, cuentaactivo character, cuentaactivovencida character, cuentaintnormal '
    'character, cuentaintnormalvencida character, cuentaintnormalnocob character, cuentaintmora character, '
    'cuentaintmoravencida character, cuentaiva character, cuentariesgocred character, cuentaordeninteres '
-   'character, cuentaordenaval character, clavemovigarantia character, desctipoprestamo character varying, '
+   'character, cuentaordenaval character, tipomovimientoid character, desctipoprestamo character varying, '
    'tantos integer, tasa_normal numeric, tasa_mora numeric, aplicaivaprestamo character, diastraspasoavencida '
    'integer, cuentaintdevnocobres character, cuentariesgocredres character, cuentaintmoranocobact character, '
    'cuentaintmoradevnocobres character, ordendeudornormalbonificado character, ordenacredornormalbonificado '
