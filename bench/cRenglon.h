@@ -7,24 +7,15 @@
 class cRenglon : public Registro<cRenglon> {
  public:
   cRenglon() { Clear(); }
-  explicit cRenglon(int clave) : cRenglon() { Clave = clave; }
-
-  bool operator>(const cRenglon& otro) const { return Clave > otro.Clave; }
-  bool operator<=(const cRenglon& otro) const { return Clave <= otro.Clave; }
+  explicit cRenglon(int clave) : cRenglon() { RenglonID = clave; }
 
  private:
   friend Registro<cRenglon>;
 
-  template <class V>
-  void Columnas(V columna) {
-    columna(Clave);
-    columna(Nombre);
-    columna(Ciudad);
-    columna(CP);
-    columna(Valor);
-  }
+  auto Columnas() { return std::tie(RenglonID, Nombre, Ciudad, CP, Valor); }
+  int Clave() const { return RenglonID; }
 
-  int Clave;
+  int RenglonID;
   char Nombre[51];
   char Ciudad[31];
   char CP[7];

@@ -3,19 +3,20 @@
 // A record `class cX : public Registro<cX>` states only what is its own, as private members open to
 // `friend Registro<cX>`:
 //
-//   static constexpr unsigned trazas        the statements that it traces, where it traces any
-//   template <class V> void Columnas(V v)   v(column) for each column, in the order of the server's answer
-//   bool HayClaveFind() const               is there a key to look for
-//   bool HayClaveDelete() const             is there a key to delete
-//   Sentencia SqlAddNew() const             and SqlUpdate, SqlDelete, SqlFind: its four statements
-//   void AlInsertar()                       TomaClave(key), where the server assigns the key
+//   static constexpr unsigned trazas    the statements that it traces, where it traces any
+//   auto Columnas()                     std::tie of its columns, in the order of the server's answer
+//   auto Clave() const                  the key: a text or an integer
+//   Sentencia SqlAddNew() const         and SqlUpdate, SqlDelete, SqlFind: its four statements
+//   void AlInsertar()                   TomaClave(key), where the server assigns the key
 //
 // and publicly its constructors, setters (through Pon and its like), getters, Check and clase(). A record
-// that others are built on names EngineVirtual as the second argument.
+// that others are built on names EngineVirtual as the second argument. What a record does in its own way it
+// defines under the same name.
 #pragma once
 
 #include <cstdlib>
 #include <cstring>
+#include <tuple>
 
 #include "app/sesion.h"
 #include "db/Engine.h"
@@ -26,7 +27,7 @@
 /// The statements that a record class writes to standard output before it executes them: a sum of these.
 enum Traza : unsigned { TrazaNinguna = 0, TrazaAddNew = 1, TrazaUpdate = 2, TrazaDelete = 4, TrazaFind = 8 };
 
-/// Column visitor: takes the columns, one after the other, from one row of the shared result.
+/// Converts one row of the shared result, field after field, into columns.
 class LectorDeFila {
  public:
   explicit LectorDeFila(int fila) : fila(fila) {}
@@ -48,17 +49,36 @@ class LectorDeFila {
   int siguiente = 0;
 };
 
-/// Column visitor: empties texts, zeroes numbers.
-struct Vaciador {
-  template <size_t N>
-  void operator()(char (&columna)[N]) {
-    columna[0] = '\0';
-  }
-  template <class T>
-  void operator()(T& columna) {
-    columna = T();
-  }
-};
+/// Stores `valor` in a column as it stands; a text is cut to its width.
+template <size_t N>
+void GuardaColumna(char (&columna)[N], const char* valor) {
+  CopiaTexto(columna, valor);
+}
+template <class T>
+void GuardaColumna(T& columna, const T& valor) {
+  columna = valor;
+}
+
+/// Empties a text, zeroes a number.
+template <size_t N>
+void VaciaColumna(char (&columna)[N]) {
+  columna[0] = '\0';
+}
+template <class T>
+void VaciaColumna(T& columna) {
+  columna = T();
+}
+
+/// Takes the columns from row `fila` of the shared result; a missing field reads as an empty one.
+template <class... Columnas>
+void LlenaColumnas(std::tuple<Columnas&...> columnas, int fila) {
+  std::apply([lector = LectorDeFila(fila)](auto&... columna) mutable { (lector(columna), ...); }, columnas);
+}
+
+template <class... Columnas>
+void VaciaColumnas(std::tuple<Columnas&...> columnas) {
+  std::apply([](auto&... columna) { (VaciaColumna(columna), ...); }, columnas);
+}
 
 template <class Clase, class Base = Engine>
 class Registro : public Base {
@@ -70,16 +90,20 @@ class Registro : public Base {
   void setIsNew(bool valor) { isNew = valor; }
   bool IsNew() const { return isNew; }
 
+  /// The order of a record that a `lista` holds: its integer key alone.
+  bool operator>(const Clase& otra) const { return ClaveEntera() > otra.ClaveEntera(); }
+  bool operator<=(const Clase& otra) const { return ClaveEntera() <= otra.ClaveEntera(); }
+
   /// Takes row `fila` of the shared result, which the caller owns; both flags false. A missing column reads
   /// as an empty one.
   void Fill(int fila) {
-    Yo().Columnas(LectorDeFila(fila));
+    LlenaColumnas(Yo().Columnas(), fila);
     dataChanged = isNew = false;
   }
 
   /// Empties every column; both flags false.
   void Clear() {
-    Yo().Columnas(Vaciador());
+    VaciaColumnas(Yo().Columnas());
     dataChanged = isNew = false;
   }
 
@@ -118,6 +142,24 @@ class Registro : public Base {
 
  protected:
   static constexpr unsigned trazas = TrazaNinguna;
+
+  /// Is there a key to look for, and one to delete? An integer one is above 0, and not 0.
+  bool HayClaveFind() const { return Buscable(Yo().Clave()); }
+  bool HayClaveDelete() const { return Borrable(Yo().Clave()); }
+
+  /// What the constructor with every column and both flags does: `valores` in the order of Columnas, each as
+  /// it stands.
+  template <class... Valores>
+  void Toma(bool cambiado, bool nuevo, const Valores&... valores) {
+    std::apply([&](auto&... columna) { (GuardaColumna(columna, valores), ...); }, Yo().Columnas());
+    dataChanged = cambiado;
+    isNew = nuevo;
+  }
+
+  /// A rule of Check: throws `mensaje` for an empty text.
+  static void ExigeTexto(const char* columna, const char* mensaje) {
+    if (columna[0] == '\0') Lanza(mensaje);
+  }
 
   /// Sees the server's answer to the insert.
   void AlInsertar() {}
@@ -168,5 +210,12 @@ class Registro : public Base {
 
  private:
   static constexpr bool SeTraza(Traza operacion) { return (Clase::trazas & operacion) != 0; }
+  static bool Buscable(const char* clave) { return clave[0] != '\0'; }
+  static bool Buscable(long clave) { return clave > 0; }
+  static bool Borrable(const char* clave) { return clave[0] != '\0'; }
+  static bool Borrable(long clave) { return clave != 0; }
+
+  long ClaveEntera() const { return Yo().Clave(); }
   Clase& Yo() { return static_cast<Clase&>(*this); }
+  const Clase& Yo() const { return static_cast<const Clase&>(*this); }
 };

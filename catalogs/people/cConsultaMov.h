@@ -4,10 +4,15 @@
 #include "framework/Registro.h"
 
 class cConsultaMov : public Engine {
+  auto Columnas() {
+    return std::tie(Texto1, Texto2, Importe[0], Importe[1], Importe[2], Importe[3], Fecha[0], Fecha[1],
+                    Fecha[2], Fecha[3]);
+  }
+
  public:
-  cConsultaMov() { Columnas(Vaciador()); }
+  cConsultaMov() { VaciaColumnas(Columnas()); }
   void Copy(const cConsultaMov& otra) { *this = otra; }
-  void Fill(int fila) { Columnas(LectorDeFila(fila)); }
+  void Fill(int fila) { LlenaColumnas(Columnas(), fila); }
 
   const char* getTexto1() const { return Texto1; }
   const char* getTexto2() const { return Texto2; }
@@ -17,14 +22,6 @@ class cConsultaMov : public Engine {
   const date& getFecha(int i) const { return Fecha[i]; }
 
  private:
-  template <class V>
-  void Columnas(V columna) {
-    columna(Texto1);
-    columna(Texto2);
-    for (double& importe : Importe) columna(importe);
-    for (date& fecha : Fecha) columna(fecha);
-  }
-
   char Texto1[16];
   char Texto2[83];
   double Importe[4];

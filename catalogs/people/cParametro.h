@@ -38,19 +38,11 @@ class cParametro : public Registro<cParametro, EngineVirtual> {
   friend Registro<cParametro, EngineVirtual>;
   static constexpr unsigned trazas = TrazaUpdate | TrazaFind;
 
-  template <class V>
-  void Columnas(V columna) {
-    columna(ParametroID);
-    columna(UsuarioID);
-    columna(SerieUser);
-    columna(CuentaCaja);
-    columna(ImpresoraCaja);
-    columna(ImpresoraReporte);
-    columna(ReportesLaser);
-    columna(ClaveSocioInt);
+  auto Columnas() {
+    return std::tie(ParametroID, UsuarioID, SerieUser, CuentaCaja, ImpresoraCaja, ImpresoraReporte,
+                    ReportesLaser, ClaveSocioInt);
   }
-  bool HayClaveFind() const { return UsuarioID[0] != '\0'; }
-  bool HayClaveDelete() const { return UsuarioID[0] != '\0'; }
+  const char* Clave() const { return UsuarioID; }
 
   Sentencia SqlAddNew() const;
   Sentencia SqlUpdate() const;

@@ -3,13 +3,7 @@
 cPermisosModulos::cPermisosModulos(long id, const char* claveModulo, const char* usuarioID,
                                    const char* permiso, const char* descripcionModulo, bool cambiado,
                                    bool nuevo, bool borrado) {
-  PermisoModuloID = id;
-  CopiaTexto(ClaveModulo, claveModulo);
-  CopiaTexto(UsuarioID, usuarioID);
-  CopiaTexto(Permiso, permiso);
-  CopiaTexto(DescripcionModulo, descripcionModulo);
-  dataChanged = cambiado;
-  isNew = nuevo;
+  Toma(cambiado, nuevo, id, claveModulo, usuarioID, permiso, descripcionModulo);
   deleted = borrado;
 }
 

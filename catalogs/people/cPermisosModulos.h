@@ -37,16 +37,9 @@ class cPermisosModulos : public Registro<cPermisosModulos> {
  private:
   friend Registro<cPermisosModulos>;
 
-  template <class V>
-  void Columnas(V columna) {
-    columna(PermisoModuloID);
-    columna(ClaveModulo);
-    columna(UsuarioID);
-    columna(Permiso);
-    columna(DescripcionModulo);
-  }
+  auto Columnas() { return std::tie(PermisoModuloID, ClaveModulo, UsuarioID, Permiso, DescripcionModulo); }
+  long Clave() const { return PermisoModuloID; }
   bool HayClaveFind() const { return PermisoModuloID != 0; }
-  bool HayClaveDelete() const { return PermisoModuloID != 0; }
   void AlInsertar() { TomaClave(PermisoModuloID); }
 
   Sentencia SqlAddNew() const;

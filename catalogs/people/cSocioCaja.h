@@ -4,6 +4,8 @@
 #include "framework/Registro.h"
 
 class cSocioCaja : public EngineVirtual {
+  auto Columnas() { return std::tie(SocioID, ClaveSocioInt, Paterno, Materno, Nombre, Estatus); }
+
  public:
   cSocioCaja() { Clear(); }
   /// Stores each argument as it stands.
@@ -25,20 +27,10 @@ class cSocioCaja : public EngineVirtual {
   const char* getNombre() const { return Nombre; }
   const char* getEstatus() const { return Estatus; }
 
-  void Fill(int fila) { Columnas(LectorDeFila(fila)); }
-  void Clear() { Columnas(Vaciador()); }
+  void Fill(int fila) { LlenaColumnas(Columnas(), fila); }
+  void Clear() { VaciaColumnas(Columnas()); }
 
  private:
-  template <class V>
-  void Columnas(V columna) {
-    columna(SocioID);
-    columna(ClaveSocioInt);
-    columna(Paterno);
-    columna(Materno);
-    columna(Nombre);
-    columna(Estatus);
-  }
-
   long SocioID;
   char Paterno[21];
   char Materno[21];

@@ -3,16 +3,12 @@
 #include <iostream>
 
 cMonedas::cMonedas(const char* id, const char* descri, float valor, bool cambiado, bool nuevo) {
-  CopiaTexto(MonedaID, id);
-  CopiaTexto(MonedaDescri, descri);
-  MonedaValor = valor;
-  dataChanged = cambiado;
-  isNew = nuevo;
+  Toma(cambiado, nuevo, id, valor, descri);
 }
 
 bool cMonedas::Check() {
-  if (MonedaID[0] == '\0') Lanza("No se especifico la clave");
-  if (MonedaDescri[0] == '\0') Lanza("No ha especificado la descripción");
+  ExigeTexto(MonedaID, "No se especifico la clave");
+  ExigeTexto(MonedaDescri, "No ha especificado la descripción");
   if (MonedaValor < 0) Lanza("El valor de la moneda no puede ser negativo");
   return true;
 }

@@ -28,14 +28,8 @@ class cMonedas : public Registro<cMonedas> {
   friend Registro<cMonedas>;
   static constexpr unsigned trazas = TrazaUpdate;
 
-  template <class V>
-  void Columnas(V columna) {
-    columna(MonedaID);
-    columna(MonedaValor);
-    columna(MonedaDescri);
-  }
-  bool HayClaveFind() const { return MonedaID[0] != '\0'; }
-  bool HayClaveDelete() const { return MonedaID[0] != '\0'; }
+  auto Columnas() { return std::tie(MonedaID, MonedaValor, MonedaDescri); }
+  const char* Clave() const { return MonedaID; }
 
   Sentencia SqlAddNew() const;
   Sentencia SqlUpdate() const;

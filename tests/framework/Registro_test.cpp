@@ -45,19 +45,8 @@ class cPieza : public Registro<cPieza> {
   friend Registro<cPieza>;
   static constexpr unsigned trazas = TrazaAddNew | TrazaUpdate | TrazaDelete | TrazaFind;
 
-  template <class V>
-  void Columnas(V columna) {
-    columna(PiezaID);
-    columna(Largo);
-    columna(Nombre);
-    columna(Rellena);
-    columna(Limitada);
-    columna(Flotante);
-    columna(Doble);
-    columna(Dia);
-  }
-  bool HayClaveFind() const { return PiezaID > 0; }
-  bool HayClaveDelete() const { return PiezaID != 0; }
+  auto Columnas() { return std::tie(PiezaID, Largo, Nombre, Rellena, Limitada, Flotante, Doble, Dia); }
+  int Clave() const { return PiezaID; }
   void AlInsertar() { TomaClave(PiezaID); }
 
   Sql SqlAddNew() const { return Sql("select spipieza('%s');", Nombre); }
@@ -131,6 +120,22 @@ TEST(Registro, ElFormatoDeUnTextoSeAplicaTrasCompararloComoSeDio) {
   pieza.setDataChanged(false);
   pieza.setLimitada("abcdef");
   EXPECT_TRUE(pieza.getDataChanged());
+}
+
+TEST(Registro, EnUnaListaSoloCuentaLaClave) {
+  const struct {
+    int clave, otra;
+    bool mayor;
+  } tabla[] = {{1, 2, false}, {2, 1, true}, {1, 1, false}, {-1, 0, false}, {INT_MAX, INT_MIN, true}};
+  for (const auto& fila : tabla) {
+    cPieza pieza, otra;
+    pieza.setPiezaID(fila.clave);
+    pieza.setNombre("z");
+    otra.setPiezaID(fila.otra);
+    otra.setNombre("a");
+    EXPECT_EQ(pieza > otra, fila.mayor);
+    EXPECT_EQ(pieza <= otra, !fila.mayor);
+  }
 }
 
 // Against stored functions of the test's own.

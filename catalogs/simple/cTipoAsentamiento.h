@@ -1,0 +1,35 @@
+// A kind of settlement: neighbourhood, village and so on. No form edits it: it is looked up in the cache.
+#pragma once
+
+#include "framework/Registro.h"
+
+class cTipoAsentamiento : public Registro<cTipoAsentamiento> {
+ public:
+  cTipoAsentamiento() { Clear(); }
+  /// Stores each argument as it stands.
+  cTipoAsentamiento(long id, const char* asentamiento, bool dataChanged, bool isNew);
+
+  void setTipoAsentamientoID(long valor) { Pon(TipoAsentamientoID, valor); }
+  /// Stored with blanks behind it up to 50 characters.
+  void setAsentamiento(const char* valor) { PonRellenado(Asentamiento, 50, valor); }
+
+  long getTipoAsentamientoID() const { return TipoAsentamientoID; }
+  const char* getAsentamiento() const { return Asentamiento; }
+
+  /// True, or throws the message of the first rule that is broken.
+  bool Check();
+
+ private:
+  friend Registro<cTipoAsentamiento>;
+
+  auto Columnas() { return std::tie(TipoAsentamientoID, Asentamiento); }
+  long Clave() const { return TipoAsentamientoID; }
+
+  Sentencia SqlAddNew() const;
+  Sentencia SqlUpdate() const;
+  Sentencia SqlDelete() const;
+  Sentencia SqlFind() const;
+
+  long TipoAsentamientoID;
+  char Asentamiento[51];
+};
