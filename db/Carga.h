@@ -2,14 +2,21 @@
 //
 // A load replaces its container as a whole. It walks the shared result, so neither Fill nor the copy
 // constructor of the record may query. The status of the select is not looked at: a failed one gives no rows
-// and no message.
+// and no message. One record takes all rows in turn, so what its Fill leaves alone comes from the row before.
 #pragma once
 
+#include <iostream>
 #include <map>
 
 #include "app/sesion.h"
 #include "db/Engine.h"
 #include "widgets/lista.h"
+
+/// Writes the text of a load to standard output, and answers it.
+inline const char* Trazada(const char* sql) {
+  std::cout << sql << std::endl;
+  return sql;
+}
 
 template <class T>
 void Vacia(std::map<int, T>& mapa) {
@@ -25,8 +32,11 @@ void Vacia(lista<T>& filas) {
 template <class T>
 void LeeFilas(std::map<int, T>& mapa, const char* sql) {
   Ejecuta(sql);
-  for (int fila = 0; fila < PQntuples(res); ++fila)
-    mapa.emplace_hint(mapa.end(), fila, T())->second.Fill(fila);
+  T registro;
+  for (int fila = 0; fila < PQntuples(res); ++fila) {
+    registro.Fill(fila);
+    mapa.emplace_hint(mapa.end(), fila, registro);
+  }
 }
 
 /// Reads the rows of `sql` into an empty list, sorted by its record's key.

@@ -3,13 +3,31 @@
 //
 // One instance, the global `catalogo`. The key of every map is the row number of the server's answer, from 0,
 // and not the record's identifier: a form finds row i of its list under key i. A load replaces its container
-// as a whole; a form's Load calls the one of its catalogue, and the login fills everything.
+// as a whole; a form's Load calls the one of its catalogue, and the login fills everything. The catalogues of
+// a short form are sorted lists.
 #pragma once
 
 #include <map>
 
+#include "catalogs/finance/cCatalogo_Ctas.h"
 #include "catalogs/people/cSocioCaja.h"
+#include "catalogs/simple/cAsesor.h"
+#include "catalogs/simple/cClasificacionCredito.h"
+#include "catalogs/simple/cConceptoScoring.h"
+#include "catalogs/simple/cEstados_Credito.h"
+#include "catalogs/simple/cFinalidades.h"
+#include "catalogs/simple/cGrupo.h"
+#include "catalogs/simple/cModulo.h"
 #include "catalogs/simple/cMonedas.h"
+#include "catalogs/simple/cMotivoBaja.h"
+#include "catalogs/simple/cOcupacion.h"
+#include "catalogs/simple/cTipoAcreditadoR.h"
+#include "catalogs/simple/cTipoAsentamiento.h"
+#include "catalogs/simple/cTipoMoviBanco.h"
+#include "catalogs/simple/cTipoSocio.h"
+#include "catalogs/simple/cTipoUsuario.h"
+#include "catalogs/simple/cTipo_Garantia.h"
+#include "widgets/lista.h"
 
 class Catalogo {
  public:
@@ -24,9 +42,41 @@ class Catalogo {
 
   // The loads. One with a transaction throws its message when "BEGIN;" fails, its container already empty; a
   // select that fails gives no rows and no message.
+  void LoadCuentas();
   void LoadMonedas();
+  void LoadTipoGarantia();
+  void LoadEstadosCredito();
+  void LoadFinalidades();
+  void LoadTipoMoviBancos();
+  void LoadTiposUsuarios();
+  void LoadTiposSocios();
+  void LoadModulos();
+  void LoadAsesor();
+  void LoadMotivosBaja();
+  void LoadClasificacionCreditos();
+  void LoadTipoAcreditadosR();
+  void LoadTipoAsentamientos();
+  void LoadGrupos();
+  void LoadOcupaciones();
+  void LoadConceptosScoring();
   /// Only if the newest member is newer than at the last load.
   void LoadSociosCaja();
+  /// The members that the server finds for `filtro`, in place of all others.
+  void LoadSociosCajaF(const char* filtro);
+
+  // The look-ups: the first row with exactly that key, blanks included, and a blank record when there is
+  // none. They never ask the server.
+  cCatalogo_Ctas Cuenta(const char* cuenta) const;
+  cEstados_Credito EstadoCredito(const char* clave) const;
+  /// Does the account take postings? One that is not in the chart, the empty text too, does: so a rule can
+  /// test an optional account without testing first that it is filled.
+  bool EsAfectable(const char* cuenta) const;
+
+  /// `cantidad` in words, as the server writes it; empty when it does not answer. The text stays until the
+  /// next call.
+  char* CantidadConLetra(double cantidad);
+  /// Does the server know this user with this password? Traces both. Throws the server's text.
+  bool Login(const char* usuario, const char* password);
 
   /// "yyyy-mm-dd hh:mm:ss" of `t`, seconds since 1970, in local time; the year is always one of this century.
   /// The text stays until the next call.
@@ -34,13 +84,31 @@ class Catalogo {
   /// Traces `texto` and its parts; always 1099594793.
   long StrToTimeStamp(const char* texto);
 
+  static std::map<int, cCatalogo_Ctas> Catalogo_Ctas;
   static std::map<int, cMonedas> Monedas;
+  static std::map<int, cTipo_Garantia> Tipo_Garantia;
+  static std::map<int, cEstados_Credito> Estados_Credito;
+  static std::map<int, cFinalidades> Finalidades;
+  static std::map<int, cTipoMoviBanco> TipoMoviBancos;
+  static std::map<int, cTipoUsuario> TiposUsuarios;
+  static std::map<int, cTipoSocio> TiposSocios;
+  static std::map<int, cModulo> Modulos;
   static std::map<int, cSocioCaja> SociosCaja;
+  static std::map<int, cAsesor> Asesores;
+  static std::map<int, cTipoAsentamiento> TipoAsentamientos;
+  static std::map<int, cConceptoScoring> ConceptosScoring;
 
   static bool bLoad;  // true once Load has run to its end
+
+  lista<cMotivoBaja> MotivosBaja;
+  lista<cClasificacionCredito> ClasificacionCreditos;
+  lista<cTipoAcreditadoR> TipoAcreditadosR;  // no form reads it
+  lista<cGrupo> Grupos;
+  lista<cOcupacion> Ocupaciones;
 
  private:
   long tsCuentas = 0;    // newest change of the chart of accounts, seconds since 1970
   long tsReservado = 0;  // not used
   long tsSocios = 0;     // newest member, seconds since 1970
+  char sLetra[256] = "";
 };

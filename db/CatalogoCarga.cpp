@@ -7,8 +7,19 @@
 #include "db/Catalogo.h"
 #include "framework/Sentencia.h"
 
+std::map<int, cCatalogo_Ctas> Catalogo::Catalogo_Ctas;
 std::map<int, cMonedas> Catalogo::Monedas;
+std::map<int, cTipo_Garantia> Catalogo::Tipo_Garantia;
+std::map<int, cEstados_Credito> Catalogo::Estados_Credito;
+std::map<int, cFinalidades> Catalogo::Finalidades;
+std::map<int, cTipoMoviBanco> Catalogo::TipoMoviBancos;
+std::map<int, cTipoUsuario> Catalogo::TiposUsuarios;
+std::map<int, cTipoSocio> Catalogo::TiposSocios;
+std::map<int, cModulo> Catalogo::Modulos;
 std::map<int, cSocioCaja> Catalogo::SociosCaja;
+std::map<int, cAsesor> Catalogo::Asesores;
+std::map<int, cTipoAsentamiento> Catalogo::TipoAsentamientos;
+std::map<int, cConceptoScoring> Catalogo::ConceptosScoring;
 bool Catalogo::bLoad = false;
 
 namespace {
@@ -20,41 +31,41 @@ struct Paso {
 };
 
 const Paso pasos[] = {
-    {"0\n", nullptr},
+    {"0\n", &Catalogo::LoadCuentas},
     {"1      \n", &Catalogo::LoadMonedas},
     {"2      \n", nullptr},
     {"3      \n", nullptr},
     {"4      \n", nullptr},
     {"5      \n", nullptr},
     {"6      \n", nullptr},
-    {"7      \n", nullptr},
-    {"8      \n", nullptr},
-    {"9      \n", nullptr},
-    {"10     \n", nullptr},
+    {"7      \n", &Catalogo::LoadTipoGarantia},
+    {"8      \n", &Catalogo::LoadEstadosCredito},
+    {"9      \n", &Catalogo::LoadFinalidades},
+    {"10     \n", &Catalogo::LoadTipoMoviBancos},
     {"11     \n", nullptr},
     {"12     \n", nullptr},
     {"13     \n", nullptr},
     {"Leyendo ciudades\n", nullptr},
-    {"14     \n", nullptr},
-    {"15     \n", nullptr},
-    {"16     \n", nullptr},
+    {"14     \n", &Catalogo::LoadTiposUsuarios},
+    {"15     \n", &Catalogo::LoadTiposSocios},
+    {"16     \n", &Catalogo::LoadModulos},
     {"17     \n", nullptr},
     {"18     \n", nullptr},
     {"19     \n", nullptr},
-    {"21     ", nullptr},
+    {"21     ", &Catalogo::LoadAsesor},
     {"22     ", nullptr},
     {"23     ", nullptr},
-    {"24     ", nullptr},
-    {"25     ", nullptr},
+    {"24     ", &Catalogo::LoadMotivosBaja},
+    {"25     ", &Catalogo::LoadClasificacionCreditos},
     {"26     ", nullptr},
     {"27     ", nullptr},
     {"28     ", nullptr},
-    {"29     ", nullptr},
-    {"30     ", nullptr},
+    {"29     ", &Catalogo::LoadTipoAcreditadosR},
+    {"30     ", &Catalogo::LoadTipoAsentamientos},
     {"31     ", nullptr},
-    {"32     ", nullptr},
-    {"33     ", nullptr},
-    {"34     ", nullptr},
+    {"32     ", &Catalogo::LoadGrupos},
+    {"33     ", &Catalogo::LoadOcupaciones},
+    {"34     ", &Catalogo::LoadConceptosScoring},
     {"36     ", nullptr},
     {"37     ", nullptr},
     {"38      ", nullptr},
@@ -71,10 +82,77 @@ void Catalogo::Load() {
   bLoad = true;
 }
 
-void Catalogo::LoadMonedas() {
-  CargaEnTransaccion(Monedas, Sentencia("SELECT * FROM spsmoneda('%s');", "  "),
-                     "Error al cargar catalogo de monedas.");
+void Catalogo::LoadCuentas() {
+  Ejecuta("select trunc(extract(epoch from max(fecha_estado))) from catalogo_ctas;");
+  tsCuentas = atol(Celda(0, 0));
+  LiberaResultado();
+  CargaEnTransaccion(Catalogo_Ctas, "SELECT * FROM spscatalogo_ctas('  ');",
+                     "Error al cargar catalogo de cuentas.");
 }
+
+void Catalogo::LoadMonedas() {
+  CargaEnTransaccion(Monedas, "SELECT * FROM spsmoneda('  ');", "Error al cargar catalogo de monedas.");
+}
+
+void Catalogo::LoadTipoGarantia() {
+  CargaEnTransaccion(Tipo_Garantia, "SELECT * FROM spstipo_garantia('  ');",
+                     "Error al cargar catalogo de tipos de garantias.");
+}
+
+void Catalogo::LoadEstadosCredito() {
+  CargaEnTransaccion(Estados_Credito, "SELECT * FROM spsestados_credito('  ');",
+                     "Error al cargar catalogo de estados de crédito.");
+}
+
+void Catalogo::LoadFinalidades() {
+  CargaEnTransaccion(Finalidades, "SELECT * FROM spsfinalidades('  ');",
+                     "Error al cargar catalogo de finalidades.");
+}
+
+void Catalogo::LoadTipoMoviBancos() {
+  CargaEnTransaccion(TipoMoviBancos, "SELECT * FROM spstipomovibanco('  ');",
+                     "Error al cargar catalogo de tipo de movimientos bancarios.");
+}
+
+void Catalogo::LoadTiposUsuarios() {
+  CargaEnTransaccion(TiposUsuarios, "SELECT * FROM spstipousuario('  ');",
+                     "Error al cargar catalogo de tipos de usuario.");
+}
+
+void Catalogo::LoadTiposSocios() {
+  CargaEnTransaccion(TiposSocios, "SELECT * FROM spstiposocio('  ');",
+                     "Error al cargar catalogo de tipos de socios.");
+}
+
+void Catalogo::LoadModulos() {
+  CargaEnTransaccion(Modulos, "SELECT * FROM spsmodulo('  ');", "Error al cargar catalogo de modulos.");
+}
+
+void Catalogo::LoadAsesor() {
+  CargaEnTransaccion(Asesores, "SELECT * FROM spsasesor(0);", "Error al cargar catalogo de asesor.");
+}
+
+void Catalogo::LoadMotivosBaja() { Carga(MotivosBaja, Trazada("SELECT * FROM spsmotivobaja(0);")); }
+
+void Catalogo::LoadClasificacionCreditos() {
+  Carga(ClasificacionCreditos, Trazada("SELECT * FROM spsclasificacioncredito(0);"));
+}
+
+void Catalogo::LoadTipoAcreditadosR() {
+  Carga(TipoAcreditadosR, Trazada("SELECT * FROM spstipoacreditador(0);"));
+  for (int fila = 0; fila < TipoAcreditadosR.NumElementos(); ++fila) std::cout << "Inserto Tipo Acreditado R";
+  std::cout << std::flush;
+}
+
+void Catalogo::LoadTipoAsentamientos() {
+  Carga(TipoAsentamientos, Trazada("SELECT * FROM spstipoasentamiento(0);"));
+}
+
+void Catalogo::LoadGrupos() { Carga(Grupos, Trazada("SELECT * FROM spsgrupo(0);")); }
+
+void Catalogo::LoadOcupaciones() { Carga(Ocupaciones, Trazada("SELECT * FROM spsocupacion(0);")); }
+
+void Catalogo::LoadConceptosScoring() { Carga(ConceptosScoring, "SELECT * FROM spsconceptoscoring(0);"); }
 
 void Catalogo::LoadSociosCaja() {
   Ejecuta("select trunc(extract(epoch from max(fechaalta))) from socio;");
@@ -85,6 +163,11 @@ void Catalogo::LoadSociosCaja() {
     CargaEnTransaccion(SociosCaja, "SELECT * FROM spssociocaja();", "Error al cargar socios de la caja.");
   }
   LiberaResultado();
+}
+
+void Catalogo::LoadSociosCajaF(const char* filtro) {
+  CargaEnTransaccion(SociosCaja, Trazada(Sentencia("SELECT * FROM spssociocajaf('%s');", filtro)),
+                     "Error al cargar socios de la caja.");
 }
 
 char* Catalogo::TimeStampToStr(long t) {

@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <climits>
 #include <cstdlib>
 #include <ctime>
+#include <functional>
 
 #include "app/sesion.h"
 #include "db/Apertura.h"
@@ -18,6 +20,77 @@ namespace {
 
 constexpr const char* SelectDeMonedas = "SELECT * FROM spsmoneda('  ');";
 const Textos CargaDeMonedas = {"BEGIN;", SelectDeMonedas, "COMMIT;"};
+
+/// A load of the cache: its select, what it throws when "BEGIN;" fails (null for a load without transaction),
+/// whether it traces the select, and how many rows its container holds.
+struct CargaDelCache {
+  const char* nombre;
+  void (Catalogo::*carga)();
+  std::string sql;
+  const char* mensaje;
+  bool traza;
+  std::function<size_t(const Catalogo&)> filas;
+  const char* tabla;
+
+  Textos Sentencias() const { return mensaje != nullptr ? Textos{"BEGIN;", sql, "COMMIT;"} : Textos{sql}; }
+};
+
+template <class Clave, class T>
+std::function<size_t(const Catalogo&)> Cuantas(const std::map<Clave, T>& mapa) {
+  return [&mapa](const Catalogo&) { return mapa.size(); };
+}
+template <class T>
+std::function<size_t(const Catalogo&)> Cuantas(lista<T> Catalogo::*filas) {
+  return [filas](const Catalogo& c) { return static_cast<size_t>((c.*filas).NumElementos()); };
+}
+
+/// Those that nothing but the table tells apart, in the order of their steps.
+const CargaDelCache cargas[] = {
+    {"Monedas", &Catalogo::LoadMonedas, SelectDeMonedas, "Error al cargar catalogo de monedas.", false,
+     Cuantas(Catalogo::Monedas), "moneda"},
+    {"TipoGarantia", &Catalogo::LoadTipoGarantia, "SELECT * FROM spstipo_garantia('  ');",
+     "Error al cargar catalogo de tipos de garantias.", false, Cuantas(Catalogo::Tipo_Garantia),
+     "tipo_garantia"},
+    {"EstadosCredito", &Catalogo::LoadEstadosCredito, "SELECT * FROM spsestados_credito('  ');",
+     "Error al cargar catalogo de estados de crédito.", false, Cuantas(Catalogo::Estados_Credito),
+     "estados_credito"},
+    {"Finalidades", &Catalogo::LoadFinalidades, "SELECT * FROM spsfinalidades('  ');",
+     "Error al cargar catalogo de finalidades.", false, Cuantas(Catalogo::Finalidades), "finalidades"},
+    {"TipoMoviBancos", &Catalogo::LoadTipoMoviBancos, "SELECT * FROM spstipomovibanco('  ');",
+     "Error al cargar catalogo de tipo de movimientos bancarios.", false, Cuantas(Catalogo::TipoMoviBancos),
+     "tipomovibanco"},
+    {"TiposUsuarios", &Catalogo::LoadTiposUsuarios, "SELECT * FROM spstipousuario('  ');",
+     "Error al cargar catalogo de tipos de usuario.", false, Cuantas(Catalogo::TiposUsuarios), "tipousuario"},
+    {"TiposSocios", &Catalogo::LoadTiposSocios, "SELECT * FROM spstiposocio('  ');",
+     "Error al cargar catalogo de tipos de socios.", false, Cuantas(Catalogo::TiposSocios), "tiposocio"},
+    {"Modulos", &Catalogo::LoadModulos, "SELECT * FROM spsmodulo('  ');",
+     "Error al cargar catalogo de modulos.", false, Cuantas(Catalogo::Modulos), "modulo"},
+    {"Asesor", &Catalogo::LoadAsesor, "SELECT * FROM spsasesor(0);", "Error al cargar catalogo de asesor.",
+     false, Cuantas(Catalogo::Asesores), "asesor"},
+    {"MotivosBaja", &Catalogo::LoadMotivosBaja, "SELECT * FROM spsmotivobaja(0);", nullptr, true,
+     Cuantas(&Catalogo::MotivosBaja), "motivobaja"},
+    {"ClasificacionCreditos", &Catalogo::LoadClasificacionCreditos,
+     "SELECT * FROM spsclasificacioncredito(0);", nullptr, true, Cuantas(&Catalogo::ClasificacionCreditos),
+     "clasificacioncredito"},
+    {"TipoAcreditadosR", &Catalogo::LoadTipoAcreditadosR, "SELECT * FROM spstipoacreditador(0);", nullptr,
+     true, Cuantas(&Catalogo::TipoAcreditadosR), "tipoacreditador"},
+    {"TipoAsentamientos", &Catalogo::LoadTipoAsentamientos, "SELECT * FROM spstipoasentamiento(0);", nullptr,
+     true, Cuantas(Catalogo::TipoAsentamientos), "tipoasentamiento"},
+    {"Grupos", &Catalogo::LoadGrupos, "SELECT * FROM spsgrupo(0);", nullptr, true, Cuantas(&Catalogo::Grupos),
+     "grupo"},
+    {"Ocupaciones", &Catalogo::LoadOcupaciones, "SELECT * FROM spsocupacion(0);", nullptr, true,
+     Cuantas(&Catalogo::Ocupaciones), "ocupacion"},
+    {"ConceptosScoring", &Catalogo::LoadConceptosScoring, "SELECT * FROM spsconceptoscoring(0);", nullptr,
+     false, Cuantas(Catalogo::ConceptosScoring), "conceptoscoring"},
+};
+
+/// What a load traces: its select and, for the kinds of borrowers, a mark for each row.
+std::string TrazaDe(const CargaDelCache& carga, size_t filas) {
+  std::string traza = carga.traza ? carga.sql + "\n" : "";
+  if (carga.carga != &Catalogo::LoadTipoAcreditadosR) return traza;
+  for (size_t i = 0; i < filas; ++i) traza += "Inserto Tipo Acreditado R";
+  return traza;
+}
 
 class CatalogoTest : public ConSucursal {
  protected:
@@ -186,63 +259,178 @@ TEST_F(CatalogoTest, LaDesconexionConservaLoCargado) {
   EXPECT_EQ(Lanzado([] { catalogo.LoadMonedas(); }), "Error al cargar catalogo de monedas.");
 }
 
+// Every load.
+
+TEST_F(CatalogoTest, CadaCargaMandaYTrazaLoSuyoYTomaTodasLasFilas) {
+  for (const auto& carga : cargas) {
+    SCOPED_TRACE(carga.nombre);
+    const size_t filas = std::stoul(base_.Valor(std::string("select count(*) from norte.") + carga.tabla));
+    ASSERT_GT(filas, 0u);
+    Espia espia;
+    Salida salida;
+    EXPECT_EQ(Lanzado([&] { (catalogo.*carga.carga)(); }), std::nullopt);
+    EXPECT_EQ(espia.Sentencias(), carga.Sentencias());
+    EXPECT_EQ(salida.Texto(), TrazaDe(carga, filas));
+    EXPECT_EQ(carga.filas(catalogo), filas);
+    EXPECT_EQ(res, nullptr);
+    EXPECT_EQ(PQtransactionStatus(conn), PQTRANS_IDLE);
+    (catalogo.*carga.carga)();
+    EXPECT_EQ(carga.filas(catalogo), filas) << "una carga sustituye a la anterior";
+  }
+}
+
+TEST_F(CatalogoTest, CadaCargaQuedaVaciaSinMensajeSiSuSelectFallaONoTraeNada) {
+  for (const auto& carga : cargas) {
+    SCOPED_TRACE(carga.nombre);
+    for (const Falla& falla : {falla::SinFilas(), falla::Error("No"), falla::Nula()}) {
+      Salida salida;
+      (catalogo.*carga.carga)();
+      EXPECT_GT(carga.filas(catalogo), 0u);
+      Espia espia;
+      espia.Cuando(carga.sql, falla);
+      EXPECT_EQ(Lanzado([&] { (catalogo.*carga.carga)(); }), std::nullopt);
+      EXPECT_EQ(carga.filas(catalogo), 0u);
+      EXPECT_EQ(espia.Sentencias(), carga.Sentencias());
+    }
+  }
+}
+
+TEST_F(CatalogoTest, CadaCargaConTransaccionLanzaSuMensajeYaVacia) {
+  for (const auto& carga : cargas) {
+    SCOPED_TRACE(carga.nombre);
+    Salida salida;
+    (catalogo.*carga.carga)();
+    Espia espia;
+    espia.Cuando("BEGIN;", falla::Error("No"));
+    const auto texto = Lanzado([&] { (catalogo.*carga.carga)(); });
+    EXPECT_EQ(texto.has_value(), carga.mensaje != nullptr);
+    EXPECT_EQ(texto.value_or(""), carga.mensaje != nullptr ? carga.mensaje : "");
+    EXPECT_EQ(carga.filas(catalogo) == 0, carga.mensaje != nullptr);
+  }
+}
+
+// The chart of accounts.
+
+const Textos CargaDeCuentas = {"select trunc(extract(epoch from max(fecha_estado))) from catalogo_ctas;",
+                               "BEGIN;", "SELECT * FROM spscatalogo_ctas('  ');", "COMMIT;"};
+
+TEST_F(CatalogoTest, LasCuentasSeCarganSiempreTrasLeerSuSello) {
+  const Tabla filas = base_.Filas("select cuentaid, tipo_cta from norte.catalogo_ctas order by cuentaid");
+  for (int vez = 0; vez < 2; ++vez) {
+    Espia espia;
+    Salida salida;
+    catalogo.LoadCuentas();
+    EXPECT_EQ(espia.Sentencias(), CargaDeCuentas);
+    EXPECT_EQ(salida.Texto(), "");
+    ASSERT_EQ(Catalogo::Catalogo_Ctas.size(), filas.size());
+  }
+  for (size_t i = 0; i < filas.size(); ++i) {
+    const cCatalogo_Ctas& cuenta = Catalogo::Catalogo_Ctas[static_cast<int>(i)];
+    EXPECT_EQ((Textos{cuenta.getCuentaID(), cuenta.getTipo_Cta()}), filas[i]);
+  }
+}
+
+TEST_F(CatalogoTest, UnaCuentaSinFechaTraeLaDeLaFilaAnterior) {
+  base_.Ejecuta(
+      "update norte.catalogo_ctas set fecha_estado = null;"
+      "update norte.catalogo_ctas set fecha_estado = '2006-03-15' where cuentaid ="
+      " (select cuentaid from norte.catalogo_ctas order by cuentaid offset 1 limit 1)");
+  catalogo.LoadCuentas();
+  EXPECT_STREQ(Catalogo::Catalogo_Ctas[0].getFecha_Estado().AsChar(), "0000-00-00");
+  EXPECT_STREQ(Catalogo::Catalogo_Ctas[1].getFecha_Estado().AsChar(), "2006-03-15");
+  EXPECT_STREQ(Catalogo::Catalogo_Ctas[2].getFecha_Estado().AsChar(), "2006-03-15");
+}
+
+TEST_F(CatalogoTest, SinCuentasOSinRespuestaElMapaQuedaVacio) {
+  for (const auto& [posicion, falla] : std::vector<std::pair<size_t, Falla>>{
+           {2, falla::SinFilas()}, {2, falla::Error("No")}, {2, falla::Nula()}}) {
+    catalogo.LoadCuentas();
+    Espia espia;
+    espia.En(posicion, falla);
+    EXPECT_EQ(Lanzado([] { catalogo.LoadCuentas(); }), std::nullopt);
+    EXPECT_TRUE(Catalogo::Catalogo_Ctas.empty());
+  }
+  Espia espia;
+  espia.En(0, falla::Nula());
+  catalogo.LoadCuentas();  // nobody looks at the stamp
+  EXPECT_FALSE(Catalogo::Catalogo_Ctas.empty());
+  espia.Vacia();
+  espia.En(1, falla::Error("No"));
+  EXPECT_EQ(Lanzado([] { catalogo.LoadCuentas(); }), "Error al cargar catalogo de cuentas.");
+  EXPECT_TRUE(Catalogo::Catalogo_Ctas.empty());
+}
+
 // Loading everything.
 
+/// A step of Load: its trace, and the load behind it; null where there is none yet.
 const struct {
   const char* traza;
-  Textos sentencias;
-  const char* sentenciaTrazada;
+  const char* carga;
 } pasos[] = {
-    {"0\n", {}, ""},
-    {"1      \n", CargaDeMonedas, ""},
-    {"2      \n", {}, ""},
-    {"3      \n", {}, ""},
-    {"4      \n", {}, ""},
-    {"5      \n", {}, ""},
-    {"6      \n", {}, ""},
-    {"7      \n", {}, ""},
-    {"8      \n", {}, ""},
-    {"9      \n", {}, ""},
-    {"10     \n", {}, ""},
-    {"11     \n", {}, ""},
-    {"12     \n", {}, ""},
-    {"13     \n", {}, ""},
-    {"Leyendo ciudades\n", {}, ""},
-    {"14     \n", {}, ""},
-    {"15     \n", {}, ""},
-    {"16     \n", {}, ""},
-    {"17     \n", {}, ""},
-    {"18     \n", {}, ""},
-    {"19     \n", {}, ""},
-    {"21     ", {}, ""},
-    {"22     ", {}, ""},
-    {"23     ", {}, ""},
-    {"24     ", {}, ""},
-    {"25     ", {}, ""},
-    {"26     ", {}, ""},
-    {"27     ", {}, ""},
-    {"28     ", {}, ""},
-    {"29     ", {}, ""},
-    {"30     ", {}, ""},
-    {"31     ", {}, ""},
-    {"32     ", {}, ""},
-    {"33     ", {}, ""},
-    {"34     ", {}, ""},
-    {"36     ", {}, ""},
-    {"37     ", {}, ""},
-    {"38      ", {}, ""},
+    {"0\n", "Cuentas"},
+    {"1      \n", "Monedas"},
+    {"2      \n", nullptr},
+    {"3      \n", nullptr},
+    {"4      \n", nullptr},
+    {"5      \n", nullptr},
+    {"6      \n", nullptr},
+    {"7      \n", "TipoGarantia"},
+    {"8      \n", "EstadosCredito"},
+    {"9      \n", "Finalidades"},
+    {"10     \n", "TipoMoviBancos"},
+    {"11     \n", nullptr},
+    {"12     \n", nullptr},
+    {"13     \n", nullptr},
+    {"Leyendo ciudades\n", nullptr},
+    {"14     \n", "TiposUsuarios"},
+    {"15     \n", "TiposSocios"},
+    {"16     \n", "Modulos"},
+    {"17     \n", nullptr},
+    {"18     \n", nullptr},
+    {"19     \n", nullptr},
+    {"21     ", "Asesor"},
+    {"22     ", nullptr},
+    {"23     ", nullptr},
+    {"24     ", "MotivosBaja"},
+    {"25     ", "ClasificacionCreditos"},
+    {"26     ", nullptr},
+    {"27     ", nullptr},
+    {"28     ", nullptr},
+    {"29     ", "TipoAcreditadosR"},
+    {"30     ", "TipoAsentamientos"},
+    {"31     ", nullptr},
+    {"32     ", "Grupos"},
+    {"33     ", "Ocupaciones"},
+    {"34     ", "ConceptosScoring"},
+    {"36     ", nullptr},
+    {"37     ", nullptr},
+    {"38      ", nullptr},
 };
 
+const CargaDelCache& Llamada(const std::string& nombre) {
+  return *std::find_if(std::begin(cargas), std::end(cargas),
+                       [&](const auto& c) { return c.nombre == nombre; });
+}
+
+/// As the containers are filled now.
 std::string TrazasDeTodosLosPasos() {
   std::string trazas;
-  for (const auto& paso : pasos) trazas += std::string(paso.traza) + paso.sentenciaTrazada;
+  for (const auto& [traza, nombre] : pasos) {
+    trazas += traza;
+    if (nombre == nullptr || nombre == std::string("Cuentas")) continue;
+    const CargaDelCache& carga = Llamada(nombre);
+    trazas += TrazaDe(carga, carga.filas(catalogo));
+  }
   return trazas;
 }
 
 Textos SentenciasDeTodosLosPasos() {
   Textos sentencias;
-  for (const auto& paso : pasos)
-    sentencias.insert(sentencias.end(), paso.sentencias.begin(), paso.sentencias.end());
+  for (const auto& [traza, nombre] : pasos) {
+    if (nombre == nullptr) continue;
+    const Textos suyas = nombre == std::string("Cuentas") ? CargaDeCuentas : Llamada(nombre).Sentencias();
+    sentencias.insert(sentencias.end(), suyas.begin(), suyas.end());
+  }
   return sentencias;
 }
 
@@ -283,11 +471,12 @@ TEST_F(CatalogoTest, QuitarLaGuardaVuelveACargar) {
 
 TEST_F(CatalogoTest, UnLoadInterrumpidoDejaLaGuardaQuitada) {
   Espia espia;
-  espia.En(0, falla::Error("No"));
+  espia.En(CargaDeCuentas.size(), falla::Error("No"));
   Salida salida;
   EXPECT_EQ(Lanzado([] { catalogo.Load(); }), "Error al cargar catalogo de monedas.");
   EXPECT_FALSE(Catalogo::bLoad);
   EXPECT_EQ(salida.Texto(), "0\n1      \n");
+  EXPECT_FALSE(Catalogo::Catalogo_Ctas.empty());
   catalogo.Load();
   EXPECT_TRUE(Catalogo::bLoad);
 }

@@ -741,12 +741,12 @@ TEST_F(LoginFallaTest, UnaRespuestaMalaEnCualquierSentencia) {
     Falla falla;
     const char* efectos;  // from the "BEGIN;" to the load of the currencies
   } casos[] = {
-      {"nula", falla::Nula(), "xx.x.xxx.x.."},
-      {"error", falla::Error("se acabó %s %n %%"), "xxxx.xxx.x.."},
-      {"sin filas", falla::SinFilas(), "...x.f......"},
-      {"una columna", falla::Recortada(1), "...s........"},
-      {"nulos", falla::ConNulos(), "...s.f......"},
-      {"textos largos", falla::ConTextos(), "...s.f......"},
+      {"nula", falla::Nula(), "xx.x.xxx..x..x.."},
+      {"error", falla::Error("se acabó %s %n %%"), "xxxx.xxx..x.xx.x"},
+      {"sin filas", falla::SinFilas(), "...x.f.........."},
+      {"una columna", falla::Recortada(1), "...s............"},
+      {"nulos", falla::ConNulos(), "...s.f.........."},
+      {"textos largos", falla::ConTextos(), "...s.f.........."},
   };
   for (const auto& [nombre, falla, efectos] : casos) {
     SCOPED_TRACE(nombre);
@@ -760,13 +760,13 @@ TEST_F(LoginFallaTest, UnaRespuestaMalaEnCualquierSentencia) {
 TEST_F(LoginFallaTest, ElCacheQueNoSePuedeLeerSeDice) {
   Espia espia;
   Guion guion;
-  espia.En(Cache, falla::Error("no"));
+  espia.En(Cache + 1, falla::Error("no"));  // behind the stamp of the chart
   guion.Con(Entra());
   guion.Responde(Respuesta::Aceptar);
   guion.Responde(Respuesta::Aceptar);
   guion.Responde("&Cerrar");
   EXPECT_FALSE(Corre());
-  EXPECT_EQ(guion.Mensajes(), (Textos{Bienvenida(), "Error al cargar catalogo de monedas."}));
+  EXPECT_EQ(guion.Mensajes(), (Textos{Bienvenida(), "Error al cargar catalogo de cuentas."}));
   EXPECT_FALSE(Catalogo::bLoad);
   EXPECT_FALSE(IsConectado);
 }
