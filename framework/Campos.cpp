@@ -10,10 +10,11 @@ void Etiqueta(FXMatrix* matriz, const char* texto) {
   new FXLabel(matriz, texto, nullptr, LABEL_NORMAL | JUSTIFY_LEFT | LAYOUT_CENTER_Y);
 }
 
-void Campo(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato, FXuint opciones) {
+template <class T>
+void Campo(FXMatrix* matriz, const char* etiqueta, int columnas, Dato<T>& dato, FXuint opciones) {
   Etiqueta(matriz, etiqueta);
-  dato.campo = new FXTextField(matriz, columnas, &dato.destino, FXDataTarget::ID_VALUE,
-                               opcionesDeCampo | JUSTIFY_LEFT | opciones);
+  dato.campo =
+      new FXTextField(matriz, columnas, &dato.destino, FXDataTarget::ID_VALUE, opcionesDeCampo | opciones);
 }
 
 template <class Numero>
@@ -44,15 +45,32 @@ long CampoReal::onCmdSetRealValue(FXObject*, FXSelector, void* valor) {
 }
 
 void campoClave(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato) {
-  Campo(matriz, etiqueta, columnas, dato, TEXTFIELD_ENTER_ONLY);
+  Campo(matriz, etiqueta, columnas, dato, JUSTIFY_LEFT | TEXTFIELD_ENTER_ONLY);
+}
+
+void campoClave(FXMatrix* matriz, const char* etiqueta, int columnas, DatoEntero& dato, FXuint lado) {
+  Campo(matriz, etiqueta, columnas, dato, lado | TEXTFIELD_ENTER_ONLY | TEXTFIELD_INTEGER);
 }
 
 void campoTexto(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato) {
-  Campo(matriz, etiqueta, columnas, dato, 0);
+  Campo(matriz, etiqueta, columnas, dato, JUSTIFY_LEFT);
 }
 
 void campoReal(FXMatrix* matriz, const char* etiqueta, int columnas, DatoReal& dato) {
   Etiqueta(matriz, etiqueta);
   dato.campo = new CampoReal(matriz, columnas, &dato.destino, FXDataTarget::ID_VALUE,
                              opcionesDeCampo | JUSTIFY_RIGHT | TEXTFIELD_REAL);
+}
+
+void campoParrafo(FXMatrix* matriz, const char* etiqueta, int filas, int columnas, DatoParrafo& dato) {
+  Etiqueta(matriz, etiqueta);
+  auto* marco = new FXHorizontalFrame(matriz, FRAME_SUNKEN | FRAME_THICK, 0, 0, 0, 0, 0, 0, 0, 0);
+  dato.campo = new FXText(marco, nullptr, 0, TEXT_WORDWRAP);
+  dato.campo->setVisibleRows(filas);
+  dato.campo->setVisibleColumns(columnas);
+}
+
+FXCheckButton* campoCasilla(FXMatrix* matriz, const char* etiqueta, FXObject* destino, FXSelector mensaje) {
+  Etiqueta(matriz, etiqueta);
+  return new FXCheckButton(matriz, "", destino, mensaje, CHECKBUTTON_NORMAL | LAYOUT_CENTER_Y);
 }

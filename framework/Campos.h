@@ -19,10 +19,25 @@ struct Dato {
     valor = nuevo;
     if (campo != nullptr) destino.handle(campo, FXSEL(SEL_UPDATE, FXDataTarget::ID_VALUE), nullptr);
   }
+  /// What the field holds.
+  const T& Valor() const { return valor; }
 };
 
 using DatoTexto = Dato<FXString>;
+using DatoEntero = Dato<FXint>;
 using DatoReal = Dato<FXdouble>;
+
+/// The same for a text of several lines, whose widget nothing binds: Pon and Valor carry the text across.
+struct DatoParrafo {
+  FXString valor;
+  FXText* campo = nullptr;
+
+  void Pon(const FXString& nuevo) {
+    valor = nuevo;
+    campo->setText(valor);
+  }
+  const FXString& Valor() { return valor = campo->getText(); }
+};
 
 /// A field for real numbers. Shows as many digits as the number needs to be told from its neighbours, without
 /// an exponent; a number that came out of a single-precision column is shown as that column holds it.
@@ -36,8 +51,15 @@ class CampoReal : public FXTextField {
   CampoReal() {}
 };
 
-/// The key: acts on Enter only.
+/// The key: acts on Enter only. `lado` is JUSTIFY_LEFT or JUSTIFY_RIGHT; one that is a number takes nothing
+/// else.
 void campoClave(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato);
+void campoClave(FXMatrix* matriz, const char* etiqueta, int columnas, DatoEntero& dato,
+                FXuint lado = JUSTIFY_LEFT);
 void campoTexto(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato);
 /// Takes real numbers only, right-justified.
 void campoReal(FXMatrix* matriz, const char* etiqueta, int columnas, DatoReal& dato);
+/// Shows that many rows and columns, and takes a text of any length; lines are wrapped between words.
+void campoParrafo(FXMatrix* matriz, const char* etiqueta, int filas, int columnas, DatoParrafo& dato);
+/// A box to check, which sends `mensaje` to `destino`.
+FXCheckButton* campoCasilla(FXMatrix* matriz, const char* etiqueta, FXObject* destino, FXSelector mensaje);

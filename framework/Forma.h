@@ -1,31 +1,34 @@
 // What every form shares: the list of rows, the column of buttons and the five commands, written once.
 //
 // A form `class X_Window : public Forma<X_Window, Base>`, Base being FXMDIChild or FXDialogBox, states its
-// title and size, its rows of fields, its message map, and (open to `friend Forma`):
+// title and size, its rows of fields, its message map (MAPA_FORMA), and (open to `friend Forma`):
 //
-//   auto& Actual()                      the global record on which the form works
-//   auto& Filas()                       the cached map that the list shows, keyed by row
-//   void Relee()                        the load of that catalogue
-//   const char* Renglon(const Fila&)    the text of a row in the list
-//   template <class V> void Clave(V v)  v(member, getter, setter) of the key
-//   template <class V> void Datos(V v)  the same for every field, key included, in the order of the screen
+//   auto& Actual()          the global record on which the form works
+//   auto& Filas()           the cached container that the list shows: a map keyed by row, or a `lista`
+//   void Relee()            the load of that catalogue
+//   auto Datos()            std::tuple of Liga(member, getter, setter) for every field in the order of the
+//                           screen, the key first
 //
-// A form that differs in a step defines that step itself under the same name: calls go down to the form. Its
-// constructor builds in this order: ArmaLista, ArmaGrupo with its rows (as often as there are groups),
-// ArmaBotones, and Abre (a child form) or Comienza (a dialog). catalogs/simple/Monedas_Window.cpp is the
-// model.
+// A form without &Buscar names SinBuscar as the third argument. A form that differs in a step defines that
+// step itself under the same name: calls go down to the form. Its constructor builds in this order:
+// ArmaLista, ArmaGrupo with its rows (as often as there are groups), ArmaBotones, and Abre (a child form) or
+// Comienza (a dialog). catalogs/simple/Monedas_Window.cpp is the model of a child form,
+// Tipo_Garantia_Window.cpp of a dialog.
 #pragma once
 
 #include <fx.h>
 
 #include <cstring>
 #include <iostream>
+#include <tuple>
 #include <type_traits>
 
 #include "app/sesion.h"
 #include "framework/Campos.h"
+#include "framework/Filas.h"
 #include "framework/Iconos.h"
 #include "icons/iconos.h"
+#include "widgets/TextoAcotado.h"
 #include "widgets/cajas.h"
 
 /// Do two keys, as their getters give them, name the same row?
@@ -42,13 +45,31 @@ void Pasa(Registro& registro, void (Clase::*set)(Argumento), const Valor& valor)
   }
 }
 
-template <class Ventana, class Base>
+/// A field of a form with the getter and the setter of its column.
+template <class Dato, class Get, class Set>
+struct Ligado {
+  Dato& dato;
+  Get get;
+  Set set;
+};
+template <class Dato, class Get, class Set>
+Ligado<Dato, Get, Set> Liga(Dato& dato, Get get, Set set) {
+  return {dato, get, set};
+}
+
+enum Busqueda { ConBuscar, SinBuscar };
+
+template <class Ventana, class Base, Busqueda busqueda = ConBuscar>
 class Forma : public Base {
  public:
+  using Marco = Base;
+
+  /// One after the other in the order of the message map; a form without &Buscar has no ID_FIND. A form with
+  /// messages of its own numbers them from ID_LISTA + 1, with an ID_SALIR of its own behind them.
   enum {
     ID_AGREGAR = Base::ID_LAST,
     ID_FIND,
-    ID_CLEAR,
+    ID_CLEAR = busqueda == ConBuscar ? ID_FIND + 1 : ID_FIND,
     ID_BORRAR,
     ID_LISTA,
     ID_SALIR,
@@ -80,13 +101,17 @@ class Forma : public Base {
 
  protected:
   Forma() {}
-  template <class... Argumentos>
-  explicit Forma(Argumentos&&... argumentos) : Base(std::forward<Argumentos>(argumentos)...) {}
+  /// A child of the main window's area.
+  Forma(FXMDIClient* area, FXMDIMenu* menu, const char* titulo, const FXRectangle& lugar)
+      : Base(area, titulo, nullptr, menu, 0, lugar.x, lugar.y, lugar.w, lugar.h) {}
+  /// A dialog.
+  Forma(FXWindow* duenio, const char* titulo)
+      : Base(duenio, titulo, DECOR_TITLE | DECOR_BORDER | DECOR_RESIZE) {}
   ~Forma();
 
   /// The frame of the form with the list of rows on its left.
   void ArmaLista(const char* titulo);
-  /// A titled box in the middle; the rows of fields go into the matrix that it gives.
+  /// A box in the middle; the rows of fields go into the matrix that it gives.
   FXMatrix* ArmaGrupo(const char* titulo);
   /// The column of buttons on the right.
   void ArmaBotones();
@@ -97,6 +122,18 @@ class Forma : public Base {
   /// form frees when it closes.
   void Abre(const char* traza, int ranura);
 
+  /// The text of a row in the list: its description, which is the field behind the key.
+  template <class Fila>
+  const char* Renglon(const Fila& fila) {
+    return (fila.*std::get<1>(Yo().Datos()).get)();
+  }
+  /// The same by way of a form's scratch buffer, to whose width it is cut.
+  template <size_t N>
+  static const char* EnBorrador(char (&borrador)[N], const char* texto) {
+    CopiaTexto(borrador, texto);
+    return borrador;
+  }
+
   /// Does a failed &Aceptar write "entrando a error"? A form that does hides this with true.
   static constexpr bool trazaErrores = false;
 
@@ -104,6 +141,11 @@ class Forma : public Base {
 
  private:
   Ventana& Yo() { return static_cast<Ventana&>(*this); }
+  auto Clave() { return std::get<0>(Yo().Datos()); }
+  template <class Accion>
+  void CadaDato(Accion accion) {
+    std::apply([&](const auto&... ligado) { (accion(ligado), ...); }, Yo().Datos());
+  }
   FXButton* Boton(FXComposite* padre, const char* texto, const unsigned char* dibujo, FXSelector mensaje,
                   FXuint opciones);
   void TomaClave();
@@ -116,13 +158,13 @@ class Forma : public Base {
   int ranura = -1;
 };
 
-template <class Ventana, class Base>
-Forma<Ventana, Base>::~Forma() {
+template <class Ventana, class Base, Busqueda busqueda>
+Forma<Ventana, Base, busqueda>::~Forma() {
   if (ranura >= 0) mdiArray[ranura] = false;
 }
 
-template <class Ventana, class Base>
-void Forma<Ventana, Base>::ArmaLista(const char* titulo) {
+template <class Ventana, class Base, Busqueda busqueda>
+void Forma<Ventana, Base, busqueda>::ArmaLista(const char* titulo) {
   // A child form keeps the keys of its buttons to itself: in the main window's table they would take those of
   // the menu away when the form closes.
   if constexpr (std::is_base_of_v<FXMDIChild, Base>) this->setAccelTable(new FXAccelTable);
@@ -135,17 +177,17 @@ void Forma<Ventana, Base>::ArmaLista(const char* titulo) {
   grupos = new FXVerticalFrame(cuerpo, LAYOUT_FILL_X | LAYOUT_FILL_Y);
 }
 
-template <class Ventana, class Base>
-FXMatrix* Forma<Ventana, Base>::ArmaGrupo(const char* titulo) {
+template <class Ventana, class Base, Busqueda busqueda>
+FXMatrix* Forma<Ventana, Base, busqueda>::ArmaGrupo(const char* titulo) {
   auto* grupo = new FXGroupBox(grupos, titulo, FRAME_GROOVE | LAYOUT_FILL_X | LAYOUT_FILL_Y);
   return new FXMatrix(grupo, 2, MATRIX_BY_COLUMNS | LAYOUT_FILL_X | LAYOUT_FILL_Y);
 }
 
-template <class Ventana, class Base>
-void Forma<Ventana, Base>::ArmaBotones() {
+template <class Ventana, class Base, Busqueda busqueda>
+void Forma<Ventana, Base, busqueda>::ArmaBotones() {
   auto* columna = new FXGroupBox(cuerpo, "", LAYOUT_FILL_X | LAYOUT_FILL_Y);
   Boton(columna, "&Nuevo", iconos::nuevo_icon, ID_CLEAR, BUTTON_DEFAULT);
-  Boton(columna, "&Buscar", iconos::find_icon, ID_FIND, BUTTON_DEFAULT);
+  if constexpr (busqueda == ConBuscar) Boton(columna, "&Buscar", iconos::find_icon, ID_FIND, BUTTON_DEFAULT);
   Boton(columna, "&Borrar", iconos::borrar_icon, ID_BORRAR, BUTTON_DEFAULT);
   constexpr FXSelector cierre = std::is_base_of_v<FXMDIChild, Base> ? FXSelector(FXWindow::ID_MDI_CLOSE)
                                                                     : FXSelector(FXDialogBox::ID_CANCEL);
@@ -153,15 +195,16 @@ void Forma<Ventana, Base>::ArmaBotones() {
   Boton(columna, "&Aceptar", iconos::ok_icon, ID_AGREGAR, BUTTON_DEFAULT | LAYOUT_SIDE_BOTTOM);
 }
 
-template <class Ventana, class Base>
-FXButton* Forma<Ventana, Base>::Boton(FXComposite* padre, const char* texto, const unsigned char* dibujo,
-                                      FXSelector mensaje, FXuint opciones) {
+template <class Ventana, class Base, Busqueda busqueda>
+FXButton* Forma<Ventana, Base, busqueda>::Boton(FXComposite* padre, const char* texto,
+                                                const unsigned char* dibujo, FXSelector mensaje,
+                                                FXuint opciones) {
   return new FXButton(padre, texto, icono(this->getApp(), dibujo), this, mensaje,
                       FRAME_RAISED | FRAME_THICK | ICON_BEFORE_TEXT | LAYOUT_FILL_X | opciones);
 }
 
-template <class Ventana, class Base>
-void Forma<Ventana, Base>::Comienza() {
+template <class Ventana, class Base, Busqueda busqueda>
+void Forma<Ventana, Base, busqueda>::Comienza() {
   try {
     Yo().Load();
   } catch (char* texto) {
@@ -171,8 +214,8 @@ void Forma<Ventana, Base>::Comienza() {
   Yo().Actual().setIsNew(true);
 }
 
-template <class Ventana, class Base>
-void Forma<Ventana, Base>::Abre(const char* traza, int ranuraPropia) {
+template <class Ventana, class Base, Busqueda busqueda>
+void Forma<Ventana, Base, busqueda>::Abre(const char* traza, int ranuraPropia) {
   Comienza();
   std::cout << traza << std::endl;
   this->create();
@@ -181,38 +224,38 @@ void Forma<Ventana, Base>::Abre(const char* traza, int ranuraPropia) {
   mdiArray[ranura] = true;
 }
 
-template <class Ventana, class Base>
-long Forma<Ventana, Base>::Load() {
+template <class Ventana, class Base, Busqueda busqueda>
+long Forma<Ventana, Base, busqueda>::Load() {
   lstFilas->clearItems();
   Yo().Relee();
-  for (const auto& [fila, registro] : Yo().Filas()) lstFilas->appendItem(Yo().Renglon(registro));
+  CadaFila(Yo().Filas(), [this](int, const auto& fila) { lstFilas->appendItem(Yo().Renglon(fila)); });
   return 1;
 }
 
-template <class Ventana, class Base>
-void Forma<Ventana, Base>::Read() {
-  Yo().Datos([this](auto& dato, auto get, auto) { dato.Pon((Yo().Actual().*get)()); });
+template <class Ventana, class Base, Busqueda busqueda>
+void Forma<Ventana, Base, busqueda>::Read() {
+  CadaDato([this](const auto& campo) { campo.dato.Pon((Yo().Actual().*campo.get)()); });
 }
 
-template <class Ventana, class Base>
-void Forma<Ventana, Base>::Update() {
-  Yo().Datos([this](auto& dato, auto, auto set) { Pasa(Yo().Actual(), set, dato.valor); });
+template <class Ventana, class Base, Busqueda busqueda>
+void Forma<Ventana, Base, busqueda>::Update() {
+  CadaDato([this](const auto& campo) { Pasa(Yo().Actual(), campo.set, campo.dato.Valor()); });
 }
 
-template <class Ventana, class Base>
-void Forma<Ventana, Base>::Clear() {
-  Yo().Datos([](auto& dato, auto, auto) { dato.Pon({}); });
+template <class Ventana, class Base, Busqueda busqueda>
+void Forma<Ventana, Base, busqueda>::Clear() {
+  CadaDato([](const auto& campo) { campo.dato.Pon({}); });
 }
 
-template <class Ventana, class Base>
-long Forma<Ventana, Base>::onCmdClear(FXObject*, FXSelector, void*) {
+template <class Ventana, class Base, Busqueda busqueda>
+long Forma<Ventana, Base, busqueda>::onCmdClear(FXObject*, FXSelector, void*) {
   Yo().Clear();
   Yo().Actual().setIsNew(true);
   return 1;
 }
 
-template <class Ventana, class Base>
-long Forma<Ventana, Base>::onCmdFind(FXObject*, FXSelector, void*) {
+template <class Ventana, class Base, Busqueda busqueda>
+long Forma<Ventana, Base, busqueda>::onCmdFind(FXObject*, FXSelector, void*) {
   auto& registro = Yo().Actual();
   TomaClave();
   registro.Find();
@@ -226,18 +269,16 @@ long Forma<Ventana, Base>::onCmdFind(FXObject*, FXSelector, void*) {
   return 1;
 }
 
-template <class Ventana, class Base>
-long Forma<Ventana, Base>::onCmdLista(FXObject*, FXSelector, void*) {
-  const auto fila = Yo().Filas().find(lstFilas->getCurrentItem());
-  if (fila == Yo().Filas().end()) return 0;
-  Yo().Actual() = fila->second;
+template <class Ventana, class Base, Busqueda busqueda>
+long Forma<Ventana, Base, busqueda>::onCmdLista(FXObject*, FXSelector, void*) {
+  if (!CopiaFila(Yo().Filas(), lstFilas->getCurrentItem(), Yo().Actual())) return 0;
   Yo().Read();
   Yo().Actual().setDataChanged(false);
   return 0;
 }
 
-template <class Ventana, class Base>
-long Forma<Ventana, Base>::onCmdAgregar(FXObject*, FXSelector, void*) {
+template <class Ventana, class Base, Busqueda busqueda>
+long Forma<Ventana, Base, busqueda>::onCmdAgregar(FXObject*, FXSelector, void*) {
   auto& registro = Yo().Actual();
   try {
     Yo().Update();
@@ -262,8 +303,8 @@ long Forma<Ventana, Base>::onCmdAgregar(FXObject*, FXSelector, void*) {
   return 1;
 }
 
-template <class Ventana, class Base>
-long Forma<Ventana, Base>::onCmdBorrar(FXObject*, FXSelector, void*) {
+template <class Ventana, class Base, Busqueda busqueda>
+long Forma<Ventana, Base, busqueda>::onCmdBorrar(FXObject*, FXSelector, void*) {
   auto& registro = Yo().Actual();
   try {
     TomaClave();
@@ -284,33 +325,65 @@ long Forma<Ventana, Base>::onCmdBorrar(FXObject*, FXSelector, void*) {
 }
 
 /// The key's field to the record.
-template <class Ventana, class Base>
-void Forma<Ventana, Base>::TomaClave() {
-  Yo().Clave([this](auto& dato, auto, auto set) { Pasa(Yo().Actual(), set, dato.valor); });
+template <class Ventana, class Base, Busqueda busqueda>
+void Forma<Ventana, Base, busqueda>::TomaClave() {
+  const auto clave = Clave();
+  Pasa(Yo().Actual(), clave.set, clave.dato.Valor());
 }
 
 /// Makes the record's row the current one, if the list has it.
-template <class Ventana, class Base>
-void Forma<Ventana, Base>::MuestraFilaDelRegistro() {
-  Yo().Clave([this](auto&, auto get, auto) {
-    for (const auto& [fila, registro] : Yo().Filas()) {
-      if (MismaClave((registro.*get)(), (Yo().Actual().*get)())) return MuestraFila(fila);
-    }
+template <class Ventana, class Base, Busqueda busqueda>
+void Forma<Ventana, Base, busqueda>::MuestraFilaDelRegistro() {
+  int suya = -1;
+  CadaFila(Yo().Filas(), [&, get = Clave().get](int posicion, const auto& fila) {
+    if (suya < 0 && MismaClave((fila.*get)(), (Yo().Actual().*get)())) suya = posicion;
   });
+  MuestraFila(suya);
 }
 
-template <class Ventana, class Base>
-void Forma<Ventana, Base>::MuestraFila(int fila) {
+template <class Ventana, class Base, Busqueda busqueda>
+void Forma<Ventana, Base, busqueda>::MuestraFila(int fila) {
   if (fila < 0 || fila >= lstFilas->getNumItems()) return;
   lstFilas->setCurrentItem(fila);
   lstFilas->makeItemVisible(fila);
 }
 
 /// Rolls back and shows a text that was thrown.
-template <class Ventana, class Base>
-void Forma<Ventana, Base>::Falla(const char* texto) {
+template <class Ventana, class Base, Busqueda busqueda>
+void Forma<Ventana, Base, busqueda>::Falla(const char* texto) {
   Yo().Actual().RollBackTransaction();
   FXWindow* duenio =
       this->id() != 0 ? this : this->getOwner();  // a form under construction is not on screen yet
   cajaError(duenio, "Error en Validación", texto);
 }
+
+/// The message map of the form `Clase`, whose list runs `manejador`, and its class record. Entries of its own
+/// (MANDO, FXMAPFUNC) follow these two and stand behind the list's.
+// clang-format off
+#define MAPA_FORMA(Clase, manejador, ...)                                 \
+  FXDEFMAP(Clase) Clase##Map[] = {                                        \
+      MANDO(Clase, ID_AGREGAR, onCmdAgregar),                             \
+      MANDO(Clase, ID_FIND, onCmdFind),                                   \
+      MAPA_FORMA_RESTO(Clase, manejador, __VA_ARGS__)                     \
+  };                                                                      \
+  FXIMPLEMENT(Clase, Clase::Marco, Clase##Map, ARRAYNUMBER(Clase##Map))
+
+/// The same for a form without &Buscar.
+#define MAPA_FORMA_CORTA(Clase, manejador, ...)                           \
+  FXDEFMAP(Clase) Clase##Map[] = {                                        \
+      MANDO(Clase, ID_AGREGAR, onCmdAgregar),                             \
+      MAPA_FORMA_RESTO(Clase, manejador, __VA_ARGS__)                     \
+  };                                                                      \
+  FXIMPLEMENT(Clase, Clase::Marco, Clase##Map, ARRAYNUMBER(Clase##Map))
+
+/// An entry of a map: the command `mensaje` runs `manejador`.
+#define MANDO(Clase, mensaje, manejador) FXMAPFUNC(SEL_COMMAND, Clase::mensaje, Clase::manejador)
+
+#define MAPA_FORMA_RESTO(Clase, manejador, ...)                           \
+      MANDO(Clase, ID_CLEAR, onCmdClear),                                 \
+      MANDO(Clase, ID_BORRAR, onCmdBorrar),                               \
+      MANDO(Clase, ID_LISTA, manejador) __VA_OPT__(,)                     \
+      __VA_ARGS__,                                                        \
+      FXMAPFUNC(SEL_CLOSE, 0, Clase::onCmdQuit),                          \
+      FXMAPFUNC(SEL_SIGNAL, Clase::ID_SALIR, Clase::onCmdQuit)
+// clang-format on

@@ -11,7 +11,7 @@ extern char sMoneda[30];  // a row of the list
 class Monedas_Window : public cMonedas, public Forma<Monedas_Window, FXMDIChild> {
   FXDECLARE(Monedas_Window)
  public:
-  Monedas_Window(FXMDIClient* cliente, FXMDIMenu* menu);
+  Monedas_Window(FXMDIClient* area, FXMDIMenu* menu);
 
   using Forma::Clear;
   using Forma::Update;
@@ -25,19 +25,13 @@ class Monedas_Window : public cMonedas, public Forma<Monedas_Window, FXMDIChild>
   static constexpr bool trazaErrores = true;
 
   cMonedas& Actual() { return moneda; }
-  std::map<int, cMonedas>& Filas() { return Catalogo::Monedas; }
+  auto& Filas() { return Catalogo::Monedas; }
   void Relee() { catalogo.LoadMonedas(); }
-  const char* Renglon(const cMonedas& fila);
-
-  template <class V>
-  void Clave(V dato) {
-    dato(id, &cMonedas::getMonedaID, &cMonedas::setMonedaID);
-  }
-  template <class V>
-  void Datos(V dato) {
-    Clave(dato);
-    dato(descripcion, &cMonedas::getMonedaDescri, &cMonedas::setMonedaDescri);
-    dato(valor, &cMonedas::getMonedaValor, &cMonedas::setMonedaValor);
+  const char* Renglon(const cMonedas& fila) { return EnBorrador(sMoneda, fila.getMonedaDescri()); }
+  auto Datos() {
+    return std::tuple(Liga(id, &cMonedas::getMonedaID, &cMonedas::setMonedaID),
+                      Liga(descripcion, &cMonedas::getMonedaDescri, &cMonedas::setMonedaDescri),
+                      Liga(valor, &cMonedas::getMonedaValor, &cMonedas::setMonedaValor));
   }
 
   DatoTexto id;

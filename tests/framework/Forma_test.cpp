@@ -86,7 +86,7 @@ void cNota::Update() {
 class Nota_Window : public Forma<Nota_Window, FXDialogBox> {
   FXDECLARE(Nota_Window)
  public:
-  explicit Nota_Window(FXWindow* duenio) : Forma(duenio, "Notas", DECOR_TITLE | DECOR_BORDER | DECOR_RESIZE) {
+  explicit Nota_Window(FXWindow* duenio) : Forma(duenio, "Notas") {
     ArmaLista("Notas");
     FXMatrix* matriz = ArmaGrupo("Identificación");
     campoReal(matriz, "Número:", 10, id);
@@ -109,17 +109,9 @@ class Nota_Window : public Forma<Nota_Window, FXDialogBox> {
     Anota("Relee");
     cache = servidor;
   }
-  const char* Renglon(const cNota& fila) { return fila.getTexto(); }
-
-  template <class V>
-  void Clave(V dato) {
-    dato(id, &cNota::getID, &cNota::setID);
-  }
-  template <class V>
-  void Datos(V dato) {
-    Clave(dato);
-    dato(texto, &cNota::getTexto, &cNota::setTexto);
-    dato(peso, &cNota::getPeso, &cNota::setPeso);
+  auto Datos() {
+    return std::tuple(Liga(id, &cNota::getID, &cNota::setID), Liga(texto, &cNota::getTexto, &cNota::setTexto),
+                      Liga(peso, &cNota::getPeso, &cNota::setPeso));
   }
 
   DatoReal id;
@@ -127,17 +119,7 @@ class Nota_Window : public Forma<Nota_Window, FXDialogBox> {
   DatoReal peso;
 };
 
-FXDEFMAP(Nota_Window)
-Nota_WindowMap[] = {
-    FXMAPFUNC(SEL_COMMAND, Nota_Window::ID_AGREGAR, Nota_Window::onCmdAgregar),
-    FXMAPFUNC(SEL_COMMAND, Nota_Window::ID_FIND, Nota_Window::onCmdFind),
-    FXMAPFUNC(SEL_COMMAND, Nota_Window::ID_CLEAR, Nota_Window::onCmdClear),
-    FXMAPFUNC(SEL_COMMAND, Nota_Window::ID_BORRAR, Nota_Window::onCmdBorrar),
-    FXMAPFUNC(SEL_COMMAND, Nota_Window::ID_LISTA, Nota_Window::onCmdLista),
-    FXMAPFUNC(SEL_CLOSE, 0, Nota_Window::onCmdQuit),
-};
-
-FXIMPLEMENT(Nota_Window, FXDialogBox, Nota_WindowMap, ARRAYNUMBER(Nota_WindowMap))
+MAPA_FORMA(Nota_Window, onCmdLista)
 
 class FormaTest : public testing::Test {
  protected:
