@@ -6,13 +6,10 @@
 
 #include "app/Traductor.h"
 #include "app/sesion.h"
-#include "catalogs/people/cPermisosModulos.h"
-#include "catalogs/simple/Monedas_Window.h"
 #include "db/Apertura.h"
 #include "db/Login_Window.h"
 #include "framework/Iconos.h"
 #include "icons/iconos.h"
-#include "widgets/cajas.h"
 
 namespace {
 
@@ -28,6 +25,34 @@ CajaMap[] = {
     FXMAPFUNC(SEL_COMMAND, Caja::ID_DESCONECTAR, Caja::onCmdDesconectar),
     FXMAPFUNC(SEL_COMMAND, Caja::ID_PERMITIROP, Caja::onCmdPermitirop),
     FXMAPFUNC(SEL_COMMAND, Caja::ID_MONEDAS, Caja::onCmdMonedas),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_BANCOS, Caja::onCmdBancos),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_USUARIOS, Caja::onCmdUsuarios),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_TIPOMOVIMIENTO, Caja::onCmdTipoMovimiento),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_TIPOPRESTAMOS, Caja::onCmdTipoPrestamos),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_TIPOGARANTIA, Caja::onCmdTipoGarantia),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_ESTADOSCREDITO, Caja::onCmdEstadosCredito),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_FINALIDADES, Caja::onCmdFinalidades),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_TIPOMOVIBANCOS, Caja::onCmdTipoMoviBancos),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_TIPOINVERSION, Caja::onCmdTipoInversion),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_ESTADOSMEX, Caja::onCmdEstadosMex),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_CIUDADESMEX, Caja::onCmdCiudadesMex),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_MODULOS, Caja::onCmdModulos),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_TIPOSOCIOS, Caja::onCmdTipoSocios),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_CALCULOS, Caja::onCmdCalculos),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_TIPOUSUARIOS, Caja::onCmdTipoUsuarios),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_TIPOPROMOCION, Caja::onCmdTipoPromocion),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_TASA, Caja::onCmdTasa),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_INPC, Caja::onCmdInpc),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_UDIS, Caja::onCmdUdis),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_RECARGOS, Caja::onCmdRecargos),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_MOTIVOBAJA, Caja::onCmdMotivoBaja),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_SUJETO, Caja::onCmdSujeto),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_INABILES, Caja::onCmdInabiles),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_GRUPOS, Caja::onCmdGrupos),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_OCUPACIONES, Caja::onCmdOcupaciones),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_CONCEPTOSCORING, Caja::onCmdConceptoScoring),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_TASAINTERES, Caja::onCmdTasaInteres),
+    FXMAPFUNC(SEL_COMMAND, Caja::ID_TIPOTASAINTERES, Caja::onCmdTipoTasaInteres),
     FXMAPFUNC(SEL_TIMEOUT, Caja::ID_CLOCK, Caja::onClock),
 };
 
@@ -76,33 +101,6 @@ void Caja::ArmaEstado() {
   statusLabel = new FXLabel(statusBar, " ", nullptr, aLaDerecha, 0, 0, 0, 0, 2, 2, 1, 1);
 }
 
-void Caja::ArmaMenu() {
-  const bool permite = strcmp(getApp()->reg().readStringEntry(seccion, "permitirop", "S"), "S") == 0;
-
-  menuInicio = new FXMenuPane(this);
-  new FXMenuTitle(menuBar, "&Inicio", nullptr, menuInicio);
-  Entrada(menuInicio, "&Conectar\t\tConectarse al sistema", icono(getApp(), iconos::login_icon), ID_CONECTAR);
-  Entrada(menuInicio, "&Desconectar\t\tDesconectarse del sistema", nullptr, ID_DESCONECTAR);
-  Entrada(menuInicio, permite ? "&NO permitir opciones de conexion" : "&SI permitir opciones de conexion",
-          nullptr, ID_PERMITIROP);
-  new FXMenuSeparator(menuInicio);
-  new FXMenuCommand(menuInicio, "&Salir\tCtl-Q\tSalir del sistema", iconoGif(getApp(), iconos::quit_gif),
-                    getApp(), FXApp::ID_QUIT);
-
-  menuCatalogos = new FXMenuPane(this);
-  new FXMenuTitle(menuBar, "C&atalogos", nullptr, menuCatalogos);
-  Entrada(menuCatalogos, "&Monedas\t\tCatalogo de tipos de monedas", icono(getApp(), iconos::moneda_icon),
-          ID_MONEDAS);
-
-  menuAyuda = new FXMenuPane(this);
-  new FXMenuTitle(menuBar, "A&yuda", nullptr, menuAyuda, LAYOUT_RIGHT);
-  Entrada(menuAyuda, "&Acerca del Sistema ...", nullptr, ID_ABOUT);
-}
-
-void Caja::Entrada(FXMenuPane* menu, const char* etiqueta, FXIcon* icono, FXSelector mensaje) {
-  new FXMenuCommand(menu, etiqueta, icono, this, mensaje);
-}
-
 /// The window buttons of a child that fills the whole area.
 void Caja::ArmaBotonesDeHija() {
   new FXMDIWindowButton(menuBar, mdiMenu, mdiClient, FXMDIClient::ID_MDI_MENUWINDOW, LAYOUT_LEFT);
@@ -114,9 +112,9 @@ void Caja::ArmaBotonesDeHija() {
 
 Caja::~Caja() {
   getApp()->removeTimeout(this, ID_CLOCK);
-  delete menuInicio;
-  delete menuCatalogos;
-  delete menuAyuda;
+  for (const FXMenuPane* panel : {menuInicio, menuCatalogos, menuAyuda, menuPrestamos, menuContables,
+                                  menuSocios, menuSeguridad, menuOtros})
+    delete panel;
   delete mdiMenu;
   delete menuBar;
   delete statusBar;
@@ -172,9 +170,14 @@ long Caja::onCmdDesconectar(FXObject*, FXSelector, void*) {
   return 1;
 }
 
+/// The switch that `permitirop` is in the settings.
+bool Caja::PermiteOpciones() const {
+  return strcmp(getApp()->reg().readStringEntry(seccion, "permitirop", "S"), "S") == 0;
+}
+
 long Caja::onCmdPermitirop(FXObject*, FXSelector, void*) {
   FXRegistry& ajustes = getApp()->reg();
-  if (strcmp(ajustes.readStringEntry(seccion, "permitirop", "S"), "S") == 0) {
+  if (PermiteOpciones()) {
     ajustes.writeStringEntry(seccion, "permitirop", "N");
     std::cout << "Opciones NO" << std::endl;
   } else {
@@ -204,20 +207,3 @@ long Caja::onCmdAbout(FXObject*, FXSelector, void*) {
   acerca.execute(PLACEMENT_OWNER);
   return 1;
 }
-
-/// May the user use the option? If not, says so.
-bool Caja::TieneAcceso(const char* modulo) {
-  if (permite.Acceso(glogin, modulo)) return true;
-  cajaError(this, "Acceso NO AUTORIZADO", "No tiene acceso a la opción ...");
-  return false;
-}
-
-/// An option whose form opens as a child, while the slot that the option tests is free. The form deletes
-/// itself when it closes.
-template <class Ventana>
-long Caja::OpcionHija(const char* modulo, int ranura) {
-  if (TieneAcceso(modulo) && !mdiArray[ranura]) (new Ventana(mdiClient, mdiMenu))->create();
-  return 1;
-}
-
-long Caja::onCmdMonedas(FXObject*, FXSelector, void*) { return OpcionHija<Monedas_Window>("0203", 1); }

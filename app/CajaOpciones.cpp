@@ -1,0 +1,58 @@
+// The options of the menu: one line each, with the module whose permission is asked, the form, and for a
+// child form the slot of mdiArray that has to be free. That slot is not always the one that the form takes.
+#include "app/Caja.h"
+#include "app/sesion.h"
+#include "catalogs/people/cPermisosModulos.h"
+#include "catalogs/simple/Monedas_Window.h"
+#include "widgets/cajas.h"
+
+/// May the user use the module? If not, says so.
+bool Caja::TieneAcceso(const char* modulo) {
+  if (permite.Acceso(glogin, modulo)) return true;
+  cajaError(this, "Acceso NO AUTORIZADO", "No tiene acceso a la opción ...");
+  return false;
+}
+
+/// An option whose form opens as a child, while the slot that the option tests is free. The form deletes
+/// itself when it closes.
+template <class Ventana>
+long Caja::OpcionHija(const char* modulo, int ranura) {
+  if (TieneAcceso(modulo) && !mdiArray[ranura]) (new Ventana(mdiClient, mdiMenu))->create();
+  return 1;
+}
+
+/// An option whose form does not exist yet.
+long Caja::OpcionPendiente(const char* modulo) {
+  TieneAcceso(modulo);
+  return 1;
+}
+
+long Caja::onCmdMonedas(FXObject*, FXSelector, void*) { return OpcionHija<Monedas_Window>("0203", 1); }
+long Caja::onCmdBancos(FXObject*, FXSelector, void*) { return OpcionPendiente("0204"); }
+long Caja::onCmdUsuarios(FXObject*, FXSelector, void*) { return OpcionPendiente("0206"); }
+long Caja::onCmdTipoMovimiento(FXObject*, FXSelector, void*) { return OpcionPendiente("0207"); }
+long Caja::onCmdTipoPrestamos(FXObject*, FXSelector, void*) { return OpcionPendiente("0208"); }
+long Caja::onCmdTipoGarantia(FXObject*, FXSelector, void*) { return OpcionPendiente("0209"); }
+long Caja::onCmdEstadosCredito(FXObject*, FXSelector, void*) { return OpcionPendiente("0210"); }
+long Caja::onCmdFinalidades(FXObject*, FXSelector, void*) { return OpcionPendiente("0211"); }
+long Caja::onCmdTipoMoviBancos(FXObject*, FXSelector, void*) { return OpcionPendiente("0205"); }
+long Caja::onCmdTipoInversion(FXObject*, FXSelector, void*) { return OpcionPendiente("0212"); }
+long Caja::onCmdEstadosMex(FXObject*, FXSelector, void*) { return OpcionPendiente("0213"); }
+long Caja::onCmdCiudadesMex(FXObject*, FXSelector, void*) { return OpcionPendiente("0214"); }
+long Caja::onCmdModulos(FXObject*, FXSelector, void*) { return OpcionPendiente("0215"); }
+long Caja::onCmdTipoSocios(FXObject*, FXSelector, void*) { return OpcionPendiente("0217"); }
+long Caja::onCmdCalculos(FXObject*, FXSelector, void*) { return OpcionPendiente("0218"); }
+long Caja::onCmdTipoUsuarios(FXObject*, FXSelector, void*) { return OpcionPendiente("0216"); }
+long Caja::onCmdTipoPromocion(FXObject*, FXSelector, void*) { return OpcionPendiente("0420"); }
+long Caja::onCmdTasa(FXObject*, FXSelector, void*) { return OpcionPendiente("0424"); }
+long Caja::onCmdInpc(FXObject*, FXSelector, void*) { return OpcionPendiente("0428"); }
+long Caja::onCmdUdis(FXObject*, FXSelector, void*) { return OpcionPendiente("0427"); }
+long Caja::onCmdRecargos(FXObject*, FXSelector, void*) { return OpcionPendiente("0429"); }
+long Caja::onCmdMotivoBaja(FXObject*, FXSelector, void*) { return 1; }
+long Caja::onCmdSujeto(FXObject*, FXSelector, void*) { return OpcionPendiente("0442"); }
+long Caja::onCmdInabiles(FXObject*, FXSelector, void*) { return OpcionPendiente("0448"); }
+long Caja::onCmdGrupos(FXObject*, FXSelector, void*) { return OpcionPendiente("0449"); }
+long Caja::onCmdOcupaciones(FXObject*, FXSelector, void*) { return OpcionPendiente("0450"); }
+long Caja::onCmdConceptoScoring(FXObject*, FXSelector, void*) { return OpcionPendiente("0452"); }
+long Caja::onCmdTasaInteres(FXObject*, FXSelector, void*) { return OpcionPendiente("0217"); }
+long Caja::onCmdTipoTasaInteres(FXObject*, FXSelector, void*) { return OpcionPendiente("0217"); }
