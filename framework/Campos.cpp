@@ -4,17 +4,17 @@
 
 namespace {
 
-constexpr FXuint opcionesDeCampo = FRAME_SUNKEN | FRAME_THICK | TEXTFIELD_LIMITED | LAYOUT_CENTER_Y;
+constexpr FXuint opcionesDeCampo =
+    FRAME_SUNKEN | FRAME_THICK | TEXTFIELD_LIMITED | LAYOUT_CENTER_Y | LAYOUT_FILL_X | LAYOUT_FILL_COLUMN;
 
 void Etiqueta(FXMatrix* matriz, const char* texto) {
   new FXLabel(matriz, texto, nullptr, LABEL_NORMAL | JUSTIFY_LEFT | LAYOUT_CENTER_Y);
 }
 
-template <class T>
-void Campo(FXMatrix* matriz, const char* etiqueta, int columnas, Dato<T>& dato, FXuint opciones) {
+template <class Clase, class T>
+void Renglon(FXMatrix* matriz, const char* etiqueta, int columnas, Dato<T>& dato, FXuint opciones) {
   Etiqueta(matriz, etiqueta);
-  dato.campo =
-      new FXTextField(matriz, columnas, &dato.destino, FXDataTarget::ID_VALUE, opcionesDeCampo | opciones);
+  dato.campo = new Clase(matriz, columnas, &dato.destino, FXDataTarget::ID_VALUE, opcionesDeCampo | opciones);
 }
 
 template <class Numero>
@@ -31,11 +31,7 @@ CampoRealMap[] = {
     FXMAPFUNC(SEL_COMMAND, CampoReal::ID_SETREALVALUE, CampoReal::onCmdSetRealValue),
 };
 
-FXIMPLEMENT(CampoReal, FXTextField, CampoRealMap, ARRAYNUMBER(CampoRealMap))
-
-CampoReal::CampoReal(FXComposite* padre, FXint columnas, FXObject* destino, FXSelector mensaje,
-                     FXuint opciones)
-    : FXTextField(padre, columnas, destino, mensaje, opciones) {}
+FXIMPLEMENT(CampoReal, Campo, CampoRealMap, ARRAYNUMBER(CampoRealMap))
 
 long CampoReal::onCmdSetRealValue(FXObject*, FXSelector, void* valor) {
   const double numero = *static_cast<FXdouble*>(valor);
@@ -45,32 +41,33 @@ long CampoReal::onCmdSetRealValue(FXObject*, FXSelector, void* valor) {
 }
 
 void campoClave(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato) {
-  Campo(matriz, etiqueta, columnas, dato, JUSTIFY_LEFT | TEXTFIELD_ENTER_ONLY);
+  Renglon<CampoClave>(matriz, etiqueta, columnas, dato, JUSTIFY_LEFT | TEXTFIELD_ENTER_ONLY);
 }
 
 void campoClave(FXMatrix* matriz, const char* etiqueta, int columnas, DatoEntero& dato, FXuint lado) {
-  Campo(matriz, etiqueta, columnas, dato, lado | TEXTFIELD_ENTER_ONLY | TEXTFIELD_INTEGER);
+  Renglon<Campo>(matriz, etiqueta, columnas, dato, lado | TEXTFIELD_ENTER_ONLY | TEXTFIELD_INTEGER);
 }
 
 void campoTexto(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato) {
-  Campo(matriz, etiqueta, columnas, dato, JUSTIFY_LEFT);
+  Renglon<Campo>(matriz, etiqueta, columnas, dato, JUSTIFY_LEFT);
 }
 
 void campoReal(FXMatrix* matriz, const char* etiqueta, int columnas, DatoReal& dato) {
-  Etiqueta(matriz, etiqueta);
-  dato.campo = new CampoReal(matriz, columnas, &dato.destino, FXDataTarget::ID_VALUE,
-                             opcionesDeCampo | JUSTIFY_RIGHT | TEXTFIELD_REAL);
+  Renglon<CampoReal>(matriz, etiqueta, columnas, dato, JUSTIFY_RIGHT | TEXTFIELD_REAL);
 }
 
 void campoParrafo(FXMatrix* matriz, const char* etiqueta, int filas, int columnas, DatoParrafo& dato) {
   Etiqueta(matriz, etiqueta);
-  auto* marco = new FXHorizontalFrame(matriz, FRAME_SUNKEN | FRAME_THICK, 0, 0, 0, 0, 0, 0, 0, 0);
-  dato.campo = new FXText(marco, nullptr, 0, TEXT_WORDWRAP);
+  auto* marco = new FXHorizontalFrame(
+      matriz, FRAME_SUNKEN | FRAME_THICK | LAYOUT_FILL | LAYOUT_FILL_COLUMN | LAYOUT_FILL_ROW, 0, 0, 0, 0, 0,
+      0, 0, 0);
+  dato.campo = new FXText(marco, nullptr, 0, TEXT_WORDWRAP | LAYOUT_FILL);
   dato.campo->setVisibleRows(filas);
   dato.campo->setVisibleColumns(columnas);
 }
 
 FXCheckButton* campoCasilla(FXMatrix* matriz, const char* etiqueta, FXObject* destino, FXSelector mensaje) {
   Etiqueta(matriz, etiqueta);
-  return new FXCheckButton(matriz, "", destino, mensaje, CHECKBUTTON_NORMAL | LAYOUT_CENTER_Y);
+  return new FXCheckButton(matriz, "", destino, mensaje,
+                           CHECKBUTTON_NORMAL | LAYOUT_CENTER_Y | LAYOUT_FILL_COLUMN);
 }

@@ -39,12 +39,33 @@ struct DatoParrafo {
   const FXString& Valor() { return valor = campo->getText(); }
 };
 
+/// A text field as wide as its columns, and narrower where its row has no room for them.
+class Campo : public FXTextField {
+ public:
+  using FXTextField::FXTextField;
+  void position(FXint x, FXint y, FXint ancho, FXint alto) override {
+    FXTextField::position(x, y, FXMIN(ancho, getDefaultWidth()), alto);
+  }
+
+ protected:
+  Campo() {}
+};
+
+/// The field of a text key, wide enough for capitals of any kind; a column is otherwise one digit wide.
+class CampoClave : public Campo {
+ public:
+  using Campo::Campo;
+  FXint getDefaultWidth() override {
+    return padleft + padright + 2 * border + columns * font->getTextWidth("W", 1);
+  }
+};
+
 /// A field for real numbers. Shows as many digits as the number needs to be told from its neighbours, without
 /// an exponent; a number that came out of a single-precision column is shown as that column holds it.
-class CampoReal : public FXTextField {
+class CampoReal : public Campo {
   FXDECLARE(CampoReal)
  public:
-  CampoReal(FXComposite* padre, FXint columnas, FXObject* destino, FXSelector mensaje, FXuint opciones);
+  using Campo::Campo;
   long onCmdSetRealValue(FXObject*, FXSelector, void* valor);
 
  protected:

@@ -169,7 +169,8 @@ void Forma<Ventana, Base, busqueda>::ArmaLista(const char* titulo) {
   // the menu away when the form closes.
   if constexpr (std::is_base_of_v<FXMDIChild, Base>) this->setAccelTable(new FXAccelTable);
   cuerpo = new FXHorizontalFrame(this, LAYOUT_FILL_X | LAYOUT_FILL_Y);
-  auto* grupo = new FXGroupBox(cuerpo, titulo, FRAME_GROOVE | LAYOUT_FILL_X | LAYOUT_FILL_Y);
+  // List and buttons keep their width; the fields have what is left.
+  auto* grupo = new FXGroupBox(cuerpo, titulo, FRAME_GROOVE | LAYOUT_FILL_Y);
   auto* marco = new FXVerticalFrame(grupo, FRAME_SUNKEN | FRAME_THICK | LAYOUT_FILL_X | LAYOUT_FILL_Y, 0, 0,
                                     0, 0, 0, 0, 0, 0);
   lstFilas = new FXList(marco, this, ID_LISTA,
@@ -185,7 +186,7 @@ FXMatrix* Forma<Ventana, Base, busqueda>::ArmaGrupo(const char* titulo) {
 
 template <class Ventana, class Base, Busqueda busqueda>
 void Forma<Ventana, Base, busqueda>::ArmaBotones() {
-  auto* columna = new FXGroupBox(cuerpo, "", LAYOUT_FILL_X | LAYOUT_FILL_Y);
+  auto* columna = new FXGroupBox(cuerpo, "", LAYOUT_FILL_Y);
   Boton(columna, "&Nuevo", iconos::nuevo_icon, ID_CLEAR, BUTTON_DEFAULT);
   if constexpr (busqueda == ConBuscar) Boton(columna, "&Buscar", iconos::find_icon, ID_FIND, BUTTON_DEFAULT);
   Boton(columna, "&Borrar", iconos::borrar_icon, ID_BORRAR, BUTTON_DEFAULT);
