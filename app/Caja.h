@@ -107,7 +107,11 @@ class Caja : public FXMainWindow {
   bool PermiteOpciones() const;
   bool TieneAcceso(const char* modulo);
   template <class Ventana>
+  long AbreHija(int ranura);
+  template <class Ventana>
   long OpcionHija(const char* modulo, int ranura);
+  template <class Ventana>
+  long OpcionModal(const char* modulo);
   long OpcionPendiente(const char* modulo);
 
   FXMDIClient* mdiClient = nullptr;

@@ -3,7 +3,18 @@
 #include "app/Caja.h"
 #include "app/sesion.h"
 #include "catalogs/people/cPermisosModulos.h"
+#include "catalogs/simple/ConceptoScoring_Window.h"
+#include "catalogs/simple/Estados_Credito_Window.h"
+#include "catalogs/simple/Finalidades_Window.h"
+#include "catalogs/simple/Grupo_Window.h"
+#include "catalogs/simple/Modulo_Window.h"
 #include "catalogs/simple/Monedas_Window.h"
+#include "catalogs/simple/MotivoBaja_Window.h"
+#include "catalogs/simple/Ocupacion_Window.h"
+#include "catalogs/simple/TipoMoviBanco_Window.h"
+#include "catalogs/simple/TipoSocio_Window.h"
+#include "catalogs/simple/TipoUsuario_Window.h"
+#include "catalogs/simple/Tipo_Garantia_Window.h"
 #include "widgets/cajas.h"
 
 /// May the user use the module? If not, says so.
@@ -13,11 +24,24 @@ bool Caja::TieneAcceso(const char* modulo) {
   return false;
 }
 
-/// An option whose form opens as a child, while the slot that the option tests is free. The form deletes
-/// itself when it closes.
+/// Opens a form as a child, while the slot that its option tests is free. The form deletes itself when it
+/// closes.
+template <class Ventana>
+long Caja::AbreHija(int ranura) {
+  if (!mdiArray[ranura]) (new Ventana(mdiClient, mdiMenu))->create();
+  return 1;
+}
+
+/// An option whose form opens as a child.
 template <class Ventana>
 long Caja::OpcionHija(const char* modulo, int ranura) {
-  if (TieneAcceso(modulo) && !mdiArray[ranura]) (new Ventana(mdiClient, mdiMenu))->create();
+  return TieneAcceso(modulo) ? AbreHija<Ventana>(ranura) : 1;
+}
+
+/// An option whose form is a dialog.
+template <class Ventana>
+long Caja::OpcionModal(const char* modulo) {
+  if (TieneAcceso(modulo)) Ventana(this).execute(PLACEMENT_SCREEN);
   return 1;
 }
 
@@ -32,27 +56,35 @@ long Caja::onCmdBancos(FXObject*, FXSelector, void*) { return OpcionPendiente("0
 long Caja::onCmdUsuarios(FXObject*, FXSelector, void*) { return OpcionPendiente("0206"); }
 long Caja::onCmdTipoMovimiento(FXObject*, FXSelector, void*) { return OpcionPendiente("0207"); }
 long Caja::onCmdTipoPrestamos(FXObject*, FXSelector, void*) { return OpcionPendiente("0208"); }
-long Caja::onCmdTipoGarantia(FXObject*, FXSelector, void*) { return OpcionPendiente("0209"); }
-long Caja::onCmdEstadosCredito(FXObject*, FXSelector, void*) { return OpcionPendiente("0210"); }
-long Caja::onCmdFinalidades(FXObject*, FXSelector, void*) { return OpcionPendiente("0211"); }
-long Caja::onCmdTipoMoviBancos(FXObject*, FXSelector, void*) { return OpcionPendiente("0205"); }
+long Caja::onCmdTipoGarantia(FXObject*, FXSelector, void*) {
+  return OpcionModal<Tipo_Garantia_Window>("0209");
+}
+long Caja::onCmdEstadosCredito(FXObject*, FXSelector, void*) {
+  return OpcionModal<Estados_Credito_Window>("0210");
+}
+long Caja::onCmdFinalidades(FXObject*, FXSelector, void*) { return OpcionModal<Finalidades_Window>("0211"); }
+long Caja::onCmdTipoMoviBancos(FXObject*, FXSelector, void*) {
+  return OpcionHija<TipoMoviBanco_Window>("0205", 3);
+}
 long Caja::onCmdTipoInversion(FXObject*, FXSelector, void*) { return OpcionPendiente("0212"); }
 long Caja::onCmdEstadosMex(FXObject*, FXSelector, void*) { return OpcionPendiente("0213"); }
 long Caja::onCmdCiudadesMex(FXObject*, FXSelector, void*) { return OpcionPendiente("0214"); }
-long Caja::onCmdModulos(FXObject*, FXSelector, void*) { return OpcionPendiente("0215"); }
-long Caja::onCmdTipoSocios(FXObject*, FXSelector, void*) { return OpcionPendiente("0217"); }
+long Caja::onCmdModulos(FXObject*, FXSelector, void*) { return OpcionModal<Modulo_Window>("0215"); }
+long Caja::onCmdTipoSocios(FXObject*, FXSelector, void*) { return OpcionModal<TipoSocio_Window>("0217"); }
 long Caja::onCmdCalculos(FXObject*, FXSelector, void*) { return OpcionPendiente("0218"); }
-long Caja::onCmdTipoUsuarios(FXObject*, FXSelector, void*) { return OpcionPendiente("0216"); }
+long Caja::onCmdTipoUsuarios(FXObject*, FXSelector, void*) { return OpcionModal<TipoUsuario_Window>("0216"); }
 long Caja::onCmdTipoPromocion(FXObject*, FXSelector, void*) { return OpcionPendiente("0420"); }
 long Caja::onCmdTasa(FXObject*, FXSelector, void*) { return OpcionPendiente("0424"); }
 long Caja::onCmdInpc(FXObject*, FXSelector, void*) { return OpcionPendiente("0428"); }
 long Caja::onCmdUdis(FXObject*, FXSelector, void*) { return OpcionPendiente("0427"); }
 long Caja::onCmdRecargos(FXObject*, FXSelector, void*) { return OpcionPendiente("0429"); }
-long Caja::onCmdMotivoBaja(FXObject*, FXSelector, void*) { return 1; }
+long Caja::onCmdMotivoBaja(FXObject*, FXSelector, void*) { return AbreHija<MotivoBaja_Window>(80); }
 long Caja::onCmdSujeto(FXObject*, FXSelector, void*) { return OpcionPendiente("0442"); }
 long Caja::onCmdInabiles(FXObject*, FXSelector, void*) { return OpcionPendiente("0448"); }
-long Caja::onCmdGrupos(FXObject*, FXSelector, void*) { return OpcionPendiente("0449"); }
-long Caja::onCmdOcupaciones(FXObject*, FXSelector, void*) { return OpcionPendiente("0450"); }
-long Caja::onCmdConceptoScoring(FXObject*, FXSelector, void*) { return OpcionPendiente("0452"); }
+long Caja::onCmdGrupos(FXObject*, FXSelector, void*) { return OpcionHija<Grupo_Window>("0449", 98); }
+long Caja::onCmdOcupaciones(FXObject*, FXSelector, void*) { return OpcionHija<Ocupacion_Window>("0450", 98); }
+long Caja::onCmdConceptoScoring(FXObject*, FXSelector, void*) {
+  return OpcionModal<ConceptoScoring_Window>("0452");
+}
 long Caja::onCmdTasaInteres(FXObject*, FXSelector, void*) { return OpcionPendiente("0217"); }
 long Caja::onCmdTipoTasaInteres(FXObject*, FXSelector, void*) { return OpcionPendiente("0217"); }

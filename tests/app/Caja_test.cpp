@@ -193,6 +193,20 @@ TEST_F(CajaTest, AcercaDelSistemaSePresenta) {
   EXPECT_EQ(guion.Cuadros().at(0).botones, Textos{"&OK"});
 }
 
+TEST_F(CajaTest, SusManejadoresRespondenUno) {
+  const Principal caja;
+  const Salida salida;
+  const std::pair<FXuint, const char*> casos[] = {
+      {60, "&OK"}, {61, "&Cerrar"}, {62, "&Aceptar"}, {63, nullptr}};
+  for (const auto& [mensaje, respuesta] : casos) {
+    SCOPED_TRACE(mensaje);
+    Guion guion;
+    if (respuesta) guion.Responde(respuesta);
+    EXPECT_EQ(caja->handle(&App(), FXSEL(SEL_COMMAND, mensaje), nullptr), 1);
+  }
+  EXPECT_EQ(caja->handle(&App(), FXSEL(SEL_TIMEOUT, 100), nullptr), 1);
+}
+
 // With a server behind it.
 
 TEST_F(CajaConServidorTest, DesconectarCierraYDejaLoDemasComoEstaba) {

@@ -51,20 +51,11 @@ const struct Renglon {
 
 /// The forms that do not exist yet: their options ask the permission and open nothing.
 const std::set<std::string> Pendientes = {
-    "Banco_Window",          "Usuario_Window",
-    "TipoMovimiento_Window", "TipoPrestamo_Window",
-    "Tipo_Garantia_Window",  "Estados_Credito_Window",
-    "Finalidades_Window",    "TipoMoviBanco_Window",
-    "TipoInversion_Window",  "EstadoMex_Window",
-    "CiudadMex_Window",      "Modulo_Window",
-    "TipoSocio_Window",      "Calculo_Window",
-    "TipoUsuario_Window",    "TipoPromocion_Window",
-    "Tasa_Window",           "Inpc_Window",
-    "Udis_Window",           "Recargos_Window",
-    "MotivoBaja_Window",     "Sujeto_Window",
-    "Inabil_Window",         "Grupo_Window",
-    "Ocupacion_Window",      "ConceptoScoring_Window",
-    "TasaInteres_Window",    "TipoTasaInteres_Window",
+    "Banco_Window",           "Usuario_Window",   "TipoMovimiento_Window", "TipoPrestamo_Window",
+    "TipoInversion_Window",   "EstadoMex_Window", "CiudadMex_Window",      "Calculo_Window",
+    "TipoPromocion_Window",   "Tasa_Window",      "Inpc_Window",           "Udis_Window",
+    "Recargos_Window",        "Sujeto_Window",    "Inabil_Window",         "TasaInteres_Window",
+    "TipoTasaInteres_Window",
 };
 
 bool Existe(const Renglon& opcion) { return Pendientes.count(opcion.forma) == 0; }
@@ -214,23 +205,27 @@ TEST_F(OpcionesTest, UnPermisoQuitadoConLaFormaAbiertaValeDesdeElSiguienteClic) 
   EXPECT_EQ(Abiertas(), Textos{"Monedas_Window"});
 }
 
-TEST_F(OpcionesTest, UnaPreguntaSinRespuestaNiega) {
-  const std::pair<const char*, Falla> fallas[] = {
-      {"línea cortada antes", falla::CorteAntes()},
-      {"línea cortada después", falla::CorteDespues()},
-      {"nula", falla::Nula()},
-      {"error", falla::Error("%s %n")},
-      {"sin filas", falla::SinFilas()},
-  };
-  for (const auto& [caso, mala] : fallas) {
-    SCOPED_TRACE(caso);
+TEST_F(OpcionesTest, UnaLineaCortadaEntreElClicYLaRespuestaNiega) {
+  for (const Falla& corte : {falla::CorteAntes(), falla::CorteDespues()}) {
     for (const Renglon& opcion : Guardadas()) {
       SCOPED_TRACE(opcion.mensaje);
       const Sesion sesion(*base_);
       Espia espia;
-      espia.En(0, mala);
+      espia.En(0, corte);
       Rechaza(opcion);
       EXPECT_EQ(espia.Sentencias(), Textos{Pregunta(opcion)});
+    }
+  }
+}
+
+TEST_F(OpcionesTest, UnaPreguntaQueFallaNiega) {
+  const Sesion sesion(*base_);
+  for (const Falla& mala : {falla::Nula(), falla::Error("%s %n"), falla::SinFilas()}) {
+    for (const Renglon& opcion : Guardadas()) {
+      SCOPED_TRACE(opcion.mensaje);
+      Espia espia;
+      espia.En(0, mala);
+      Rechaza(opcion);
     }
   }
 }
@@ -241,6 +236,19 @@ TEST_F(OpcionesTest, SinSesionCadaUnaSeNiega) {
     SCOPED_TRACE(opcion.mensaje);
     Rechaza(opcion);
   }
+}
+
+TEST_F(OpcionesTest, UnDialogoSeAbreEnMedioDeLaPantalla) {
+  const Sesion sesion(*base_);
+  caja_->move(0, 0);
+  Guion guion;
+  guion.Con([](FXDialogBox* dialogo) {
+    const FXWindow* const pantalla = App().getRootWindow();
+    EXPECT_NEAR(dialogo->getX() + dialogo->getWidth() / 2, pantalla->getWidth() / 2, 2);
+    EXPECT_NEAR(dialogo->getY() + dialogo->getHeight() / 2, pantalla->getHeight() / 2, 2);
+    Pulsa(Boton(dialogo, "&Cerrar"));
+  });
+  Manda(De("TipoSocio_Window").mensaje);
 }
 
 // The slots.
