@@ -125,6 +125,61 @@ menu() {
   esac
 }
 
+# Chooses the entry of the pane "Catalogos" at place $1, or in its cascade the one at place $2, counted from 1.
+elige() {
+  menu Catalogos
+  baja "$1"
+  if [[ ${2:-} ]]; then
+    teclea Right
+    baja "$2"
+  fi
+  teclea Return
+}
+baja() { teclea $(printf 'Down %.0s' $(seq "$1")); }
+
+# &Nuevo, and the values into the fields from the key on. $1 is how many fields there are: so many places the key is
+# before that button.
+nuevo() {
+  local campos=$1
+  shift
+  teclea alt+n
+  atras "$campos"
+  llena "$@"
+}
+
+# The row with the key $2, by &Buscar; the keyboard is then on the field behind the key.
+encuentra() {
+  local campos=$1
+  nuevo "$campos" "$2"
+  adelante "$campos"
+  teclea space
+  atras "$campos"
+}
+
+# The last row of the list; the keyboard is then on the field behind the key.
+elige_ultimo() {
+  teclea alt+n
+  atras "$(($1 + 1))"
+  teclea End
+  adelante 2
+}
+
+adelante() { teclea $(printf 'Tab %.0s' $(seq "$1")); }
+atras() { teclea $(printf 'shift+Tab %.0s' $(seq "$1")); }
+
+# &Aceptar or &Borrar by its key $1, and yes to the question with the title $2, which may be that of its form as well;
+# its picture is $3.
+confirma() {
+  local forma
+  forma=$(xdotool getactivewindow)
+  teclea "$1"
+  espera "no aparece la pregunta «$2»" es_otra "$2" "$forma"
+  captura "$3"
+  teclea alt+s
+  espera_cierre
+}
+es_otra() { es_activa "$1" && [[ $ventana != "$2" ]]; }
+
 # Fills the fields from the one with the keyboard on.
 llena() {
   local texto

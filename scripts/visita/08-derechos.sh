@@ -19,9 +19,18 @@ teclea Return
 responde 'Validando usuario' Return bienvenida-de-otro-usuario
 exige_dato "SELECT count(*) FROM pg_stat_activity WHERE usename = 'camila'" 1
 
-paso 'Se le niega una opción'
+for opcion in "${opciones[@]}"; do
+  IFS='|' read -r nombre lugar cascada modulo _ <<<"$opcion"
+  paso "Se le niega la opción $nombre"
+  espera_ventana "$principal"
+  elige "$lugar" "$cascada"
+  responde 'Acceso NO AUTORIZADO' Return "negada-$nombre"
+  exige_traza "SELECT * FROM spspermisomodulo('camila','$modulo');"
+done
+
+paso 'Motivos Baja se le abre también'
 espera_ventana "$principal"
-menu Catalogos
-teclea alt+m
-responde 'Acceso NO AUTORIZADO' Return acceso-negado
-exige_traza "SELECT * FROM spspermisomodulo('camila','0203');"
+elige 7 3
+exige_traza 'terminando creacion frm motivobaja'
+captura motivos-baja-sin-derechos
+teclea alt+c

@@ -1,0 +1,56 @@
+# Every option of the menu, chosen by a user who has the right to all of them.
+#
+# One row each: name, place in the pane, place in its cascade, module, and what opens: a child form with the line that
+# it traces, a dialog with its title, or nothing.
+opciones=(
+  'monedas|1||0203|hija|terminando creacion frm pais'
+  'bancos|2||0204|nada|'
+  'movimientos-bancarios|3||0205|hija|terminando creacion frm tipomovibanco'
+  'tipo-de-movimientos|4||0207|nada|'
+  'tipo-de-inversion|5||0212|nada|'
+  'tipo-de-prestamos|6|1|0208|nada|'
+  'estados-del-credito|6|2|0210|dialogo|Estados del Credito'
+  'finalidades|6|3|0211|dialogo|Finalidades'
+  'tipo-de-garantias|6|5|0209|dialogo|Tipo de Garantia'
+  'tipo-tasa-interes|6|6|0217|nada|'
+  'tasa-interes|6|7|0217|nada|'
+  'tipo-de-socios|7|1|0217|dialogo|Socios'
+  'ocupaciones|7|2|0450|hija|terminando creacion frm ocupacion'
+  'usuarios|8|1|0206|nada|'
+  'tipo-de-usuarios|8|2|0216|dialogo|Tipo de Usuarios'
+  'modulos|8|3|0215|dialogo|Modulo'
+  'inpc|9|1|0428|nada|'
+  'udis|9|2|0427|nada|'
+  'recargos|9|3|0429|nada|'
+  'formulas|10|1|0218|nada|'
+  'tipo-promocion|10|2|0420|nada|'
+  'tasas|10|3|0424|nada|'
+  'dias-inabiles|10|4|0448|nada|'
+  'conceptos-scoring|10|5|0452|dialogo|Concepto Scoring'
+)
+
+for opcion in "${opciones[@]}"; do
+  IFS='|' read -r nombre lugar cascada modulo clase muestra <<<"$opcion"
+  paso "Se abre la opción $nombre"
+  elige "$lugar" "$cascada"
+  exige_traza "SELECT * FROM spspermisomodulo('$usuario','$modulo');"
+  case $clase in
+    hija) exige_traza "$muestra" ;;
+    dialogo) espera_ventana "$muestra" ;;
+  esac
+  captura "opcion-$nombre"
+  [[ $clase == nada ]] || teclea alt+c
+  [[ $clase != dialogo ]] || espera_cierre
+  espera_ventana "$principal"
+done
+
+paso 'Motivos Baja se abre sin preguntar por un permiso'
+elige 7 3
+exige_traza 'terminando creacion frm motivobaja'
+captura opcion-motivos-baja
+teclea alt+c
+
+paso 'Clasificacion de Creditos no hace nada'
+elige 6 4
+captura opcion-clasificacion-de-creditos
+espera_ventana "$principal"

@@ -1,0 +1,98 @@
+# A catalogue of each family: a row is added, changed and deleted.
+paso 'Un diálogo con clave de letras: un tipo de garantía se agrega'
+elige 6 5
+espera_ventana 'Tipo de Garantia'
+nuevo 2 QZ 'Garantía de papel'
+confirma alt+a 'Tipo de Garantía' garantia-registrar
+exige_dato "SELECT descripciongarantia FROM tipo_garantia WHERE clavegarantia = 'QZ'" 'Garantía de papel'
+captura garantia-agregada
+
+paso 'Se busca y se modifica'
+espera_ventana 'Tipo de Garantia'
+encuentra 2 QZ
+exige_campo 'Garantía de papel'
+llena 'Garantía de cartón'
+confirma alt+a 'Tipo de Garantía' garantia-guardar
+exige_dato "SELECT descripciongarantia FROM tipo_garantia WHERE clavegarantia = 'QZ'" 'Garantía de cartón'
+
+paso 'Y se borra'
+espera_ventana 'Tipo de Garantia'
+confirma alt+b 'Tipo de Garantía' garantia-borrar
+exige_dato "SELECT count(*) FROM tipo_garantia WHERE clavegarantia = 'QZ'" 0
+espera_ventana 'Tipo de Garantia'
+teclea alt+c
+
+paso 'Una forma con una casilla: un movimiento bancario sin operación se rechaza'
+espera_ventana "$principal"
+elige 3
+exige_traza 'terminando creacion frm tipomovibanco'
+nuevo 3 QZ 'Ajuste de prueba'
+teclea alt+a
+responde 'Error en Validación' Return movimiento-rechazado
+
+paso 'Con la operación se agrega'
+nuevo 3 QZ 'Ajuste de prueba'
+teclea space # Incrementar Saldo
+confirma alt+a 'Tipo de Movimientos Bancarios' movimiento-registrar
+exige_dato "SELECT operacionsumaresta FROM tipomovibanco WHERE tipomovibancoid = 'QZ'" '+'
+captura movimiento-agregado
+
+paso 'Se busca y se modifica'
+encuentra 3 QZ
+exige_campo 'Ajuste de prueba'
+llena 'Ajuste al revés'
+teclea space
+confirma alt+a 'Tipo de Movimientos Bancarios' movimiento-guardar
+exige_dato "SELECT descritipomovibanco, operacionsumaresta FROM tipomovibanco WHERE tipomovibancoid = 'QZ'" \
+  'Ajuste al revés|-'
+
+paso 'Y se borra'
+confirma alt+b 'Tipo de Movimientos Bancarios' movimiento-borrar
+exige_dato "SELECT count(*) FROM tipomovibanco WHERE tipomovibancoid = 'QZ'" 0
+teclea alt+c
+
+paso 'Una forma corta: una ocupación se agrega, y el servidor le da su número'
+elige 7 2
+exige_traza 'terminando creacion frm ocupacion'
+nuevo 2 '' 'Vigía'
+confirma alt+a 'Ocupacion' ocupacion-registrar
+exige_dato "SELECT count(*) FROM ocupacion WHERE ocupacion = 'Vigía'" 1
+captura ocupacion-agregada
+
+paso 'Se elige en la lista y se modifica'
+elige_ultimo 2
+exige_campo 'Vigía'
+llena 'Vigía nocturno'
+confirma alt+a 'Ocupacion' ocupacion-guardar
+exige_dato "SELECT ocupacion FROM ocupacion ORDER BY ocupacionid DESC LIMIT 1" 'Vigía nocturno'
+
+paso 'Y se borra'
+elige_ultimo 2
+confirma alt+b 'Ocupacion' ocupacion-borrar
+exige_dato "SELECT count(*) FROM ocupacion WHERE ocupacion = 'Vigía nocturno'" 0
+teclea alt+c
+
+paso 'Un diálogo con número: un concepto se agrega'
+espera_ventana "$principal"
+elige 10 5
+espera_ventana 'Concepto Scoring'
+nuevo 2 '' 'Puntualidad'
+confirma alt+a 'Concepto Scoring' concepto-registrar
+exige_dato "SELECT count(*) FROM conceptoscoring WHERE conceptoscoring = 'Puntualidad'" 1
+
+paso 'Se elige en la lista y se modifica'
+espera_ventana 'Concepto Scoring'
+elige_ultimo 2
+exige_campo 'Puntualidad'
+captura concepto-elegido
+llena 'Puntualidad de pago'
+confirma alt+a 'Concepto Scoring' concepto-guardar
+exige_dato "SELECT count(*) FROM conceptoscoring WHERE conceptoscoring = 'Puntualidad de pago'" 1
+
+paso 'Y se borra'
+espera_ventana 'Concepto Scoring'
+confirma alt+b 'Concepto Scoring' concepto-borrar
+exige_dato "SELECT count(*) FROM conceptoscoring WHERE conceptoscoring = 'Puntualidad de pago'" 0
+espera_ventana 'Concepto Scoring'
+teclea alt+c
+espera_ventana "$principal"
