@@ -7,14 +7,38 @@ namespace {
 const char* const inicio[] = {
     "&Conectar\t\tConectarse al sistema", "&Desconectar\t\tDesconectarse del sistema",
     "&NO permitir opciones de conexion", nullptr, "&Salir\tCtl-Q\tSalir del sistema"};
-const char* const catalogos[] = {"&Monedas\t\tCatalogo de tipos de monedas"};
+const char* const catalogos[] = {"&Monedas\t\tCatalogo de tipos de monedas",
+                                 nullptr,
+                                 "&Bancos\t\tCatalogo de cuentas bancarias",
+                                 "Movimientos Bancarios\t\tCatalogo de tipo de movimientos de bancos",
+                                 nullptr,
+                                 "&Tipo de Movimientos\t\tCatalogo de tipos de movimientos",
+                                 "Tipo de Inversión\t\tCatalogo de Tipos de Inversión",
+                                 nullptr};
+const char* const prestamos[] = {"Tipo de &Prestamos\t\tCatalogo de tipos de prestamos",
+                                 "Estados del Credito\t\tCatalogo de estados del credito",
+                                 "Finalidades del credito\t\tCatalogo de finalidades de creditos",
+                                 "Clasificacion de Creditos\t\tCatalogo de Clasificacion de Creditos",
+                                 "Tipo de &Garantias\t\tCatalogo de tipos de garantias",
+                                 "Tipo Tasa &Interes",
+                                 "Ta&sa Interes"};
+const char* const socios[] = {"Tipo de Socios\t\tCatalogo de Tipo de Socios", "Ocupaciones\t\tOcupaciones",
+                              "Motivos Baja\t\tCatalogo de Motivos de Baja de Socios"};
+const char* const seguridad[] = {"&Usuarios\t\tMto. de usuarios y accesos a opciones del sistema",
+                                 "Tipo de Usuarios\t\tCatalogo de tipos de usuarios",
+                                 "Modulos\t\tCatalogo de Modulos del Sistema"};
+const char* const contables[] = {"INPC\t\tCatalogo de INPC", "UDIS\t\tCatalogo de UDIS",
+                                 "Recargos\t\tCatalogo de Recargos"};
+const char* const otros[] = {"Formulas\t\tCatalogo de Formulas para Calculo de intereses",
+                             "Tipo Promoción\t\tCatalogo de Tipos de Promociones",
+                             "Tasas\t\tHistorico de Tasas de Interes", "Dias Inabiles\t\tDias Inabiles",
+                             "Conceptos Scoring\t\tConcepto"};
 const char* const ayuda[] = {"&Acerca del Sistema ..."};
 
-/// A menu with its entries; a null one is a separator.
+/// A pane with its entries; a null one is a separator.
 template <size_t N>
-void Menu(FXMenuBar* barra, const char* titulo, const char* const (&entradas)[N]) {
-  auto* panel = new FXMenuPane(barra->getShell());
-  new FXMenuTitle(barra, titulo, nullptr, panel);
+FXMenuPane* Panel(FXWindow* duena, const char* const (&entradas)[N]) {
+  auto* panel = new FXMenuPane(duena);
   for (const char* entrada : entradas) {
     if (entrada != nullptr) {
       new FXMenuCommand(panel, entrada);
@@ -22,6 +46,19 @@ void Menu(FXMenuBar* barra, const char* titulo, const char* const (&entradas)[N]
       new FXMenuSeparator(panel);
     }
   }
+  return panel;
+}
+
+void ArmaMenu(FXWindow* ventana, FXMenuBar* barra) {
+  new FXMenuTitle(barra, "&Inicio", nullptr, Panel(ventana, inicio));
+  FXMenuPane* panel = Panel(ventana, catalogos);
+  new FXMenuCascade(panel, "Prestamos", nullptr, Panel(ventana, prestamos));
+  new FXMenuCascade(panel, "Socios", nullptr, Panel(ventana, socios));
+  new FXMenuCascade(panel, "Seguridad", nullptr, Panel(ventana, seguridad));
+  new FXMenuCascade(panel, "Contables", nullptr, Panel(ventana, contables));
+  new FXMenuCascade(panel, "Otros", nullptr, Panel(ventana, otros));
+  new FXMenuTitle(barra, "C&atalogos", nullptr, panel);
+  new FXMenuTitle(barra, "A&yuda", nullptr, Panel(ventana, ayuda), LAYOUT_RIGHT);
 }
 
 /// A docked bar with its grip.
@@ -61,9 +98,7 @@ int main(int argc, char* argv[]) {
   Acoplada<FXToolBar>(ventana);
   ArmaEstado(ventana);
   ArmaArea(ventana, barra);
-  Menu(barra, "&Inicio", inicio);
-  Menu(barra, "C&atalogos", catalogos);
-  Menu(barra, "A&yuda", ayuda);
+  ArmaMenu(ventana, barra);
   app.create();
   ventana->show(PLACEMENT_SCREEN);
   return app.run();
