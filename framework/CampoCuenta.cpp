@@ -1,0 +1,53 @@
+#include "framework/CampoCuenta.h"
+
+#include "framework/Busqueda_Window.h"
+
+char sCuenta[55];
+
+void DatoCuenta::Pon(const char* nuevo) {
+  valor = nuevo;
+  const int posicion = nuevo != nullptr ? FindCuenta(nuevo) : -1;
+  combo->setCurrentItem(posicion < combo->getNumItems() ? posicion : -1);
+}
+
+Cuentas::Cuentas(FXWindow* forma, FXSelector idCombo, FXSelector idBusca, std::initializer_list<Fila> tabla)
+    : forma(forma), idCombo(idCombo), idBusca(idBusca), tabla(tabla), datos(tabla.size()) {}
+
+void Cuentas::Arma(FXMatrix* matriz, int primera, int ultima) {
+  for (int cual = primera; cual <= ultima; ++cual) {
+    new FXLabel(matriz, Etiqueta(cual), nullptr, LABEL_NORMAL | JUSTIFY_LEFT | LAYOUT_CENTER_Y);
+    ArmaCampo(matriz, cual);
+  }
+}
+
+void Cuentas::ArmaCampo(FXComposite* padre, int cual) {
+  DatoCuenta& dato = datos[cual];
+  auto* marco = new FXHorizontalFrame(padre, LAYOUT_CENTER_Y, 0, 0, 0, 0, 0, 0, 0, 0);
+  dato.combo = new FXComboBox(marco, 2, forma, idCombo + cual,
+                              COMBOBOX_STATIC | FRAME_SUNKEN | FRAME_THICK | LAYOUT_CENTER_Y);
+  dato.combo->setNumVisible(10);
+  dato.letra = std::make_unique<FXFont>(forma->getApp(), "helvica", 8);
+  dato.combo->setFont(dato.letra.get());
+  new FXButton(marco, FXString::null, icono(forma->getApp(), iconos::find_icon), forma, idBusca + cual,
+               FRAME_RAISED | FRAME_THICK | LAYOUT_CENTER_Y);
+}
+
+void Cuentas::Llena() {
+  for (const auto& [fila, cuenta] : Catalogo::Catalogo_Ctas) {
+    FormateaCuenta(sCuenta, cuenta, 18, "  ");
+    const FXString renglon = sCuenta;
+    for (DatoCuenta& dato : datos) dato.combo->appendItem(renglon);
+  }
+}
+
+long Cuentas::Elige(int cual) {
+  DatoCuenta& dato = datos[cual];
+  const auto cuenta = Catalogo::Catalogo_Ctas.find(dato.combo->getCurrentItem());
+  if (cuenta != Catalogo::Catalogo_Ctas.end()) dato.valor = cuenta->second.getCuentaID();
+  return 1;
+}
+
+long Cuentas::Busca(int cual) {
+  if (tabla[cual].busca) datos[cual].Pon(EligeCuenta(forma, datos[cual].valor));
+  return 1;
+}
