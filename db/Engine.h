@@ -66,15 +66,15 @@ class Engine {
     Escribe(sql, traza, [] {});
   }
 
+  /// One more statement of a write: trace, execute, throw on a refusal.
+  void EjecutaEscritura(const char* sql, bool traza);
+
   /// The single-row read: trace and execute. True if a row came, which the caller fills from and then clears;
   /// without a row the result stays uncleared. The status is not looked at.
   bool LeeFila(const char* sql, bool traza);
 
   static int miTransactionCount;
   static int miNestedTransaction;
-
- private:
-  void EjecutaEscritura(const char* sql, bool traza);
 };
 
 /// Engine as the virtual base of the records that others are built on.

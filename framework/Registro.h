@@ -8,8 +8,12 @@
 //   auto Clave() const                  the key: a text or an integer
 //   Sentencia SqlAddNew() const         and SqlUpdate, SqlDelete, SqlFind: its four statements
 //   void AlInsertar()                   TomaClave(key), where the server assigns the key
+//   auto Campos()                       std::tie of its columns in the order of its members, where the
+//                                       constructor follows that one
 //
-// and publicly its constructors, setters (through Pon and its like), getters, Check and clase(). A record
+// A record that is saved with more than one statement sends the others in AlInsertar and AlCambiar.
+//
+// Publicly it has its constructors, setters (through Pon and its like), getters, Check and clase(). A record
 // that others are built on names EngineVirtual as the second argument. What a record does in its own way it
 // defines under the same name.
 #pragma once
@@ -75,6 +79,12 @@ void LlenaColumnas(std::tuple<Columnas&...> columnas, int fila) {
   std::apply([lector = LectorDeFila(fila)](auto&... columna) mutable { (lector(columna), ...); }, columnas);
 }
 
+/// Stores `valores`, one for each column.
+template <class... Columnas, class... Valores>
+void GuardaColumnas(std::tuple<Columnas&...> columnas, const Valores&... valores) {
+  std::apply([&](auto&... columna) { (GuardaColumna(columna, valores), ...); }, columnas);
+}
+
 template <class... Columnas>
 void VaciaColumnas(std::tuple<Columnas&...> columnas) {
   std::apply([](auto&... columna) { (VaciaColumna(columna), ...); }, columnas);
@@ -118,7 +128,7 @@ class Registro : public Base {
   /// Updates the row; otherwise as AddNew.
   void Update() {
     if (!dataChanged || !Yo().Check()) return;
-    this->Escribe(Yo().SqlUpdate(), this->SeTraza(TrazaUpdate));
+    this->Escribe(Yo().SqlUpdate(), this->SeTraza(TrazaUpdate), [this] { Yo().AlCambiar(); });
     dataChanged = isNew = false;
   }
 
@@ -151,9 +161,15 @@ class Registro : public Base {
   /// it stands.
   template <class... Valores>
   void Toma(bool cambiado, bool nuevo, const Valores&... valores) {
-    std::apply([&](auto&... columna) { (GuardaColumna(columna, valores), ...); }, Yo().Columnas());
+    GuardaColumnas(Yo().Columnas(), valores...);
     dataChanged = cambiado;
     isNew = nuevo;
+  }
+
+  /// The same with `valores` in the order of Campos, and both flags behind them.
+  template <class... Valores>
+  void TomaCampos(const Valores&... valores) {
+    GuardaColumnas(std::tuple_cat(Yo().Campos(), std::tie(dataChanged, isNew)), valores...);
   }
 
   /// A rule of Check: throws `mensaje` for an empty text.
@@ -161,8 +177,9 @@ class Registro : public Base {
     if (columna[0] == '\0') Lanza(mensaje);
   }
 
-  /// Sees the server's answer to the insert.
+  /// Follow the insert and the update inside their transaction, with the server's answer in `res`.
   void AlInsertar() {}
+  void AlCambiar() {}
 
   /// Takes the key that the server assigned from its answer to the insert, if there is one.
   template <class Clave>

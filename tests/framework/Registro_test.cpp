@@ -64,6 +64,38 @@ class cPieza : public Registro<cPieza> {
   date Dia;
 };
 
+/// A record that is saved with two statements, and that lists its columns in the order of its members too.
+class cDoble : public Registro<cDoble> {
+ public:
+  template <class... Valores>
+  explicit cDoble(const char* clave, Valores... valores) {
+    TomaCampos(clave, valores...);
+  }
+
+  bool Check() { return true; }
+  std::string Estado() const {
+    return std::string(DobleID) + "|" + Letra + "|" + std::to_string(Valor) +
+           (dataChanged ? " cambiada" : "") + (isNew ? " nueva" : "");
+  }
+
+ private:
+  friend Registro<cDoble>;
+  static constexpr unsigned trazas = TrazaAddNew;
+
+  auto Columnas() { return std::tie(DobleID, Valor, Letra); }
+  auto Campos() { return std::tie(DobleID, Letra, Valor); }
+  const char* Clave() const { return DobleID; }
+  void AlInsertar() { EjecutaEscritura("select 'segunda del alta'", false); }
+  void AlCambiar() { EjecutaEscritura("select 'segunda del cambio'", true); }
+
+  Sql SqlAddNew() const { return Sql("select 'alta'"); }
+  Sql SqlUpdate() const { return Sql("select 'cambio'"); }
+
+  char DobleID[4];
+  char Letra[2];
+  float Valor;
+};
+
 std::string Estado(const cPieza& p) {
   return std::to_string(p.getPiezaID()) + "|" + std::to_string(p.getLargo()) + "|" + p.getNombre() + "|" +
          p.getRellena() + "|" + p.getLimitada() + "|" + std::to_string(p.getFlotante()) + "|" +
@@ -315,6 +347,54 @@ TEST_F(RegistroTest, UnRechazoDejaLaTransaccionAbiertaYElResultadoParaMostrarlo)
     engine.RollBackTransaction();
   }
   EXPECT_EQ(base_.Valor("select count(*) || nombre from pieza group by nombre"), "1uno");
+}
+
+// A write of two statements.
+
+class EscrituraDobleTest : public ConBaseVacia {};
+
+TEST(Registro, ElConstructorPuedeSeguirElOrdenDeLosMiembros) {
+  EXPECT_EQ(cDoble("C", "L", 1.5f, true, false).Estado(), "C|L|1.500000 cambiada");
+  EXPECT_EQ(cDoble("C", "L", 1.5f, false, true).Estado(), "C|L|1.500000 nueva");
+}
+
+TEST_F(EscrituraDobleTest, LaSegundaSentenciaVaEnLaMismaTransaccionConSuPropiaTraza) {
+  const struct {
+    void (cDoble::*operacion)();
+    Textos sentencias;
+    Textos trazas;
+  } tabla[] = {
+      {&cDoble::AddNew,
+       {"BEGIN;", "select 'alta'", "select 'segunda del alta'", "COMMIT;"},
+       {"select 'alta'"}},
+      {&cDoble::Update,
+       {"BEGIN;", "select 'cambio'", "select 'segunda del cambio'", "COMMIT;"},
+       {"select 'segunda del cambio'"}},
+  };
+  for (const auto& fila : tabla) {
+    cDoble doble("C", "L", 1.5f, true, true);
+    Espia espia;
+    Salida salida;
+    EXPECT_EQ(Lanzado([&] { (doble.*fila.operacion)(); }), std::nullopt);
+    EXPECT_EQ(espia.Sentencias(), fila.sentencias);
+    EXPECT_EQ(salida.Lineas(), fila.trazas);
+    EXPECT_EQ(doble.Estado(), "C|L|1.500000");
+    EXPECT_EQ(res, nullptr);
+  }
+}
+
+TEST_F(EscrituraDobleTest, UnRechazoDeLaSegundaSeLanzaConLaTransaccionAbierta) {
+  Salida salida;
+  for (const auto operacion : {&cDoble::AddNew, &cDoble::Update}) {
+    cDoble doble("C", "L", 1.5f, true, true);
+    Espia espia;
+    espia.En(2, falla::Error("No"));
+    EXPECT_EQ(Lanzado([&] { (doble.*operacion)(); }), "ERROR:  No\n");
+    EXPECT_EQ(espia.Sentencias().size(), 3u);
+    EXPECT_EQ(doble.Estado(), "C|L|1.500000 cambiada nueva");
+    EXPECT_EQ(Profundidad(), 1);
+    engine.RollBackTransaction();
+  }
 }
 
 }  // namespace
