@@ -9,7 +9,9 @@
 
 #include <map>
 
+#include "catalogs/finance/cCalculo.h"
 #include "catalogs/finance/cCatalogo_Ctas.h"
+#include "catalogs/finance/cTipoMovimiento.h"
 #include "catalogs/people/cSocioCaja.h"
 #include "catalogs/simple/cAsesor.h"
 #include "catalogs/simple/cClasificacionCredito.h"
@@ -44,6 +46,7 @@ class Catalogo {
   // select that fails gives no rows and no message.
   void LoadCuentas();
   void LoadMonedas();
+  void LoadTipoMovimiento();
   void LoadTipoGarantia();
   void LoadEstadosCredito();
   void LoadFinalidades();
@@ -51,6 +54,7 @@ class Catalogo {
   void LoadTiposUsuarios();
   void LoadTiposSocios();
   void LoadModulos();
+  void LoadCalculos();
   void LoadAsesor();
   void LoadMotivosBaja();
   void LoadClasificacionCreditos();
@@ -68,6 +72,7 @@ class Catalogo {
   // none. They never ask the server.
   cCatalogo_Ctas Cuenta(const char* cuenta) const;
   cEstados_Credito EstadoCredito(const char* clave) const;
+  cTipoMovimiento TipoMovi(const char* id) const;
   /// Does the account take postings? One that is not in the chart, the empty text too, does: so a rule can
   /// test an optional account without testing first that it is filled.
   bool EsAfectable(const char* cuenta) const;
@@ -86,6 +91,7 @@ class Catalogo {
 
   static std::map<int, cCatalogo_Ctas> Catalogo_Ctas;
   static std::map<int, cMonedas> Monedas;
+  static std::map<int, cTipoMovimiento> TipoMovimiento;
   static std::map<int, cTipo_Garantia> Tipo_Garantia;
   static std::map<int, cEstados_Credito> Estados_Credito;
   static std::map<int, cFinalidades> Finalidades;
@@ -94,6 +100,7 @@ class Catalogo {
   static std::map<int, cTipoSocio> TiposSocios;
   static std::map<int, cModulo> Modulos;
   static std::map<int, cSocioCaja> SociosCaja;
+  static std::map<int, cCalculo> Calculos;
   static std::map<int, cAsesor> Asesores;
   static std::map<int, cTipoAsentamiento> TipoAsentamientos;
   static std::map<int, cConceptoScoring> ConceptosScoring;

@@ -9,6 +9,7 @@
 
 std::map<int, cCatalogo_Ctas> Catalogo::Catalogo_Ctas;
 std::map<int, cMonedas> Catalogo::Monedas;
+std::map<int, cTipoMovimiento> Catalogo::TipoMovimiento;
 std::map<int, cTipo_Garantia> Catalogo::Tipo_Garantia;
 std::map<int, cEstados_Credito> Catalogo::Estados_Credito;
 std::map<int, cFinalidades> Catalogo::Finalidades;
@@ -17,6 +18,7 @@ std::map<int, cTipoUsuario> Catalogo::TiposUsuarios;
 std::map<int, cTipoSocio> Catalogo::TiposSocios;
 std::map<int, cModulo> Catalogo::Modulos;
 std::map<int, cSocioCaja> Catalogo::SociosCaja;
+std::map<int, cCalculo> Catalogo::Calculos;
 std::map<int, cAsesor> Catalogo::Asesores;
 std::map<int, cTipoAsentamiento> Catalogo::TipoAsentamientos;
 std::map<int, cConceptoScoring> Catalogo::ConceptosScoring;
@@ -36,7 +38,7 @@ const Paso pasos[] = {
     {"2      \n", nullptr},
     {"3      \n", nullptr},
     {"4      \n", nullptr},
-    {"5      \n", nullptr},
+    {"5      \n", &Catalogo::LoadTipoMovimiento},
     {"6      \n", nullptr},
     {"7      \n", &Catalogo::LoadTipoGarantia},
     {"8      \n", &Catalogo::LoadEstadosCredito},
@@ -50,7 +52,7 @@ const Paso pasos[] = {
     {"15     \n", &Catalogo::LoadTiposSocios},
     {"16     \n", &Catalogo::LoadModulos},
     {"17     \n", nullptr},
-    {"18     \n", nullptr},
+    {"18     \n", &Catalogo::LoadCalculos},
     {"19     \n", nullptr},
     {"21     ", &Catalogo::LoadAsesor},
     {"22     ", nullptr},
@@ -94,6 +96,11 @@ void Catalogo::LoadMonedas() {
   CargaEnTransaccion(Monedas, "SELECT * FROM spsmoneda('  ');", "Error al cargar catalogo de monedas.");
 }
 
+void Catalogo::LoadTipoMovimiento() {
+  CargaEnTransaccion(TipoMovimiento, Trazada("SELECT * FROM spstipomovimiento('  ');"),
+                     "Error al cargar catalogo de tipos de movimientos.");
+}
+
 void Catalogo::LoadTipoGarantia() {
   CargaEnTransaccion(Tipo_Garantia, "SELECT * FROM spstipo_garantia('  ');",
                      "Error al cargar catalogo de tipos de garantias.");
@@ -126,6 +133,10 @@ void Catalogo::LoadTiposSocios() {
 
 void Catalogo::LoadModulos() {
   CargaEnTransaccion(Modulos, "SELECT * FROM spsmodulo('  ');", "Error al cargar catalogo de modulos.");
+}
+
+void Catalogo::LoadCalculos() {
+  CargaEnTransaccion(Calculos, "SELECT * FROM spscalculo(0);", "Error al cargar catalogo de calculos.");
 }
 
 void Catalogo::LoadAsesor() {

@@ -33,6 +33,10 @@ cEstados_Credito Catalogo::EstadoCredito(const char* clave) const {
   return Copia(Estados_Credito, &cEstados_Credito::getClaveEstadoCredito, clave);
 }
 
+cTipoMovimiento Catalogo::TipoMovi(const char* id) const {
+  return Copia(TipoMovimiento, &cTipoMovimiento::getTipoMovimientoID, id);
+}
+
 bool Catalogo::EsAfectable(const char* cuenta) const {
   const cCatalogo_Ctas* registro = Encuentra(Catalogo_Ctas, &cCatalogo_Ctas::getCuentaID, cuenta);
   return registro == nullptr || strcmp(registro->getTipo_Cta(), "A") == 0;

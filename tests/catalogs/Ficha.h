@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -18,14 +19,21 @@ struct Columna {
   std::function<std::string(const R&)> da;
 };
 
+template <class Numero>
+Numero ComoNumero(const std::string& texto) {
+  if constexpr (std::is_integral_v<Numero>) return static_cast<Numero>(std::stol(texto));
+  return static_cast<Numero>(std::stod(texto));
+}
+
 template <class R>
 Columna<R> De(void (R::*pon)(const char*), const char* (R::*da)() const) {
   return {[=](R& r, const std::string& valor) { (r.*pon)(valor.c_str()); },
           [=](const R& r) { return (r.*da)(); }};
 }
-template <class R, class Entero>
-Columna<R> De(void (R::*pon)(Entero), Entero (R::*da)() const) {
-  return {[=](R& r, const std::string& valor) { (r.*pon)(static_cast<Entero>(std::stol(valor))); },
+/// A number with decimals has six of them, as in a statement.
+template <class R, class Numero>
+Columna<R> De(void (R::*pon)(Numero), Numero (R::*da)() const) {
+  return {[=](R& r, const std::string& valor) { (r.*pon)(ComoNumero<Numero>(valor)); },
           [=](const R& r) { return std::to_string((r.*da)()); }};
 }
 

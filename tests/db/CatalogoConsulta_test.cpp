@@ -20,14 +20,24 @@ class ConsultaTest : public testing::Test {
                                {3, De("1102", "C", "Bancos otra vez")}};
     Catalogo::Estados_Credito = {{0, cEstados_Credito("VEN", "Vencido", false, false)},
                                  {1, cEstados_Credito("A  ", "Alta", false, false)}};
+    Catalogo::TipoMovimiento = {{0, Movimiento("AH", "Ahorro")},
+                                {1, Movimiento("M ", "Menores")},
+                                {2, Movimiento("AH", "Ahorro otra vez")}};
   }
   ~ConsultaTest() override {
     Catalogo::Catalogo_Ctas.clear();
     Catalogo::Estados_Credito.clear();
+    Catalogo::TipoMovimiento.clear();
   }
 
   static cCatalogo_Ctas De(const char* numero, const char* tipo, const char* nombre) {
     return cCatalogo_Ctas(numero, "", "1", nombre, tipo, "", date(), date(), "D", 0, 0, 0, 0, false, false);
+  }
+  static cTipoMovimiento Movimiento(const char* clave, const char* descripcion) {
+    cTipoMovimiento movimiento;
+    movimiento.setTipoMovimientoID(clave);
+    movimiento.setDescTipoMovimiento(descripcion);
+    return movimiento;
   }
 };
 
@@ -51,11 +61,15 @@ TEST_F(ConsultaTest, UnaConsultaDaLaPrimeraFilaDeEsaClaveOUnRegistroVacio) {
       {"1000", "Activo"}, {"1101    ", "Caja"}, {"1102", "Bancos"}, {"1101", ""}, {"1000 ", ""}, {"", ""}};
   const std::pair<const char*, const char*> estados[] = {
       {"VEN", "Vencido"}, {"A  ", "Alta"}, {"A", ""}, {"VEN ", ""}, {"", ""}};
+  const std::pair<const char*, const char*> movimientos[] = {
+      {"AH", "Ahorro"}, {"M ", "Menores"}, {"M", ""}, {"AH ", ""}, {"", ""}};
   Espia espia;
   for (const auto& [clave, nombre] : cuentas)
     EXPECT_STREQ(catalogo.Cuenta(clave).getCuentaNombre(), nombre) << clave;
   for (const auto& [clave, descripcion] : estados)
     EXPECT_STREQ(catalogo.EstadoCredito(clave).getDescripcionEdoCredito(), descripcion) << clave;
+  for (const auto& [clave, descripcion] : movimientos)
+    EXPECT_STREQ(catalogo.TipoMovi(clave).getDescTipoMovimiento(), descripcion) << clave;
   EXPECT_TRUE(espia.Sentencias().empty());
 }
 

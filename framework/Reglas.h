@@ -1,0 +1,47 @@
+// The rules of a record's Check as a table, one row each: what breaks the rule, and what is thrown then.
+//
+//   const Regla<cX> reglas[] = {
+//       {Vacio<&cX::getDescri>, "No ha capturado la descripción"},
+//       {NoAfectable<&cX::getCuenta>, "La cuenta debe ser afectable"},
+//   };
+//
+// The order of the rows is the order of the tests. A rule on two columns is a lambda. Only the source of a
+// record includes this: the accounts are looked up in the cache, which holds the records.
+#pragma once
+
+#include "db/Catalogo.h"
+
+template <class Clase>
+struct Regla {
+  bool (*rota)(const Clase&);
+  const char* mensaje;
+};
+
+/// Throws the message of the first rule that `registro` breaks.
+template <class Clase, size_t N>
+void ExigeReglas(const Clase& registro, const Regla<Clase> (&reglas)[N]) {
+  for (const Regla<Clase>& regla : reglas)
+    if (regla.rota(registro)) Lanza(regla.mensaje);
+}
+
+/// An empty text; one of blanks is not empty.
+template <auto get, class Clase>
+bool Vacio(const Clase& registro) {
+  return (registro.*get)()[0] == '\0';
+}
+
+/// An account of the chart that takes no postings; an empty or unknown one passes.
+template <auto get, class Clase>
+bool NoAfectable(const Clase& registro) {
+  return !catalogo.EsAfectable((registro.*get)());
+}
+
+template <auto get, class Clase>
+bool Negativo(const Clase& registro) {
+  return (registro.*get)() < 0;
+}
+
+template <auto get, class Clase>
+bool NoPositivo(const Clase& registro) {
+  return !((registro.*get)() > 0);
+}
