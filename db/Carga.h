@@ -28,10 +28,9 @@ void Vacia(lista<T>& filas) {
   filas.RemoverTodos();
 }
 
-/// Reads the rows of `sql` into an empty map.
+/// Takes the rows of the shared result into an empty map.
 template <class T>
-void LeeFilas(std::map<int, T>& mapa, const char* sql) {
-  Ejecuta(sql);
+void TomaFilas(std::map<int, T>& mapa) {
   T registro;
   for (int fila = 0; fila < PQntuples(res); ++fila) {
     registro.Fill(fila);
@@ -39,10 +38,9 @@ void LeeFilas(std::map<int, T>& mapa, const char* sql) {
   }
 }
 
-/// Reads the rows of `sql` into an empty list, sorted by its record's key.
+/// Takes the rows of the shared result into an empty list, sorted by its record's key.
 template <class T>
-void LeeFilas(lista<T>& filas, const char* sql) {
-  Ejecuta(sql);
+void TomaFilas(lista<T>& filas) {
   T registro;
   for (int fila = 0; fila < PQntuples(res); ++fila) {
     registro.Fill(fila);
@@ -54,7 +52,8 @@ void LeeFilas(lista<T>& filas, const char* sql) {
 template <class Contenedor>
 void Carga(Contenedor& contenedor, const char* sql) {
   Vacia(contenedor);
-  LeeFilas(contenedor, sql);
+  Ejecuta(sql);
+  TomaFilas(contenedor);
   LiberaResultado();
 }
 
@@ -63,7 +62,8 @@ template <class Contenedor>
 void CargaEnTransaccion(Contenedor& contenedor, const char* sql, const char* mensaje) {
   Vacia(contenedor);
   AbreTransaccion(mensaje);
-  LeeFilas(contenedor, sql);
+  Ejecuta(sql);
+  TomaFilas(contenedor);
   Ejecuta("COMMIT;");
   LiberaResultado();
 }

@@ -15,11 +15,15 @@ void EjecutaAparte(const char* sql) { PQclear(PQexec(conn, sql)); }
 
 }  // namespace
 
-void Ejecuta(const char* sql) {
-  PGresult* respuesta = PQexec(conn, sql);
+void Ejecuta(const char* sql) { EjecutaEn(conn, sql); }
+
+void EjecutaEn(PGconn* conexion, const char* sql) {
+  PGresult* respuesta = PQexec(conexion, sql);
   PQclear(res);
   res = respuesta;
 }
+
+PGconn* ConexionDeLectura() { return bLocal ? conn : connR; }
 
 void LiberaResultado() {
   PQclear(res);
@@ -72,14 +76,20 @@ void Engine::Inicializa() {
   miNestedTransaction = 1;
 }
 
-bool Engine::LeeFila(const char* sql, bool traza) {
+bool Engine::LeeFila(const char* sql, bool traza) { return LeeFila(sql, traza, conn); }
+
+bool Engine::LeeFila(const char* sql, bool traza, PGconn* conexion) {
   if (traza) std::cout << sql << std::endl;
-  Ejecuta(sql);
+  EjecutaEn(conexion, sql);
   return PQntuples(res) > 0;
 }
 
-void Engine::EjecutaEscritura(const char* sql, bool traza) {
+void Engine::EjecutaTrazando(const char* sql, bool traza) {
   if (traza) std::cout << sql << std::endl;
   Ejecuta(sql);
+}
+
+void Engine::EjecutaEscritura(const char* sql, bool traza) {
+  EjecutaTrazando(sql, traza);
   LanzaSiRechazada();
 }

@@ -5,8 +5,15 @@
 // which points into `res` and is valid until the next statement or clear, or a literal of the program.
 #pragma once
 
+#include <libpq-fe.h>
+
 /// Executes `sql` on the session's connection; its answer is in `res` (null when the connection is closed).
 void Ejecuta(const char* sql);
+/// The same on another connection.
+void EjecutaEn(PGconn* conexion, const char* sql);
+
+/// The connection of the reads that could use the second one: the session's while `bLocal` is true.
+PGconn* ConexionDeLectura();
 
 /// Clears the shared result and leaves it null.
 void LiberaResultado();
@@ -69,12 +76,32 @@ class Engine {
   /// One more statement of a write: trace, execute, throw on a refusal.
   void EjecutaEscritura(const char* sql, bool traza);
 
+  /// The write whose refusal passes in silence: begin, trace, execute, `alResponder` with the answer in
+  /// `res`, clear, commit. A refused statement leaves nothing to commit.
+  template <class AlResponder>
+  void EscribeCallada(const char* sql, bool traza, AlResponder alResponder) {
+    BeginTransaction();
+    EjecutaTrazando(sql, traza);
+    alResponder();
+    LiberaResultado();
+    CommitTransaction();
+  }
+
+  /// The same without a look at the answer.
+  void EscribeCallada(const char* sql, bool traza) {
+    EscribeCallada(sql, traza, [] {});
+  }
+
   /// The single-row read: trace and execute. True if a row came, which the caller fills from and then clears;
   /// without a row the result stays uncleared. The status is not looked at.
   bool LeeFila(const char* sql, bool traza);
+  bool LeeFila(const char* sql, bool traza, PGconn* conexion);
 
   static int miTransactionCount;
   static int miNestedTransaction;
+
+ private:
+  void EjecutaTrazando(const char* sql, bool traza);
 };
 
 /// Engine as the virtual base of the records that others are built on.

@@ -141,13 +141,7 @@ class Registro : public Base {
   /// Reads the row with the present key, if there is one. Found: columns filled, both flags false. Not found,
   /// or a failed query: isNew true and the rest as it was. Never throws.
   void Find() {
-    if (!Yo().HayClaveFind()) return;
-    if (this->LeeFila(Yo().SqlFind(), this->SeTraza(TrazaFind))) {
-      Yo().Fill(0);
-      LiberaResultado();
-    } else {
-      isNew = true;
-    }
+    if (Yo().HayClaveFind()) Busca(Yo().SqlFind(), this->SeTraza(TrazaFind));
   }
 
  protected:
@@ -156,6 +150,17 @@ class Registro : public Base {
   /// Is there a key to look for, and one to delete? An integer one is above 0, and not 0.
   bool HayClaveFind() const { return Buscable(Yo().Clave()); }
   bool HayClaveDelete() const { return Borrable(Yo().Clave()); }
+
+  /// What Find does with `sql`, whatever the key. Answers whether there was a row.
+  bool Busca(const char* sql, bool traza, PGconn* conexion = conn) {
+    if (!this->LeeFila(sql, traza, conexion)) {
+      isNew = true;
+      return false;
+    }
+    Yo().Fill(0);
+    LiberaResultado();
+    return true;
+  }
 
   /// What the constructor with every column and both flags does: `valores` in the order of Columnas, each as
   /// it stands.

@@ -14,6 +14,8 @@ class Sentencia {
 
   /// The statement; valid while this object lives.
   operator const char*() const { return texto.c_str(); }
+  /// The same, as an argument of another statement.
+  const char* Texto() const { return texto.c_str(); }
 
  private:
   std::string texto;

@@ -5,7 +5,9 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 
+#include "app/sesion.h"
 #include "db/Engine.h"
 #include "tests/support/Servidor.h"
 #include "tests/support/Sesion.h"
@@ -36,6 +38,22 @@ class ConSucursal : public testing::Test {
  protected:
   BaseDatos base_;
   Sesion sesion_{base_};
+};
+
+/// While it lives the session's connection is the second one, and the first is closed: only what reads on the
+/// reading connection finds anything.
+class SegundaConexion {
+ public:
+  SegundaConexion() { Cambia(); }
+  ~SegundaConexion() { Cambia(); }
+  SegundaConexion(const SegundaConexion&) = delete;
+  SegundaConexion& operator=(const SegundaConexion&) = delete;
+
+ private:
+  static void Cambia() {
+    std::swap(conn, connR);
+    bLocal = !bLocal;
+  }
 };
 
 /// Takes away what the demonstration hangs on the currencies of norte, so that any of them can be deleted.
