@@ -13,6 +13,7 @@
 #include "catalogs/finance/cCatalogo_Ctas.h"
 #include "catalogs/finance/cTipoMovimiento.h"
 #include "catalogs/people/cSocioCaja.h"
+#include "catalogs/people/cSujeto.h"
 #include "catalogs/simple/cAsesor.h"
 #include "catalogs/simple/cClasificacionCredito.h"
 #include "catalogs/simple/cConceptoScoring.h"
@@ -67,6 +68,8 @@ class Catalogo {
   void LoadSociosCaja();
   /// The members that the server finds for `filtro`, in place of all others.
   void LoadSociosCajaF(const char* filtro);
+  /// The persons that the server finds for `filtro`, in place of all others; traced.
+  void LoadSujetos(const char* filtro);
 
   // The look-ups: the first row with exactly that key, blanks included, and a blank record when there is
   // none. They never ask the server.
@@ -101,6 +104,7 @@ class Catalogo {
   static std::map<int, cModulo> Modulos;
   static std::map<int, cSocioCaja> SociosCaja;
   static std::map<int, cCalculo> Calculos;
+  static std::map<int, cSujeto> Sujetos;
   static std::map<int, cAsesor> Asesores;
   static std::map<int, cTipoAsentamiento> TipoAsentamientos;
   static std::map<int, cConceptoScoring> ConceptosScoring;

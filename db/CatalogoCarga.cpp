@@ -19,6 +19,7 @@ std::map<int, cTipoSocio> Catalogo::TiposSocios;
 std::map<int, cModulo> Catalogo::Modulos;
 std::map<int, cSocioCaja> Catalogo::SociosCaja;
 std::map<int, cCalculo> Catalogo::Calculos;
+std::map<int, cSujeto> Catalogo::Sujetos;
 std::map<int, cAsesor> Catalogo::Asesores;
 std::map<int, cTipoAsentamiento> Catalogo::TipoAsentamientos;
 std::map<int, cConceptoScoring> Catalogo::ConceptosScoring;
@@ -179,6 +180,10 @@ void Catalogo::LoadSociosCaja() {
 void Catalogo::LoadSociosCajaF(const char* filtro) {
   CargaEnTransaccion(SociosCaja, Trazada(Sentencia("SELECT * FROM spssociocajaf('%s');", filtro)),
                      "Error al cargar socios de la caja.");
+}
+
+void Catalogo::LoadSujetos(const char* filtro) {
+  Carga(Sujetos, Trazada(Sentencia("SELECT * FROM spssujetos('%s');", filtro)));
 }
 
 char* Catalogo::TimeStampToStr(long t) {
