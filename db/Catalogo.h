@@ -11,7 +11,9 @@
 
 #include "catalogs/finance/cCalculo.h"
 #include "catalogs/finance/cCatalogo_Ctas.h"
+#include "catalogs/finance/cTipoInversion.h"
 #include "catalogs/finance/cTipoMovimiento.h"
+#include "catalogs/finance/cTipoPrestamo.h"
 #include "catalogs/people/cSocioCaja.h"
 #include "catalogs/people/cSujeto.h"
 #include "catalogs/simple/cAsesor.h"
@@ -47,11 +49,13 @@ class Catalogo {
   // select that fails gives no rows and no message.
   void LoadCuentas();
   void LoadMonedas();
+  void LoadTipoPrestamo();
   void LoadTipoMovimiento();
   void LoadTipoGarantia();
   void LoadEstadosCredito();
   void LoadFinalidades();
   void LoadTipoMoviBancos();
+  void LoadTipoInversiones();
   void LoadTiposUsuarios();
   void LoadTiposSocios();
   void LoadModulos();
@@ -75,6 +79,7 @@ class Catalogo {
   // none. They never ask the server.
   cCatalogo_Ctas Cuenta(const char* cuenta) const;
   cEstados_Credito EstadoCredito(const char* clave) const;
+  cTipoInversion TipoInversion(const char* id) const;
   cTipoMovimiento TipoMovi(const char* id) const;
   /// Does the account take postings? One that is not in the chart, the empty text too, does: so a rule can
   /// test an optional account without testing first that it is filled.
@@ -94,11 +99,13 @@ class Catalogo {
 
   static std::map<int, cCatalogo_Ctas> Catalogo_Ctas;
   static std::map<int, cMonedas> Monedas;
+  static std::map<int, cTipoPrestamo> TipoPrestamo;
   static std::map<int, cTipoMovimiento> TipoMovimiento;
   static std::map<int, cTipo_Garantia> Tipo_Garantia;
   static std::map<int, cEstados_Credito> Estados_Credito;
   static std::map<int, cFinalidades> Finalidades;
   static std::map<int, cTipoMoviBanco> TipoMoviBancos;
+  static std::map<int, cTipoInversion> TipoInversiones;
   static std::map<int, cTipoUsuario> TiposUsuarios;
   static std::map<int, cTipoSocio> TiposSocios;
   static std::map<int, cModulo> Modulos;

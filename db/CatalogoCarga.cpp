@@ -9,11 +9,13 @@
 
 std::map<int, cCatalogo_Ctas> Catalogo::Catalogo_Ctas;
 std::map<int, cMonedas> Catalogo::Monedas;
+std::map<int, cTipoPrestamo> Catalogo::TipoPrestamo;
 std::map<int, cTipoMovimiento> Catalogo::TipoMovimiento;
 std::map<int, cTipo_Garantia> Catalogo::Tipo_Garantia;
 std::map<int, cEstados_Credito> Catalogo::Estados_Credito;
 std::map<int, cFinalidades> Catalogo::Finalidades;
 std::map<int, cTipoMoviBanco> Catalogo::TipoMoviBancos;
+std::map<int, cTipoInversion> Catalogo::TipoInversiones;
 std::map<int, cTipoUsuario> Catalogo::TiposUsuarios;
 std::map<int, cTipoSocio> Catalogo::TiposSocios;
 std::map<int, cModulo> Catalogo::Modulos;
@@ -38,14 +40,14 @@ const Paso pasos[] = {
     {"1      \n", &Catalogo::LoadMonedas},
     {"2      \n", nullptr},
     {"3      \n", nullptr},
-    {"4      \n", nullptr},
+    {"4      \n", &Catalogo::LoadTipoPrestamo},
     {"5      \n", &Catalogo::LoadTipoMovimiento},
     {"6      \n", nullptr},
     {"7      \n", &Catalogo::LoadTipoGarantia},
     {"8      \n", &Catalogo::LoadEstadosCredito},
     {"9      \n", &Catalogo::LoadFinalidades},
     {"10     \n", &Catalogo::LoadTipoMoviBancos},
-    {"11     \n", nullptr},
+    {"11     \n", &Catalogo::LoadTipoInversiones},
     {"12     \n", nullptr},
     {"13     \n", nullptr},
     {"Leyendo ciudades\n", nullptr},
@@ -97,6 +99,11 @@ void Catalogo::LoadMonedas() {
   CargaEnTransaccion(Monedas, "SELECT * FROM spsmoneda('  ');", "Error al cargar catalogo de monedas.");
 }
 
+void Catalogo::LoadTipoPrestamo() {
+  CargaEnTransaccion(TipoPrestamo, Trazada("SELECT * FROM spstipoprestamo('   ');"),
+                     "Error al cargar catalogo de activos.");
+}
+
 void Catalogo::LoadTipoMovimiento() {
   CargaEnTransaccion(TipoMovimiento, Trazada("SELECT * FROM spstipomovimiento('  ');"),
                      "Error al cargar catalogo de tipos de movimientos.");
@@ -120,6 +127,11 @@ void Catalogo::LoadFinalidades() {
 void Catalogo::LoadTipoMoviBancos() {
   CargaEnTransaccion(TipoMoviBancos, "SELECT * FROM spstipomovibanco('  ');",
                      "Error al cargar catalogo de tipo de movimientos bancarios.");
+}
+
+void Catalogo::LoadTipoInversiones() {
+  CargaEnTransaccion(TipoInversiones, "SELECT * FROM spstipoinversion('  ');",
+                     "Error al cargar catalogo de tipo de inversiones.");
 }
 
 void Catalogo::LoadTiposUsuarios() {

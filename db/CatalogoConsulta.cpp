@@ -33,6 +33,10 @@ cEstados_Credito Catalogo::EstadoCredito(const char* clave) const {
   return Copia(Estados_Credito, &cEstados_Credito::getClaveEstadoCredito, clave);
 }
 
+cTipoInversion Catalogo::TipoInversion(const char* id) const {
+  return Copia(TipoInversiones, &cTipoInversion::getTipoInversionID, id);
+}
+
 cTipoMovimiento Catalogo::TipoMovi(const char* id) const {
   return Copia(TipoMovimiento, &cTipoMovimiento::getTipoMovimientoID, id);
 }

@@ -37,6 +37,11 @@ bool NoAfectable(const Clase& registro) {
 }
 
 template <auto get, class Clase>
+bool Cero(const Clase& registro) {
+  return (registro.*get)() == 0;
+}
+
+template <auto get, class Clase>
 bool Negativo(const Clase& registro) {
   return (registro.*get)() < 0;
 }

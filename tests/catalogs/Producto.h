@@ -97,5 +97,7 @@ Textos Nombres(const std::vector<CampoDe<R>>& campos, size_t desde, size_t hasta
 
 /// The tables.
 Producto TipoDeMovimiento();
+Producto TipoDeInversion();
+Producto TipoDePrestamo();
 
 }  // namespace pruebas

@@ -271,10 +271,10 @@ class ProductoServidorTest : public ProductoTest {
   ProductoServidorTest() { catalogo.LoadCuentas(); }
 
   /// The record's row as the server holds it; nothing if it is not there.
-  Tabla EnServidor() {
+  Tabla EnServidor() { return base_.Filas("select * from norte." + DeSuClave()); }
+  std::string DeSuClave() const {
     const Campo& clave = producto_.campos[0];
-    return base_.Filas(std::string("select * from norte.") + producto_.tabla + " where " + clave.nombre +
-                       " = '" + clave.valor + "'");
+    return std::string(producto_.tabla) + " where " + clave.nombre + " = '" + clave.valor + "'";
   }
   /// Does that row hold what the record holds, column by column?
   void ExigeGuardada(const Ficha& ficha) {
@@ -302,9 +302,8 @@ class ProductoServidorTest : public ProductoTest {
   }
   /// A record about to be saved, its row on the server as it is then: none, or that of the valid record.
   std::unique_ptr<Ficha> PorGuardar(Operacion operacion) {
-    sesion_.emplace(base_);
-    base_.Ejecuta(std::string("delete from norte.") + producto_.tabla + " where " +
-                  producto_.campos[0].nombre + " = '" + producto_.campos[0].valor + "'");
+    if (PQstatus(conn) != CONNECTION_OK) sesion_.emplace(base_);
+    base_.Ejecuta("set role tolvara_propietario; delete from norte." + DeSuClave() + "; reset role");
     if (operacion == Alta) return Valida();
     DaDeAlta();
     return Llena(&Campo::otro);
@@ -457,7 +456,10 @@ TEST_P(ProductoServidorTest, LosLimitesLosPoneElServidor) {
 TEST_P(ProductoServidorTest, CuentasDe24LetrasYUnaDescripcionAcentuadaCabenEnLaSentencia) {
   std::string nombre;
   for (int i = 0; i < 30; ++i) nombre += "ñ";
-  const size_t descri = 1;  // always the second column
+  const auto& campos = producto_.campos;
+  const auto descripcion = std::find_if(campos.begin(), campos.end(), [](const Campo& c) {
+    return std::string(c.nombre).rfind("Desc", 0) == 0;
+  });
   const auto llena = [&](Ficha& ficha, const char* cabeza) {
     int cuantas = 0;
     for (size_t i = 0; i < producto_.campos.size(); ++i) {
@@ -469,7 +471,7 @@ TEST_P(ProductoServidorTest, CuentasDe24LetrasYUnaDescripcionAcentuadaCabenEnLaS
           numero + "', '1', '" + nombre + "', 'A', 'D')");
       ficha.Pon(i, numero);
     }
-    ficha.Pon(descri, nombre);
+    ficha.Pon(static_cast<size_t>(descripcion - campos.begin()), nombre);
   };
   for (const Operacion operacion : {Alta, Cambio}) {
     const auto ficha = PorGuardar(operacion);
@@ -484,7 +486,7 @@ TEST_P(ProductoServidorTest, CuentasDe24LetrasYUnaDescripcionAcentuadaCabenEnLaS
 }
 
 const auto Nombre = [](const testing::TestParamInfo<Producto (*)()>& caso) { return caso.param().nombre; };
-const auto Productos = testing::Values(&TipoDeMovimiento);
+const auto Productos = testing::Values(&TipoDeMovimiento, &TipoDeInversion, &TipoDePrestamo);
 INSTANTIATE_TEST_SUITE_P(Productos, ProductoTest, Productos, Nombre);
 INSTANTIATE_TEST_SUITE_P(Productos, ProductoServidorTest, Productos, Nombre);
 

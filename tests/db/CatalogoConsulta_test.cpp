@@ -23,11 +23,15 @@ class ConsultaTest : public testing::Test {
     Catalogo::TipoMovimiento = {{0, Movimiento("AH", "Ahorro")},
                                 {1, Movimiento("M ", "Menores")},
                                 {2, Movimiento("AH", "Ahorro otra vez")}};
+    Catalogo::TipoInversiones = {{0, Inversion("028", "A 28 días")},
+                                 {1, Inversion("C", "Creciente")},
+                                 {2, Inversion("028", "A 28 días otra vez")}};
   }
   ~ConsultaTest() override {
     Catalogo::Catalogo_Ctas.clear();
     Catalogo::Estados_Credito.clear();
     Catalogo::TipoMovimiento.clear();
+    Catalogo::TipoInversiones.clear();
   }
 
   static cCatalogo_Ctas De(const char* numero, const char* tipo, const char* nombre) {
@@ -38,6 +42,12 @@ class ConsultaTest : public testing::Test {
     movimiento.setTipoMovimientoID(clave);
     movimiento.setDescTipoMovimiento(descripcion);
     return movimiento;
+  }
+  static cTipoInversion Inversion(const char* clave, const char* descripcion) {
+    cTipoInversion inversion;
+    inversion.setTipoInversionID(clave);
+    inversion.setDescTipoInversion(descripcion);
+    return inversion;
   }
 };
 
@@ -63,6 +73,8 @@ TEST_F(ConsultaTest, UnaConsultaDaLaPrimeraFilaDeEsaClaveOUnRegistroVacio) {
       {"VEN", "Vencido"}, {"A  ", "Alta"}, {"A", ""}, {"VEN ", ""}, {"", ""}};
   const std::pair<const char*, const char*> movimientos[] = {
       {"AH", "Ahorro"}, {"M ", "Menores"}, {"M", ""}, {"AH ", ""}, {"", ""}};
+  const std::pair<const char*, const char*> inversiones[] = {
+      {"028", "A 28 días"}, {"C  ", "Creciente"}, {"C", ""}, {"28", ""}, {"", ""}};
   Espia espia;
   for (const auto& [clave, nombre] : cuentas)
     EXPECT_STREQ(catalogo.Cuenta(clave).getCuentaNombre(), nombre) << clave;
@@ -70,6 +82,8 @@ TEST_F(ConsultaTest, UnaConsultaDaLaPrimeraFilaDeEsaClaveOUnRegistroVacio) {
     EXPECT_STREQ(catalogo.EstadoCredito(clave).getDescripcionEdoCredito(), descripcion) << clave;
   for (const auto& [clave, descripcion] : movimientos)
     EXPECT_STREQ(catalogo.TipoMovi(clave).getDescTipoMovimiento(), descripcion) << clave;
+  for (const auto& [clave, descripcion] : inversiones)
+    EXPECT_STREQ(catalogo.TipoInversion(clave).getDescTipoInversion(), descripcion) << clave;
   EXPECT_TRUE(espia.Sentencias().empty());
 }
 
