@@ -175,18 +175,18 @@ void Forma<Ventana, Base, busqueda>::ArmaLista(const char* titulo) {
                                     0, 0, 0, 0, 0, 0);
   lstFilas = new FXList(marco, this, ID_LISTA,
                         LIST_BROWSESELECT | HSCROLLER_NEVER | LAYOUT_FIX_WIDTH | LAYOUT_FILL_Y, 0, 0, 150);
-  grupos = new FXVerticalFrame(cuerpo, LAYOUT_FILL_X | LAYOUT_FILL_Y);
+  grupos = new FXVerticalFrame(cuerpo, LAYOUT_FILL_X | LAYOUT_FILL_Y, 0, 0, 0, 0, 0, 0, 0, 0);
 }
 
 template <class Ventana, class Base, Busqueda busqueda>
 FXMatrix* Forma<Ventana, Base, busqueda>::ArmaGrupo(const char* titulo) {
   auto* grupo = new FXGroupBox(grupos, titulo, FRAME_GROOVE | LAYOUT_FILL_X | LAYOUT_FILL_Y);
-  return new FXMatrix(grupo, 2, MATRIX_BY_COLUMNS | LAYOUT_FILL_X | LAYOUT_FILL_Y);
+  return new FXMatrix(grupo, 2, MATRIX_BY_COLUMNS | LAYOUT_FILL_X | LAYOUT_FILL_Y, 0, 0, 0, 0, 4, 4, 2, 2);
 }
 
 template <class Ventana, class Base, Busqueda busqueda>
 void Forma<Ventana, Base, busqueda>::ArmaBotones() {
-  auto* columna = new FXGroupBox(cuerpo, "", LAYOUT_FILL_Y);
+  auto* columna = new FXGroupBox(cuerpo, "", LAYOUT_FILL_Y, 0, 0, 0, 0, 4, 4, 0, 0);
   Boton(columna, "&Nuevo", iconos::nuevo_icon, ID_CLEAR, BUTTON_DEFAULT);
   if constexpr (busqueda == ConBuscar) Boton(columna, "&Buscar", iconos::find_icon, ID_FIND, BUTTON_DEFAULT);
   Boton(columna, "&Borrar", iconos::borrar_icon, ID_BORRAR, BUTTON_DEFAULT);

@@ -125,6 +125,8 @@ void Guion::Responde(const std::string& rotulo) {
 
 void Guion::Con(std::function<void(FXDialogBox*)> accion) { pasos_.push_back(std::move(accion)); }
 
+void Guion::EnAdelante(std::function<void(FXDialogBox*)> accion) { paraLasDemas_ = std::move(accion); }
+
 Cuadro Guion::Ultimo() const {
   const auto ultimo = std::find_if(cuadros_.rbegin(), cuadros_.rend(),
                                    [](const Cuadro& cuadro) { return cuadro.clase != Clase::Dialogo; });
@@ -152,12 +154,15 @@ void Guion::Atiende(FXDialogBox* ventana) {
   cuadros_.push_back(Retrato(ventana));
   const std::string senas = '"' + cuadros_.back().titulo + "\": \"" + cuadros_.back().texto + '"';
   Anota("última ventana " + senas);
-  if (pasos_.empty()) {
+  if (pasos_.empty() && !paraLasDemas_) {
     ADD_FAILURE() << "ventana sin respuesta en el guion, " << senas;
     return Despide(ventana);
   }
-  const Paso paso = pasos_.front();
-  pasos_.pop_front();
+  Paso paso = paraLasDemas_;
+  if (!pasos_.empty()) {
+    paso = pasos_.front();
+    pasos_.pop_front();
+  }
   try {
     paso(ventana);
   } catch (const std::exception& error) {

@@ -9,10 +9,10 @@
 //   Pulsa(Boton(&ventana, "&Aceptar"));
 //   EXPECT_EQ(guion.Ultimo().texto, "No ha especificado la descripción");
 //
-// A window for which no step is left is a test failure, is recorded and dismissed; so no test hangs on a box.
-// A step that is left over when the Guion ends is a failure too. A dialog that is still open after its step
-// gets the next one. When nothing at all helps, the program is aborted after a time limit, with the test and
-// the last box named.
+// A window for which no step is left is a test failure, is recorded and dismissed, unless EnAdelante says
+// what becomes of it; so no test hangs on a box. A step that is left over when the Guion ends is a failure
+// too. A dialog that is still open after its step gets the next one. When nothing at all helps, the program
+// is aborted after a time limit, with the test and the last box named.
 #pragma once
 
 #include <fx.h>
@@ -58,6 +58,9 @@ class Guion {
   /// take the steps that follow.
   void Con(std::function<void(FXDialogBox* ventana)> accion);
 
+  /// Every window for which no step is left gets this, as many as there may be.
+  void EnAdelante(std::function<void(FXDialogBox* ventana)> accion);
+
   /// All windows so far, one for each step, in the order in which they waited for the user.
   const std::vector<Cuadro>& Cuadros() const { return cuadros_; }
   /// The last message box; one with empty texts when there was none.
@@ -73,6 +76,7 @@ class Guion {
   void Atiende(FXDialogBox* ventana);
 
   std::deque<Paso> pasos_;
+  Paso paraLasDemas_;
   std::vector<Cuadro> cuadros_;
   std::vector<FXDialogBox*> atendidos_;  // whose step is being carried out, one inside the other
   Reloj reloj_;

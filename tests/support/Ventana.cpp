@@ -158,7 +158,7 @@ void Pulsa(FXWindow* pieza) {
   Clic(pieza, pieza->getWidth() / 2, pieza->getHeight() / 2);
 }
 
-void Escribe(FXTextField* campo, const std::string& texto) {
+void Escribe(FXWindow* campo, const std::string& texto) {
   Tecla(campo, KEY_a, CONTROLMASK);
   FXWindow* const ventana = campo->getShell();
   Teclea(ventana, KEY_Delete, 0, "");
@@ -233,6 +233,7 @@ Area::Area()
 }
 
 Area::~Area() {
+  dialogos_.clear();
   delete menu_;
   delete ventana_;
 }

@@ -10,7 +10,9 @@
 #include <fx.h>
 
 #include <functional>
+#include <memory>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "tests/support/Textos.h"
@@ -71,8 +73,9 @@ bool Usable(FXWindow* pieza);
 
 /// A click of the left button in the middle of a button, check box or the like; a menu entry is chosen.
 void Pulsa(FXWindow* pieza);
-/// Focus, everything selected, and `texto` (UTF-8) typed over it, key by key. A line end is the Enter key.
-void Escribe(FXTextField* campo, const std::string& texto);
+/// Focus, everything selected, and `texto` (UTF-8) typed over it, key by key, in a text field or an FXText. A
+/// line end is the Enter key.
+void Escribe(FXWindow* campo, const std::string& texto);
 /// The same in the field right after a label.
 void Escribe(FXWindow* raiz, const std::string& etiqueta, const std::string& texto);
 /// One key (KEY_Return, KEY_Escape, KEY_Tab...) for the window in which `pieza` is, after giving it the
@@ -88,7 +91,8 @@ void Bombea(FXuint milisegundos = 1);
 /// Lets the event loop run until the condition holds; false when it does not within the time.
 bool BombeaHasta(const std::function<bool()>& condicion, FXuint milisegundos = 5000);
 
-/// A main window with nothing but an area for child forms, closed with the object together with all of them:
+/// A main window with nothing but an area for child forms, closed with the object together with all its forms
+/// and dialogs:
 ///
 ///   Area area;
 ///   auto* const forma = area.Abre<Monedas_Window>();
@@ -99,10 +103,16 @@ class Area {
   Area(const Area&) = delete;
   Area& operator=(const Area&) = delete;
 
-  /// A new form of that class, shown and ready for the user.
+  /// A new form of that class, shown and ready for the user. A dialog stands on the screen without being run.
   template <class Forma>
   Forma* Abre() {
-    auto* const forma = new Forma(cliente_, menu_);
+    Forma* forma;
+    if constexpr (std::is_base_of_v<FXDialogBox, Forma>) {
+      forma = new Forma(ventana_);
+      dialogos_.emplace_back(forma);
+    } else {
+      forma = new Forma(cliente_, menu_);
+    }
     forma->create();
     forma->show();
     Bombea();
@@ -113,6 +123,7 @@ class Area {
   FXMainWindow* ventana_;
   FXMDIClient* cliente_;
   FXMDIMenu* menu_;
+  std::vector<std::unique_ptr<FXDialogBox>> dialogos_;
 };
 
 }  // namespace pruebas

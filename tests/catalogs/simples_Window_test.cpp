@@ -1,0 +1,952 @@
+// The forms of the simple catalogues, one row of the table each: what stands on the screen, and what each
+// command sends to the server and leaves there. Below it, what only some of them do.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <optional>
+#include <type_traits>
+
+#include "app/sesion.h"
+#include "catalogs/simple/Asesor_Window.h"
+#include "catalogs/simple/ClasificacionCredito_Window.h"
+#include "catalogs/simple/ConceptoScoring_Window.h"
+#include "catalogs/simple/Estados_Credito_Window.h"
+#include "catalogs/simple/Finalidades_Window.h"
+#include "catalogs/simple/Grupo_Window.h"
+#include "catalogs/simple/Modulo_Window.h"
+#include "catalogs/simple/Monedas_Window.h"
+#include "catalogs/simple/MotivoBaja_Window.h"
+#include "catalogs/simple/Ocupacion_Window.h"
+#include "catalogs/simple/TipoMoviBanco_Window.h"
+#include "catalogs/simple/TipoSocio_Window.h"
+#include "catalogs/simple/TipoUsuario_Window.h"
+#include "catalogs/simple/Tipo_Garantia_Window.h"
+#include "tests/support/Espia.h"
+#include "tests/support/Guion.h"
+#include "tests/support/Pantalla.h"
+#include "tests/support/Principal.h"
+#include "tests/support/Registros.h"
+#include "tests/support/Salida.h"
+#include "tests/support/Servidor.h"
+#include "tests/support/Sesion.h"
+#include "tests/support/Ventana.h"
+
+namespace pruebas {
+namespace {
+
+Textos operator+(Textos unas, const Textos& otras) {
+  unas.insert(unas.end(), otras.begin(), otras.end());
+  return unas;
+}
+
+std::string Repetida(const std::string& letra, int veces) {
+  std::string texto;
+  while (veces-- > 0) texto += letra;
+  return texto;
+}
+
+struct Banderas {
+  bool cambiado, nuevo;
+  bool operator==(const Banderas& otras) const { return cambiado == otras.cambiado && nuevo == otras.nuevo; }
+};
+
+/// What a row of the table needs of a form's class and of the global record on which it works.
+struct Modelo {
+  const FXMetaClass* meta;
+  FXWindow* (*abre)(Area& area);
+  FXString (*titulo)(FXWindow* forma);
+  void (*exigeMapa)(bool conBuscar);
+  const char* (*clase)();
+  void (*limpia)();
+  Banderas (*banderas)();
+};
+
+/// The messages in their order, numbered upwards from those of the base class. `lista` is the handler of the
+/// list, and `propio` that of a message of its own, if there is one.
+template <class V, auto lista, auto propio>
+void ExigeMapa(bool conBuscar) {
+  using Manejador = long (V::*)(FXObject*, FXSelector, void*);
+  std::vector<Manejador> mandos = {&V::onCmdAgregar};
+  if (conBuscar) mandos.push_back(&V::onCmdFind);
+  mandos.insert(mandos.end(), {&V::onCmdClear, &V::onCmdBorrar, lista});
+  if constexpr (std::is_member_function_pointer_v<decltype(propio)>) mandos.push_back(propio);
+  const auto en = [](FXSelector sel) -> Manejador {
+    const auto* const entrada = static_cast<const typename V::FXMapEntry*>(V::metaClass.search(sel));
+    return entrada != nullptr ? entrada->func : nullptr;
+  };
+  FXSelector id = V::Marco::ID_LAST;
+  for (const Manejador mando : mandos) EXPECT_EQ(en(FXSEL(SEL_COMMAND, id++)), mando) << id;
+  EXPECT_EQ(en(FXSEL(SEL_SIGNAL, id++)), Manejador{&V::onCmdQuit});
+  EXPECT_EQ(en(FXSEL(SEL_CLOSE, 0)), Manejador{&V::onCmdQuit});
+  EXPECT_EQ(id, FXSelector{V::ID_LAST});
+  for (const FXuint tipo : {FXuint{SEL_COMMAND}, FXuint{SEL_KEYPRESS}})
+    EXPECT_EQ(en(FXSEL(tipo, tipo == SEL_COMMAND ? id : 0)), nullptr);
+}
+
+template <class V, auto& registro, auto lista, auto propio = nullptr>
+Modelo De() {
+  return {&V::metaClass,
+          [](Area& area) -> FXWindow* { return area.Abre<V>(); },
+          [](FXWindow* forma) { return static_cast<V*>(forma)->getTitle(); },
+          ExigeMapa<V, lista, propio>,
+          [] { return registro.clase(); },
+          [] { registro.Clear(); },
+          [] {
+            return Banderas{registro.getDataChanged(), registro.IsNew()};
+          }};
+}
+
+enum class Tipo { Texto, Real, Parrafo, Casilla };
+
+/// A row of fields as it stands on the screen.
+struct CampoVisto {
+  const char* etiqueta;
+  Tipo tipo;
+  FXint columnas;
+  FXuint estilo;
+  FXuint lado = JUSTIFY_LEFT;
+  FXint filas = 1;
+};
+
+CampoVisto Clave(const char* etiqueta, FXint columnas) {
+  return {etiqueta, Tipo::Texto, columnas, TEXTFIELD_LIMITED | TEXTFIELD_ENTER_ONLY};
+}
+CampoVisto ClaveEntera(const char* etiqueta, FXint columnas, FXuint lado) {
+  return {etiqueta, Tipo::Real, columnas, TEXTFIELD_LIMITED | TEXTFIELD_ENTER_ONLY | TEXTFIELD_INTEGER, lado};
+}
+CampoVisto Texto(const char* etiqueta, FXint columnas) {
+  return {etiqueta, Tipo::Texto, columnas, TEXTFIELD_LIMITED};
+}
+CampoVisto Real(const char* etiqueta, FXint columnas) {
+  return {etiqueta, Tipo::Real, columnas, TEXTFIELD_LIMITED | TEXTFIELD_REAL, JUSTIFY_RIGHT};
+}
+CampoVisto Parrafo(const char* etiqueta, FXint filas, FXint columnas) {
+  return {etiqueta, Tipo::Parrafo, columnas, TEXT_WORDWRAP, JUSTIFY_LEFT, filas};
+}
+CampoVisto Casilla(const char* etiqueta) { return {etiqueta, Tipo::Casilla, 0, 0}; }
+
+struct Recuadro {
+  const char* titulo;
+  std::vector<CampoVisto> campos;
+};
+
+struct Hija {
+  FXint ancho = 0, alto = 0;
+  const char* traza = "";
+  int ranura = -1;
+};
+
+struct Caso {
+  Modelo modelo;
+  const char* titulo;
+  Hija hija;  ///< of a child form; empty for a dialog
+  bool conBuscar;
+  const char* lista;  ///< title of the box around it
+  std::vector<Recuadro> cajas;
+  Textos carga;       ///< what a load sends
+  const char* tabla;  ///< on the server, its columns in the order of the fields, the key first
+  Textos alta;    ///< typed field by field into an empty form; "" is left alone, and a box to check pressed
+  Textos fila;    ///< the row that this makes
+  Textos cambio;  ///< typed over it
+  Textos otraFila;
+  const char *sqlAlta, *sqlCambio, *sqlBorrado, *sqlBusqueda;
+};
+
+void PrintTo(const Caso& caso, std::ostream* salida) { *salida << caso.modelo.meta->getClassName(); }
+
+Textos EnTransaccion(const char* sql) { return {"BEGIN;", sql, "COMMIT;"}; }
+
+const Caso casos[] = {
+    {De<Monedas_Window, moneda, &Monedas_Window::onCmdMoneda>(),
+     "Catalogo de Monedas",
+     {620, 205, "terminando creacion frm pais", 1},
+     true,
+     "Monedas",
+     {{"Identificación", {Clave("Moneda:", 2)}},
+      {"Datos de la Moneda", {Texto("Descripción:", 30), Real("Valor :", 10)}}},
+     EnTransaccion("SELECT * FROM spsmoneda('  ');"),
+     "moneda",
+     {"Z", "Prueba nueva", "2.5"},
+     {"Z ", "Prueba nueva", "2.5"},
+     {"", "Otra prueba", ""},
+     {"Z ", "Otra prueba", "2.5"},
+     "select spimoneda('Z ','Prueba nueva',2.500000);",
+     "select spumoneda('Z ','Otra prueba',2.500000);",
+     "SELECT spdmoneda('Z ');",
+     "SELECT * FROM spsmoneda('Z ');"},
+    {De<Tipo_Garantia_Window, tipo_garantia, &Tipo_Garantia_Window::onCmdLista>(),
+     "Tipo de Garantia",
+     {},
+     true,
+     "Tipo Garantia",
+     {{"Identificación", {Clave("Clave:", 3)}}, {"Datos del Tipo de Garantia", {Texto("Descripción:", 30)}}},
+     EnTransaccion("SELECT * FROM spstipo_garantia('  ');"),
+     "tipo_garantia",
+     {"Z", "Prueba nueva"},
+     {"Z  ", "Prueba nueva"},
+     {"", "Otra prueba"},
+     {"Z  ", "Otra prueba"},
+     "select spitipo_garantia('Z  ','Prueba nueva');",
+     "select sputipo_garantia('Z  ','Otra prueba');",
+     "SELECT spdtipo_garantia('Z  ');",
+     "SELECT * FROM spstipo_garantia('Z  ');"},
+    {De<Estados_Credito_Window, estados_credito, &Estados_Credito_Window::onCmdLista>(),
+     "Estados del Credito",
+     {},
+     true,
+     "Estado del Credito",
+     {{"Identificacion", {Clave("Clave:", 3)}},
+      {"Datos del estado del credito", {Texto("Descripción:", 30)}}},
+     EnTransaccion("SELECT * FROM spsestados_credito('  ');"),
+     "estados_credito",
+     {"Z", "Prueba nueva"},
+     {"Z  ", "Prueba nueva"},
+     {"", "Otra prueba"},
+     {"Z  ", "Otra prueba"},
+     "select spiestados_credito('Z  ','Prueba nueva');",
+     "select spuestados_credito('Z  ','Otra prueba');",
+     "SELECT spdestados_credito('Z  ');",
+     "SELECT * FROM spsestados_credito('Z  ');"},
+    {De<Finalidades_Window, finalidades, &Finalidades_Window::onCmdLista>(),
+     "Finalidades",
+     {},
+     true,
+     "Finalidades",
+     {{"Identificación", {Clave("Clave:", 3)}},
+      {"Datos de la Finalidad del Credito", {Texto("Descripción:", 30)}}},
+     EnTransaccion("SELECT * FROM spsfinalidades('  ');"),
+     "finalidades",
+     {"Z", "Prueba nueva"},
+     {"Z  ", "Prueba nueva"},
+     {"", "Otra prueba"},
+     {"Z  ", "Otra prueba"},
+     "select spiFinalidades('Z  ','Prueba nueva');",
+     "select spufinalidades('Z  ','Otra prueba');",
+     "SELECT spdfinalidades('Z  ');",
+     "SELECT * FROM spsfinalidades('Z  ');"},
+    {De<Modulo_Window, modulo, &Modulo_Window::onCmdModulo>(),
+     "Modulo",
+     {},
+     true,
+     "Modulo",
+     {{"Clave", {Clave("Clave:", 10)}}, {"", {Parrafo("Descripción:", 2, 40)}}},
+     EnTransaccion("SELECT * FROM spsmodulo('  ');"),
+     "modulo",
+     {"9901", "Prueba nueva"},
+     {"9901      ", "Prueba nueva"},
+     {"", "Otra prueba"},
+     {"9901      ", "Otra prueba"},
+     "select spimodulo('9901      ','Prueba nueva');",
+     "select spumodulo('9901      ','Otra prueba');",
+     "SELECT spdmodulo('9901      ');",
+     "SELECT * FROM spsmodulo('9901      ');"},
+    {De<TipoUsuario_Window, tipousuario, &TipoUsuario_Window::onCmdTipoUsuario>(),
+     "Tipo de Usuarios",
+     {},
+     true,
+     "Tipo Usuario",
+     {{"Identificador", {Clave("Identificador:", 3)}}, {"Descripción", {Texto("Descripción:", 20)}}},
+     EnTransaccion("SELECT * FROM spstipousuario('  ');"),
+     "tipousuario",
+     {"Z", "Prueba nueva"},
+     {"Z  ", "Prueba nueva"},
+     {"", "Otra prueba"},
+     {"Z  ", "Otra prueba"},
+     "select spitipousuario('Z  ','Prueba nueva');",
+     "select sputipousuario('Z  ','Otra prueba');",
+     "SELECT spdtipousuario('Z  ');",
+     "SELECT * FROM spstipousuario('Z  ');"},
+    {De<TipoSocio_Window, tiposocio, &TipoSocio_Window::onCmdTipoSocio>(),
+     "Socios",
+     {},
+     true,
+     "Socios",
+     {{"Identificación", {Clave("Identificador:", 2)}},
+      {"Descripciòn", {Texto("Descripcion:", 30), Parrafo("Observaciones:", 4, 50)}}},
+     EnTransaccion("SELECT * FROM spstiposocio('  ');"),
+     "tiposocio",
+     {"Z", "Prueba nueva", "Vota"},
+     {"Z ", "Prueba nueva", "Vota"},
+     {"", "Otra prueba", ""},
+     {"Z ", "Otra prueba", "Vota"},
+     "select spitiposocio('Z ','Prueba nueva','Vota');",
+     "select sputiposocio('Z ','Otra prueba','Vota');",
+     "SELECT spdtiposocio('Z ');",
+     "SELECT * FROM spstiposocio('Z ');"},
+    {De<TipoMoviBanco_Window, tipomovibanco, &TipoMoviBanco_Window::onCmdTipoMoviBanco,
+        &TipoMoviBanco_Window::onCmdOperacionSumaResta>(),
+     "Catalogo Movimientos Bancarios",
+     {650, 180, "terminando creacion frm tipomovibanco", 3},
+     true,
+     "Movimiento",
+     {{"Identificación", {Clave("Clave:", 2)}},
+      {"Datos del Movimiento", {Texto("Descripción:", 30), Casilla("Incrementar Saldo:")}}},
+     EnTransaccion("SELECT * FROM spstipomovibanco('  ');"),
+     "tipomovibanco",
+     {"Z", "Prueba nueva", "+"},
+     {"Z ", "Prueba nueva", "+"},
+     {"", "Otra prueba", "-"},
+     {"Z ", "Otra prueba", "-"},
+     "select spitipomovibanco('Z ','Prueba nueva','+');",
+     "select sputipomovibanco('Z ','Otra prueba','-');",
+     "SELECT spdtipomovibanco('Z ');",
+     "SELECT * FROM spstipomovibanco('Z ');"},
+    {De<Asesor_Window, asesor, &Asesor_Window::onCmdAsesor>(),
+     "Catalogo de Asesores",
+     {620, 205, "terminando creacion frm pais", 1},
+     true,
+     "Asesor",
+     {{"Identificación", {ClaveEntera("Identificador:", 2, JUSTIFY_LEFT)}},
+      {"Datos del Asesor", {Texto("Asesor:", 50)}}},
+     EnTransaccion("SELECT * FROM spsasesor(0);"),
+     "asesor",
+     {"91", "Prueba nueva"},
+     {"91", "Prueba nueva"},
+     {"", "Otra prueba"},
+     {"91", "Otra prueba"},
+     "select spiasesor(91,'Prueba nueva');",
+     "select spuasesor(91,'Otra prueba');",
+     "SELECT spdasesor(91);",
+     "SELECT * FROM spsasesor(91);"},
+    {De<MotivoBaja_Window, motivobaja, &MotivoBaja_Window::onCmdMotivoBaja>(),
+     "Motivos Baja",
+     {550, 170, "terminando creacion frm motivobaja", 99},
+     false,
+     "Motivos",
+     {{"", {ClaveEntera("Identificador:", 4, JUSTIFY_RIGHT), Texto("Descripcion:", 30)}}},
+     {"SELECT * FROM spsmotivobaja(0);"},
+     "motivobaja",
+     {"", "Prueba nueva"},
+     {"8", "Prueba nueva"},
+     {"", "Otra prueba"},
+     {"8", "Otra prueba"},
+     "select spimotivobaja('Prueba nueva');",
+     "select spumotivobaja(8,'Otra prueba');",
+     "SELECT spdmotivobaja(8);",
+     "SELECT * FROM spsmotivobaja(8);"},
+    {De<ClasificacionCredito_Window, clasificacioncredito,
+        &ClasificacionCredito_Window::onCmdClasificacionCredito>(),
+     "Clasificacion de Creditos",
+     {550, 170, "terminando creacion frm clasificacioncredito", 99},
+     false,
+     "Calsificacion de Creditos",
+     {{"", {ClaveEntera("Identificador:", 4, JUSTIFY_RIGHT), Texto("Descripcion:", 30)}}},
+     {"SELECT * FROM spsclasificacioncredito(0);"},
+     "clasificacioncredito",
+     {"", "Prueba nueva"},
+     {"6", "Prueba nueva"},
+     {"", "Otra prueba"},
+     {"6", "Otra prueba"},
+     "select spiclasificacioncredito('Prueba nueva');",
+     "select spuclasificacioncredito(6,'Otra prueba');",
+     "SELECT spdclasificacioncredito(6);",
+     "SELECT * FROM spsclasificacioncredito(6);"},
+    {De<Grupo_Window, grupo, &Grupo_Window::onCmdGrupo>(),
+     "Grupos",
+     {550, 170, "terminando creacion frm grupo", 99},
+     false,
+     "Grupos",
+     {{"", {ClaveEntera("Identificador:", 4, JUSTIFY_RIGHT), Texto("Grupo:", 30)}}},
+     {"SELECT * FROM spsgrupo(0);"},
+     "grupo",
+     {"", "Prueba nueva"},
+     {"7", "Prueba nueva"},
+     {"", "Otra prueba"},
+     {"7", "Otra prueba"},
+     "select spigrupo('Prueba nueva');",
+     "select spugrupo(7,'Otra prueba');",
+     "SELECT spdgrupo(7);",
+     "SELECT * FROM spsgrupo(7);"},
+    {De<Ocupacion_Window, ocupacion, &Ocupacion_Window::onCmdOcupacion>(),
+     "Ocupacions",
+     {550, 170, "terminando creacion frm ocupacion", 99},
+     false,
+     "Ocupacions",
+     {{"", {ClaveEntera("Identificador:", 4, JUSTIFY_RIGHT), Texto("Ocupacion:", 30)}}},
+     {"SELECT * FROM spsocupacion(0);"},
+     "ocupacion",
+     {"", "Prueba nueva"},
+     {"33", "Prueba nueva"},
+     {"", "Otra prueba"},
+     {"33", "Otra prueba"},
+     "select spiocupacion('Prueba nueva');",
+     "select spuocupacion(33,'Otra prueba');",
+     "SELECT spdocupacion(33);",
+     "SELECT * FROM spsocupacion(33);"},
+    {De<ConceptoScoring_Window, conceptoscoring, &ConceptoScoring_Window::onCmdConceptoScoring>(),
+     "Concepto Scoring",
+     {},
+     true,
+     "Concepto Scoring",
+     {{"Identificación", {ClaveEntera("Identificador:", 2, JUSTIFY_LEFT)}},
+      {"Concepto", {Texto("Nombre:", 20)}}},
+     {"SELECT * FROM spsconceptoscoring(0);"},
+     "conceptoscoring",
+     {"", "Prueba nueva"},
+     {"11", "Prueba nueva"},
+     {"", "Otra prueba"},
+     {"11", "Otra prueba"},
+     "select spiconceptoscoring('Prueba nueva');",
+     "select spuconceptoscoring('11','Otra prueba');",
+     "SELECT spdconceptoscoring(11);",
+     "SELECT * FROM spsconceptoscoring(11);"},
+};
+
+class FormaSimple : public testing::Test {
+ protected:
+  void SetUp() override {
+    if (!base_) base_ = new BaseDatos;
+    sesion_.emplace(*base_);
+  }
+  void TearDown() override {
+    sesion_.reset();
+    if (escrita_) Suelta();
+  }
+  static void TearDownTestSuite() { Suelta(); }
+  static void Suelta() {
+    delete base_;
+    base_ = nullptr;
+  }
+
+  /// Opens the form with a record as the program has it at its start.
+  void Abre(const Caso& caso) {
+    caso_ = &caso;
+    caso.modelo.limpia();
+    forma_ = caso.modelo.abre(area_);
+    espia_.Vacia();
+  }
+  std::vector<CampoVisto> Campos() const {
+    std::vector<CampoVisto> campos;
+    for (const Recuadro& caja : caso_->cajas)
+      campos.insert(campos.end(), caja.campos.begin(), caja.campos.end());
+    return campos;
+  }
+  /// Types into the fields in order; "" leaves one alone, and a box to check is pressed.
+  void Llena(const Textos& valores) {
+    for (size_t i = 0; i < valores.size(); ++i) {
+      if (valores[i].empty()) continue;
+      FXWindow* const pieza = PiezaJuntoA(forma_, Campos()[i].etiqueta);
+      if (Campos()[i].tipo == Tipo::Casilla) {
+        Pulsa(pieza);
+      } else {
+        Escribe(Campos()[i].tipo == Tipo::Parrafo ? Todos<FXText>(pieza).at(0) : pieza, valores[i]);
+      }
+    }
+  }
+  Textos Pantalla() {
+    Bombea();
+    Textos textos;
+    for (const CampoVisto& campo : Campos()) {
+      if (campo.tipo == Tipo::Parrafo) {
+        textos.push_back(JuntoA<FXText>(forma_, campo.etiqueta)->getText().text());
+      } else if (campo.tipo == Tipo::Casilla) {
+        textos.push_back(JuntoA<FXCheckButton>(forma_, campo.etiqueta)->getCheck() ? "+" : "-");
+      } else {
+        textos.push_back(Leido(forma_, campo.etiqueta));
+      }
+    }
+    return textos;
+  }
+  Textos Vacia() const {
+    Textos textos;
+    for (const CampoVisto& campo : Campos())
+      textos.push_back(campo.tipo == Tipo::Real ? "0" : campo.tipo == Tipo::Casilla ? "-" : "");
+    return textos;
+  }
+  Textos Renglones() {
+    Textos renglones;
+    for (FXint i = 0; i < Lista(forma_)->getNumItems(); ++i)
+      renglones.push_back(Lista(forma_)->getItemText(i).text());
+    return renglones;
+  }
+  std::string RenglonActual() { return Lista(forma_)->getItemText(Lista(forma_)->getCurrentItem()).text(); }
+
+  /// Presses a button, answers the boxes that come in order, and gives their texts.
+  Textos Manda(const std::string& boton, const std::vector<Respuesta>& respuestas = {}) {
+    escrita_ = escrita_ || std::count(respuestas.begin(), respuestas.end(), Respuesta::Si) != 0;
+    Guion guion;
+    for (const Respuesta respuesta : respuestas) guion.Responde(respuesta);
+    Pulsa(Boton(forma_, boton));
+    cuadros_ = guion.Cuadros();
+    return guion.Mensajes();
+  }
+  /// What a question of the form asks, when answered and captioned as it should be.
+  std::string Pregunta(const std::string& boton, Respuesta respuesta) {
+    const Textos dichos = Manda(boton, {respuesta});
+    EXPECT_EQ(cuadros_.at(0).clase, Clase::Pregunta);
+    EXPECT_EQ(cuadros_.at(0).titulo, caso_->modelo.clase());
+    return dichos.at(0);
+  }
+  /// The error in which a command ends after its question.
+  std::string Rechazo(const std::string& boton) {
+    const Textos dichos = Manda(boton, {Respuesta::Si, Respuesta::Aceptar});
+    EXPECT_EQ(cuadros_.at(1).clase, Clase::Error);
+    EXPECT_EQ(cuadros_.at(1).titulo, "Error en Validación");
+    return dichos.at(1);
+  }
+
+  /// The statements since the last call.
+  Textos Enviado() {
+    const Textos sentencias = espia_.Sentencias();
+    espia_.Vacia();
+    return sentencias;
+  }
+  Banderas Estado() const { return caso_->modelo.banderas(); }
+  /// The row with the key of `fila`, as the server holds it.
+  Tabla EnLaBase(const Textos& fila) {
+    const std::string tabla = std::string("norte.") + caso_->tabla;
+    const std::string clave = base_->Valor(
+        "select attname from pg_attribute where attnum = 1 and attrelid = '" + tabla + "'::regclass");
+    const std::string columnas = caso_->modelo.meta == &Monedas_Window::metaClass
+                                     ? "monedaid, monedadescri, monedavalor::float8"
+                                     : "*";
+    return base_->Filas("select " + columnas + " from " + tabla + " where " + clave + " = '" + fila.at(0) +
+                        "'");
+  }
+
+  static BaseDatos* base_;  // one for all tests, until one of them has written to it
+  bool escrita_ = false;
+  std::optional<Sesion> sesion_;
+  Salida salida_;
+  Espia espia_;
+  Area area_;
+  const Caso* caso_ = nullptr;
+  FXWindow* forma_ = nullptr;
+  std::vector<Cuadro> cuadros_;
+};
+
+BaseDatos* FormaSimple::base_ = nullptr;
+
+class FormasSimples : public FormaSimple, public testing::WithParamInterface<Caso> {
+ protected:
+  void SetUp() override {
+    FormaSimple::SetUp();
+    Abre(GetParam());
+  }
+};
+
+INSTANTIATE_TEST_SUITE_P(, FormasSimples, testing::ValuesIn(casos), [](const auto& info) {
+  return std::string(info.param.modelo.meta->getClassName());
+});
+
+TEST_P(FormasSimples, SeAbreConSuTituloYEnSuLugar) {
+  const Caso& caso = GetParam();
+  EXPECT_EQ(caso.modelo.titulo(forma_), caso.titulo);
+  if (caso.hija.ancho > 0) {
+    EXPECT_EQ(caso.modelo.meta->getBaseClass(), FXMETACLASS(FXMDIChild));
+    EXPECT_EQ(forma_->getX(), 20);
+    EXPECT_EQ(forma_->getY(), 20);
+    EXPECT_EQ(forma_->getWidth(), caso.hija.ancho);
+    EXPECT_EQ(forma_->getHeight(), caso.hija.alto);
+  } else {
+    EXPECT_EQ(caso.modelo.meta->getBaseClass(), FXMETACLASS(FXDialogBox));
+    EXPECT_EQ(static_cast<FXDialogBox*>(forma_)->getDecorations(),
+              FXuint{DECOR_TITLE | DECOR_BORDER | DECOR_RESIZE});
+  }
+}
+
+TEST_P(FormasSimples, AlAbrirCargaTrazaYOcupaSuRanura) {
+  const Hija& hija = GetParam().hija;
+  std::fill_n(mdiArray, RanurasMdi + 1, false);
+  Area otra;
+  const Salida salida;
+  FXWindow* const forma = GetParam().modelo.abre(otra);
+  EXPECT_EQ(Enviado(), GetParam().carga);
+  const Textos lineas = salida.Lineas();
+  const bool traza = hija.ancho > 0;
+  EXPECT_EQ(std::count(lineas.begin(), lineas.end(), hija.traza), traza);
+  EXPECT_EQ(std::count_if(lineas.begin(), lineas.end(),
+                          [](const std::string& linea) { return linea.rfind("terminando", 0) == 0; }),
+            traza);
+  EXPECT_EQ(std::count(mdiArray, mdiArray + RanurasMdi + 1, true), traza);
+  EXPECT_TRUE(!traza || mdiArray[hija.ranura]);
+  EXPECT_EQ(Estado(), (Banderas{false, true}));
+  EXPECT_EQ(Pantalla(), Vacia());
+  Pulsa(Boton(forma, "&Cerrar"));
+  EXPECT_EQ(std::count(mdiArray, mdiArray + RanurasMdi + 1, true), 0);
+  EXPECT_TRUE(Enviado().empty());
+}
+
+TEST_P(FormasSimples, SusMensajesVanEnOrden) { GetParam().modelo.exigeMapa(GetParam().conBuscar); }
+
+TEST_P(FormasSimples, TieneSusCajasCamposYBotones) {
+  const Caso& caso = GetParam();
+  const std::vector<FXGroupBox*> cajas = Todos<FXGroupBox>(forma_);
+  ASSERT_EQ(cajas.size(), caso.cajas.size() + 2);
+  EXPECT_STREQ(cajas.front()->getText().text(), caso.lista);
+  EXPECT_EQ(Lista(cajas.front()), Lista(forma_));
+  for (size_t i = 0; i < caso.cajas.size(); ++i) {
+    FXGroupBox* const caja = cajas[i + 1];
+    EXPECT_STREQ(caja->getText().text(), caso.cajas[i].titulo);
+    EXPECT_EQ(caja->getFrameStyle(), FXuint{FRAME_GROOVE});
+    Textos etiquetas;
+    for (const CampoVisto& campo : caso.cajas[i].campos) etiquetas.emplace_back(campo.etiqueta);
+    EXPECT_EQ(Etiquetas(caja), etiquetas);
+  }
+  EXPECT_EQ(cajas.back()->getText(), "");
+  Textos botones = {"&Nuevo", "&Buscar", "&Borrar", "&Cerrar", "&Aceptar"};
+  if (!caso.conBuscar) botones.erase(botones.begin() + 1);
+  EXPECT_EQ(Botones(cajas.back()), botones);
+}
+
+TEST_P(FormasSimples, CadaCampoTieneSuAnchoYSuClase) {
+  for (const CampoVisto& campo : Campos()) {
+    SCOPED_TRACE(campo.etiqueta);
+    if (campo.tipo == Tipo::Casilla) {
+      JuntoA<FXCheckButton>(forma_, campo.etiqueta);
+    } else if (campo.tipo == Tipo::Parrafo) {
+      const FXText* parrafo = JuntoA<FXText>(forma_, campo.etiqueta);
+      EXPECT_EQ(parrafo->getVisibleColumns(), campo.columnas);
+      EXPECT_EQ(parrafo->getVisibleRows(), campo.filas);
+      EXPECT_EQ(parrafo->getTextStyle(), campo.estilo);
+      EXPECT_EQ(parrafo->getTarget(), nullptr);
+    } else {
+      const FXTextField* texto = CampoJuntoA(forma_, campo.etiqueta);
+      EXPECT_EQ(texto->getNumColumns(), campo.columnas);
+      EXPECT_EQ(texto->getTextStyle(), campo.estilo);
+      EXPECT_EQ(texto->getJustify() & (JUSTIFY_LEFT | JUSTIFY_RIGHT), campo.lado);
+    }
+  }
+}
+
+// With the program's own font.
+TEST_P(FormasSimples, NadaSeVeCortado) {
+  const Principal principal;
+  Area area;
+  FXWindow* const forma = GetParam().modelo.abre(area);
+  ASSERT_TRUE(BombeaHasta([&] { return Grupo(forma, GetParam().lista)->getHeight() > 1; }));  // laid out
+  for (FXGroupBox* caja : Todos<FXGroupBox>(forma)) {
+    EXPECT_GE(caja->getHeight(), caja->getDefaultHeight()) << caja->getText().text();
+    for (FXWindow* pieza : Todos<FXWindow>(caja)) {
+      if (dynamic_cast<FXScrollArea*>(pieza->getParent()) != nullptr) continue;
+      FXWindow* const marco = pieza->getParent();
+      EXPECT_GE(pieza->getX(), 0) << pieza->getClassName();
+      EXPECT_GE(pieza->getY(), 0) << pieza->getClassName();
+      EXPECT_LE(pieza->getX() + pieza->getWidth(), marco->getWidth()) << pieza->getClassName();
+      EXPECT_LE(pieza->getY() + pieza->getHeight(), marco->getHeight()) << pieza->getClassName();
+      if (dynamic_cast<FXLabel*>(pieza) != nullptr) {
+        EXPECT_GE(pieza->getWidth(), pieza->getDefaultWidth())
+            << static_cast<FXLabel*>(pieza)->getText().text();
+        EXPECT_GE(pieza->getHeight(), pieza->getDefaultHeight());
+      }
+    }
+  }
+  EXPECT_EQ(Lista(forma)->getWidth(), 150);
+}
+
+TEST_P(FormasSimples, RegistraBuscaCambiaYBorra) {
+  const Caso& caso = GetParam();
+  Llena(caso.alta);
+  EXPECT_EQ(Pregunta("&Aceptar", Respuesta::Si), "Registrar ?");
+  EXPECT_EQ(Enviado(), (Textos{"BEGIN;", caso.sqlAlta, "COMMIT;"} + caso.carga));
+  EXPECT_EQ(Estado(), (Banderas{false, false}));
+  EXPECT_EQ(RenglonActual(), caso.fila[1]);
+  EXPECT_EQ(EnLaBase(caso.fila), Tabla{caso.fila});
+
+  Manda("&Nuevo");
+  EXPECT_EQ(Pantalla(), Vacia());
+  if (caso.conBuscar) {
+    Llena({caso.fila[0]});
+    Manda("&Buscar");
+    EXPECT_EQ(Enviado(), Textos{caso.sqlBusqueda});
+  } else {
+    EligeRenglon(Lista(forma_), Lista(forma_)->getNumItems() - 1);
+    EXPECT_TRUE(Enviado().empty());
+  }
+  EXPECT_EQ(Pantalla(), caso.fila);
+  EXPECT_EQ(RenglonActual(), caso.fila[1]);
+  EXPECT_EQ(Estado(), (Banderas{false, false}));
+
+  Llena(caso.cambio);
+  EXPECT_EQ(Pregunta("&Aceptar", Respuesta::Si), "Guardar cambios realizados ?");
+  EXPECT_EQ(Enviado(), (Textos{"BEGIN;", caso.sqlCambio, "COMMIT;"} + caso.carga));
+  EXPECT_EQ(Estado(), (Banderas{false, false}));
+  EXPECT_EQ(RenglonActual(), caso.otraFila[1]);
+  EXPECT_EQ(EnLaBase(caso.fila), Tabla{caso.otraFila});
+
+  EXPECT_EQ(Pregunta("&Borrar", Respuesta::No), "Borrar el registro ?");
+  EXPECT_EQ(Enviado(), Textos{caso.sqlBusqueda});
+  EXPECT_EQ(Pantalla(), caso.otraFila);
+  EXPECT_EQ(Pregunta("&Borrar", Respuesta::Si), "Borrar el registro ?");
+  EXPECT_EQ(Enviado(), (Textos{caso.sqlBusqueda, "BEGIN;", caso.sqlBorrado, "COMMIT;"} + caso.carga));
+  EXPECT_EQ(Pantalla(), Vacia());
+  EXPECT_EQ(Estado(), (Banderas{false, true}));
+  EXPECT_TRUE(EnLaBase(caso.fila).empty());
+  const Textos renglones = Renglones();
+  EXPECT_EQ(std::count(renglones.begin(), renglones.end(), caso.otraFila[1]), 0);
+}
+
+TEST_P(FormasSimples, AceptarSinTocarNadaNoHaceNada) {
+  EXPECT_TRUE(Manda("&Aceptar").empty());
+  EXPECT_TRUE(Enviado().empty());
+}
+
+TEST_P(FormasSimples, ContestarQueNoDejaPreguntarOtraVez) {
+  Llena(GetParam().alta);
+  for (int vez = 0; vez < 2; ++vez) {
+    EXPECT_EQ(Pregunta("&Aceptar", Respuesta::No), "Registrar ?");
+    EXPECT_EQ(Estado(), (Banderas{true, true}));
+  }
+  EXPECT_TRUE(Enviado().empty());
+  EXPECT_EQ(Pregunta("&Aceptar", Respuesta::Si), "Registrar ?");
+  EXPECT_EQ(EnLaBase(GetParam().fila), Tabla{GetParam().fila});
+}
+
+// The record keeps what was shown last, so nothing has changed for it.
+TEST_P(FormasSimples, NuevoConLosMismosValoresNoGuardaNada) {
+  EligeRenglon(Lista(forma_), 0);
+  Textos valores = Pantalla();
+  Manda("&Nuevo");
+  if (Campos().back().tipo == Tipo::Casilla && valores.back() == "-")
+    Llena(Textos(valores.size() - 1) + Textos{"-"});
+  Llena(valores);
+  EXPECT_EQ(Pantalla(), valores);
+  EXPECT_TRUE(Manda("&Aceptar").empty());
+  EXPECT_TRUE(Enviado().empty());
+  EXPECT_EQ(Estado(), (Banderas{false, true}));
+}
+
+TEST_P(FormasSimples, LoQueNoHayNiSeHallaNiSeBorra) {
+  const Caso& caso = GetParam();
+  const Textos renglones = Renglones();
+  if (caso.conBuscar) {
+    Llena(caso.fila);
+    EXPECT_EQ(Manda("&Buscar", {Respuesta::Aceptar}), Textos{"Registro NO encontrado"});
+    EXPECT_EQ(cuadros_.at(0).clase, Clase::Informacion);
+    EXPECT_EQ(cuadros_.at(0).titulo, caso.modelo.clase());
+    EXPECT_EQ(Enviado(), Textos{caso.sqlBusqueda});
+    EXPECT_EQ(Pantalla(), Vacia());
+    EXPECT_TRUE(Estado().nuevo);
+  }
+  Llena(caso.fila);
+  EXPECT_TRUE(Manda("&Borrar").empty());
+  EXPECT_EQ(Enviado(), Textos{caso.sqlBusqueda});
+  EXPECT_EQ(Pantalla(), Vacia());
+  EXPECT_TRUE(Estado().nuevo);
+  EXPECT_EQ(Renglones(), renglones);
+}
+
+TEST_P(FormasSimples, LoQueElServidorRechazaSePuedeRepetir) {
+  const Caso& caso = GetParam();
+  Llena(caso.alta);
+  const auto rechaza = [this](const char* boton, const char* sentencia) {
+    const Textos antes = Renglones();
+    const Textos pantalla = Pantalla();
+    espia_.Cuando(sentencia, falla::Error("hoy no"));
+    EXPECT_EQ(Rechazo(boton), "ERROR:  hoy no\n");
+    EXPECT_EQ(espia_.Sentencias().back(), "ROLLBACK;");
+    EXPECT_EQ(Renglones(), antes);
+    EXPECT_EQ(Pantalla(), pantalla);
+    EXPECT_EQ(Profundidad(), 0);
+    espia_.Vacia();
+  };
+  rechaza("&Aceptar", caso.sqlAlta);
+  EXPECT_EQ(Estado(), (Banderas{true, true}));
+  EXPECT_TRUE(EnLaBase(caso.fila).empty());
+  EXPECT_EQ(Pregunta("&Aceptar", Respuesta::Si), "Registrar ?");
+
+  EligeRenglon(Lista(forma_), Lista(forma_)->getCurrentItem());
+  Llena(caso.cambio);
+  rechaza("&Aceptar", caso.sqlCambio);
+  EXPECT_EQ(Estado(), (Banderas{true, false}));
+  EXPECT_EQ(Pregunta("&Aceptar", Respuesta::Si), "Guardar cambios realizados ?");
+  EXPECT_EQ(EnLaBase(caso.fila), Tabla{caso.otraFila});
+
+  rechaza("&Borrar", caso.sqlBorrado);
+  EXPECT_EQ(Estado(), (Banderas{false, false}));
+  EXPECT_EQ(EnLaBase(caso.fila), Tabla{caso.otraFila});
+}
+
+TEST_P(FormasSimples, UnCatalogoVacioOMuyLargoTambienSeAbre) {
+  const std::string carga = GetParam().carga.size() > 1 ? GetParam().carga[1] : GetParam().carga[0];
+  const Falla cincoMil = [](PGconn* conexion, const char*) {
+    return __real_PQexec(conexion,
+                         "select i, 'Renglon ' || i, 'Renglon ' || i from generate_series(1, 5000) i");
+  };
+  for (const bool vacio : {true, false}) {
+    espia_.Vacia();
+    espia_.Cuando(carga, vacio ? falla::SinFilas() : cincoMil);
+    Area area;
+    forma_ = GetParam().modelo.abre(area);
+    EXPECT_EQ(Lista(forma_)->getNumItems(), vacio ? 0 : 5000);
+    EXPECT_EQ(Pantalla(), Vacia());
+    if (vacio) continue;
+    EligeRenglon(Lista(forma_), 4999);
+    EXPECT_EQ(Pantalla()[1], "Renglon 5000");
+    EligeRenglon(Lista(forma_), 0);
+    EXPECT_EQ(Pantalla()[1], "Renglon 1");
+  }
+}
+
+TEST_P(FormasSimples, LaConexionPerdidaSeDiceYOtraSirve) {
+  const Caso& caso = GetParam();
+  EligeRenglon(Lista(forma_), 0);
+  Llena(caso.cambio);
+  const Textos pantalla = Pantalla();
+  base_->MataSesiones();
+  EXPECT_NE(Rechazo("&Aceptar"), "");
+  EXPECT_EQ(Pantalla(), pantalla);
+  EXPECT_EQ(Estado(), (Banderas{true, false}));
+  sesion_.reset();
+  EXPECT_NE(Rechazo("&Aceptar"), "");
+  sesion_.emplace(*base_);
+  EXPECT_EQ(Pregunta("&Aceptar", Respuesta::Si), "Guardar cambios realizados ?");
+  EXPECT_EQ(RenglonActual(), caso.otraFila[1]);
+  EXPECT_EQ(EnLaBase(pantalla), Tabla{pantalla});
+}
+
+// What only some forms do.
+
+const Caso& CasoDe(const FXMetaClass& meta) {
+  return *std::find_if(std::begin(casos), std::end(casos),
+                       [&](const Caso& caso) { return caso.modelo.meta == &meta; });
+}
+
+class TipoMoviBancoTest : public FormaSimple {
+ protected:
+  void SetUp() override {
+    FormaSimple::SetUp();
+    Abre(CasoDe(TipoMoviBanco_Window::metaClass));
+  }
+  FXCheckButton* Casilla() { return JuntoA<FXCheckButton>(forma_, "Incrementar Saldo:"); }
+};
+
+constexpr char SinOperacion[] = "No se ha especificado el tipo de operacion del movimiento";
+
+TEST_F(TipoMoviBancoTest, SinTocarLaCasillaNoSeRegistra) {
+  Llena({"Z", "Prueba nueva", ""});
+  EXPECT_EQ(Manda("&Aceptar", {Respuesta::Aceptar}), Textos{SinOperacion});
+  EXPECT_TRUE(Enviado().empty());
+  Pulsa(Casilla());
+  Pulsa(Casilla());
+  EXPECT_EQ(Pregunta("&Aceptar", Respuesta::Si), "Registrar ?");
+  EXPECT_EQ(EnLaBase({"Z "}), (Tabla{{"Z ", "Prueba nueva", "-"}}));
+}
+
+// Showing a record does not take its operation over: what counts is what the user checks.
+TEST_F(TipoMoviBancoTest, LaOperacionEsLaQueMarcaElUsuario) {
+  EligeRenglon(Lista(forma_), 2);  // DE, "+"
+  EXPECT_TRUE(Casilla()->getCheck());
+  Llena({"", "Depósito", ""});
+  EXPECT_EQ(Manda("&Aceptar", {Respuesta::Aceptar}), Textos{SinOperacion});
+  Pulsa(Casilla());
+  EligeRenglon(Lista(forma_), 4);  // IN, "+", with "-" left over
+  EXPECT_TRUE(Casilla()->getCheck());
+  EXPECT_EQ(Pregunta("&Aceptar", Respuesta::Si), "Guardar cambios realizados ?");
+  EXPECT_EQ(EnLaBase({"IN"}), (Tabla{{"IN", "Intereses ganados", "-"}}));
+}
+
+TEST_F(TipoMoviBancoTest, NuevoOlvidaLaOperacion) {
+  EligeRenglon(Lista(forma_), 2);
+  Pulsa(Casilla());
+  Pulsa(Casilla());
+  Manda("&Nuevo");
+  EXPECT_FALSE(Casilla()->getCheck());
+  Llena({"Z", "Prueba nueva", ""});
+  EXPECT_EQ(Manda("&Aceptar", {Respuesta::Aceptar}), Textos{SinOperacion});
+}
+
+class TipoSocioTest : public FormaSimple {
+ protected:
+  void SetUp() override {
+    FormaSimple::SetUp();
+    Abre(CasoDe(TipoSocio_Window::metaClass));
+  }
+};
+
+TEST_F(TipoSocioTest, UnCambioEnviaDoscientasObservaciones) {
+  Llena({"Z", "Fundador", Repetida("o", 300)});
+  Pregunta("&Aceptar", Respuesta::Si);
+  EXPECT_EQ(Enviado().at(1), "select spitiposocio('Z ','Fundador','" + Repetida("o", 254) + "');");
+  EligeRenglon(Lista(forma_), Lista(forma_)->getCurrentItem());
+  EXPECT_EQ(Pantalla()[2], Repetida("o", 254));
+  Llena({"", "Otro", ""});
+  Pregunta("&Aceptar", Respuesta::Si);
+  EXPECT_EQ(Enviado().at(1), "select sputiposocio('Z ','Otro','" + Repetida("o", 200) + "');");
+  EXPECT_EQ(EnLaBase({"Z "}), (Tabla{{"Z ", "Otro", Repetida("o", 200)}}));
+}
+
+TEST_F(TipoSocioTest, LaDescripcionFaltaAntesQueLaClave) {
+  Llena({"", "", "Vota"});
+  EXPECT_EQ(Manda("&Aceptar", {Respuesta::Aceptar}), Textos{"No se especifico la descripciòn del socio"});
+  Llena({"", "Fundador", ""});
+  Manda("&Nuevo");
+  Llena({"", "Fundador", ""});
+  EXPECT_EQ(Manda("&Aceptar", {Respuesta::Aceptar}), Textos{"No ha especifico el identipicador"});
+}
+
+TEST_F(TipoSocioTest, LasObservacionesPuedenTenerRenglones) {
+  Llena({"Z", "Fundador", "Vota.\nNo pide crédito."});
+  Pregunta("&Aceptar", Respuesta::Si);
+  EXPECT_EQ(EnLaBase({"Z "}), (Tabla{{"Z ", "Fundador", "Vota.\nNo pide crédito."}}));
+  Manda("&Nuevo");
+  EXPECT_EQ(Pantalla(), Vacia());
+  Llena({"Z"});
+  Manda("&Buscar");
+  EXPECT_EQ(Pantalla()[2], "Vota.\nNo pide crédito.");
+}
+
+TEST_F(FormaSimple, UnGrupoDeUnaLetraViajaConDosBlancos) {
+  Abre(CasoDe(Grupo_Window::metaClass));
+  Llena({"", "A"});
+  Pregunta("&Aceptar", Respuesta::Si);
+  EXPECT_EQ(Enviado().at(1), "select spigrupo('A  ');");
+  EXPECT_EQ(RenglonActual(), "A  ");
+  EXPECT_EQ(EnLaBase({"7"}), (Tabla{{"7", "A  "}}));
+}
+
+// The server's key is seen by choosing the row; the window keeps what was typed.
+TEST_F(FormaSimple, TrasRegistrarLaVentanaConservaLoTecleado) {
+  for (const FXMetaClass* meta : {&Grupo_Window::metaClass, &ConceptoScoring_Window::metaClass}) {
+    Abre(CasoDe(*meta));
+    Llena(caso_->alta);
+    Pregunta("&Aceptar", Respuesta::Si);
+    EXPECT_EQ(Pantalla(), (Textos{"0", caso_->fila[1]}));
+    EligeRenglon(Lista(forma_), Lista(forma_)->getCurrentItem());
+    EXPECT_EQ(Pantalla(), caso_->fila);
+  }
+}
+
+TEST_F(FormaSimple, UnaClaveMasLargaQueSuCampoSeVeEntera) {
+  escrita_ = true;
+  base_->Ejecuta("insert into norte.asesor values (12345, 'El último')");
+  Abre(CasoDe(Asesor_Window::metaClass));
+  EligeRenglon(Lista(forma_), Lista(forma_)->getNumItems() - 1);
+  EXPECT_EQ(Pantalla(), (Textos{"12345", "El último"}));
+  EXPECT_EQ(Pregunta("&Borrar", Respuesta::Si), "Borrar el registro ?");
+  EXPECT_EQ(base_->Valor("select count(*) from norte.asesor where asesorid = 12345"), "0");
+}
+
+TEST_F(FormaSimple, CadaReglaDeLaRevisionSeDiceAntesDePreguntar) {
+  const struct {
+    const FXMetaClass& meta;
+    Textos valores;
+    const char* dicho;
+  } reglas[] = {
+      {Tipo_Garantia_Window::metaClass, {"", "x"}, "No se especifico la clave"},
+      {Tipo_Garantia_Window::metaClass, {"x"}, "No ha especificado la descripción"},
+      {Estados_Credito_Window::metaClass, {"x"}, "No ha especificado la descripción"},
+      {Finalidades_Window::metaClass, {"x"}, "No ha especificado la descripción"},
+      {Modulo_Window::metaClass, {"x"}, "No ha especificado el descripcion"},
+      {TipoUsuario_Window::metaClass, {"x"}, "No ha especificado el descripcion"},
+      {TipoMoviBanco_Window::metaClass, {"x", "", "+"}, "No ha especificado la descripción"},
+      {Asesor_Window::metaClass, {"9"}, "No ha especificado el nombre del asesor"},
+      {MotivoBaja_Window::metaClass, {"9"}, "No se especifico la descripcion"},
+      {ClasificacionCredito_Window::metaClass, {"9"}, "No se especifico la descripcion"},
+      {Grupo_Window::metaClass, {"9"}, "No se especifico la descripcion"},
+      {Ocupacion_Window::metaClass, {"9"}, "No se especifico la descripcion"},
+      {ConceptoScoring_Window::metaClass, {"9"}, "No ha especificado el concepto"},
+  };
+  for (const auto& [meta, valores, dicho] : reglas) {
+    SCOPED_TRACE(std::string(meta.getClassName()) + ": " + dicho);
+    Abre(CasoDe(meta));
+    Llena(valores);
+    EXPECT_EQ(Manda("&Aceptar", {Respuesta::Aceptar}), Textos{dicho});
+    EXPECT_EQ(cuadros_.at(0).titulo, "Error en Validación");
+    EXPECT_EQ(Estado(), (Banderas{true, true}));
+    EXPECT_TRUE(Enviado().empty());
+  }
+}
+
+}  // namespace
+}  // namespace pruebas

@@ -1,0 +1,90 @@
+#include "tests/support/Maltrato.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "tests/support/Guion.h"
+#include "tests/support/Pantalla.h"
+#include "tests/support/Ventana.h"
+
+namespace pruebas {
+namespace {
+
+constexpr int Desmedida = 300;  // letters: more than any field or column of the system holds
+
+std::string Repetida(const std::string& letra) {
+  std::string texto;
+  for (int i = 0; i < Desmedida; ++i) texto += letra;
+  return texto;
+}
+
+/// The widgets of a kind that a user can reach. The field of a combo box belongs to the box.
+template <class T>
+std::vector<T*> Alcanzables(FXWindow* ventana) {
+  std::vector<T*> piezas = Todos<T>(ventana);
+  const auto ajena = [](T* pieza) { return !Usable(pieza) || dynamic_cast<FXComboBox*>(pieza->getParent()); };
+  piezas.erase(std::remove_if(piezas.begin(), piezas.end(), ajena), piezas.end());
+  return piezas;
+}
+
+void Contesta(FXDialogBox* ventana, bool primero) {
+  if (dynamic_cast<FXMessageBox*>(ventana) == nullptr) {
+    ventana->handle(&App(), FXSEL(SEL_COMMAND, FXDialogBox::ID_CANCEL), nullptr);
+    return;
+  }
+  const std::vector<FXButton*> botones = Todos<FXButton>(ventana);
+  Pulsa(primero ? botones.front() : botones.back());
+}
+
+void EligeEnTodo(FXWindow* ventana) {
+  for (FXComboBox* combo : Alcanzables<FXComboBox>(ventana)) {
+    if (combo->getNumItems() > 0) EligeOpcion(combo, combo->getNumItems() - 1);
+  }
+  for (FXList* lista : Alcanzables<FXList>(ventana)) {
+    if (lista->getNumItems() > 0) EligeRenglon(lista, lista->getNumItems() - 1);
+  }
+  for (FXCheckButton* casilla : Alcanzables<FXCheckButton>(ventana)) Pulsa(casilla);
+}
+
+}  // namespace
+
+const Textos& TextosDesmedidos() {
+  static const Textos textos = {Repetida("ñ"),          Repetida("'"),         Repetida("%s%n"),
+                                Repetida("%99999d \\"), Repetida("9"),         Repetida("-"),
+                                Repetida("x',1);--"),   Repetida("W\n") + "€", ""};
+  return textos;
+}
+
+void TecleaEnTodo(FXWindow* ventana, const std::string& texto) {
+  for (FXTextField* campo : Alcanzables<FXTextField>(ventana)) {
+    if (!campo->isEditable()) continue;
+    Escribe(campo, texto);
+    if (campo->getTextStyle() & TEXTFIELD_LIMITED) {
+      EXPECT_LE(campo->getText().count(), campo->getNumColumns()) << texto;
+    }
+  }
+  for (FXText* parrafo : Alcanzables<FXText>(ventana)) Escribe(parrafo, texto);
+}
+
+Textos Maltrata(FXWindow* ventana, const Textos& omitidos) {
+  Textos dichos;
+  for (const std::string& texto : TextosDesmedidos()) {
+    for (const bool primero : {true, false}) {
+      Guion guion;
+      guion.EnAdelante([primero](FXDialogBox* cuadro) { Contesta(cuadro, primero); });
+      EligeEnTodo(ventana);
+      for (FXButton* boton : Todos<FXButton>(ventana)) {
+        if (std::count(omitidos.begin(), omitidos.end(), Rotulo(boton)) != 0) continue;
+        TecleaEnTodo(ventana, texto);
+        if (Usable(boton)) Pulsa(boton);
+      }
+      const Textos mensajes = guion.Mensajes();
+      EXPECT_EQ(std::count(mensajes.begin(), mensajes.end(), ""), 0) << "un cuadro sin texto tras " << texto;
+      dichos.insert(dichos.end(), mensajes.begin(), mensajes.end());
+    }
+  }
+  return dichos;
+}
+
+}  // namespace pruebas
