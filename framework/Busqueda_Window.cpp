@@ -7,23 +7,26 @@ char sbusqueda[25];
 
 namespace {
 
-FXString Renglon(const cCatalogo_Ctas& cuenta, const char* blancos) {
-  char renglon[56];
-  FormateaCuenta(renglon, cuenta, 24, blancos);
-  return renglon;
+void Pega(FXString& renglon, const char* texto, size_t limite) {
+  renglon.append(texto, static_cast<FXint>(LargoUtf8(texto, limite)));
 }
 
 }  // namespace
 
 Busqueda_Window::Busqueda_Window(FXWindow* owner) : Buscador(owner, 350, "helvica") {
-  for (const auto& [fila, cuenta] : Filas()) Agrega(Renglon(cuenta, " "));
-  Muestra(FindCuenta(sbusqueda));
+  FXint pedida = -1;
+  for (const auto& [fila, cuenta] : Filas()) {
+    if (pedida < 0 && strcmp(cuenta.getCuentaID(), sbusqueda) == 0) pedida = lstFilas->getNumItems();
+    Agrega(RenglonDeCuenta(cuenta, corte, " "));
+  }
+  Muestra(std::max(pedida, 0));
 }
 
 void Busqueda_Window::Filtra() {
   filtro.valor.trimEnd();
   for (const auto& [fila, cuenta] : Filas()) {
-    const FXString renglon = Renglon(cuenta, "  ");  // one blank more than when the dialog opens
+    const FXString renglon =
+        RenglonDeCuenta(cuenta, corte, "  ");  // one blank more than when the dialog opens
     if (renglon.contains(filtro.valor)) Agrega(renglon);
   }
 }
@@ -41,4 +44,12 @@ int FindCuenta(const char* cuentaID) {
     ++posicion;
   }
   return 0;
+}
+
+FXString RenglonDeCuenta(const cCatalogo_Ctas& cuenta, size_t digitos, const char* blancos) {
+  FXString renglon;
+  Pega(renglon, cuenta.getCuentaID(), digitos);
+  renglon.append(blancos);
+  Pega(renglon, cuenta.getCuentaNombre(), 29);
+  return renglon;
 }

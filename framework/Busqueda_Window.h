@@ -35,10 +35,4 @@ int FindCuenta(const char* cuentaID);
 
 /// The account as a list shows it: at most `digitos` bytes of its number, then `blancos`, then at most 29 of
 /// its name, both ending at a whole character.
-template <size_t N>
-void FormateaCuenta(char (&renglon)[N], const cCatalogo_Ctas& cuenta, size_t digitos, const char* blancos) {
-  const char* const numero = cuenta.getCuentaID();
-  const char* const nombre = cuenta.getCuentaNombre();
-  FormateaTexto(renglon, "%.*s%s%.*s", static_cast<int>(LargoUtf8(numero, digitos)), numero, blancos,
-                static_cast<int>(LargoUtf8(nombre, 29)), nombre);
-}
+FXString RenglonDeCuenta(const cCatalogo_Ctas& cuenta, size_t digitos, const char* blancos);

@@ -10,7 +10,7 @@ void DatoCuenta::Pon(const char* nuevo) {
   combo->setCurrentItem(posicion < combo->getNumItems() ? posicion : -1);
 }
 
-Cuentas::Cuentas(FXWindow* forma, FXSelector idCombo, FXSelector idBusca, std::initializer_list<Fila> tabla)
+Cuentas::Cuentas(FXWindow* forma, FXSelector idCombo, FXSelector idBusca, const std::vector<Fila>& tabla)
     : forma(forma), idCombo(idCombo), idBusca(idBusca), tabla(tabla), datos(tabla.size()) {}
 
 void Cuentas::Arma(FXMatrix* matriz, int primera, int ultima) {
@@ -20,11 +20,12 @@ void Cuentas::Arma(FXMatrix* matriz, int primera, int ultima) {
   }
 }
 
-void Cuentas::ArmaCampo(FXComposite* padre, int cual) {
+void Cuentas::ArmaCampo(FXMatrix* matriz, int cual) {
   DatoCuenta& dato = datos[cual];
-  auto* marco = new FXHorizontalFrame(padre, LAYOUT_CENTER_Y, 0, 0, 0, 0, 0, 0, 0, 0);
+  auto* marco = new FXHorizontalFrame(matriz, LAYOUT_CENTER_Y | LAYOUT_FILL_X | LAYOUT_FILL_COLUMN, 0, 0, 0,
+                                      0, 0, 0, 0, 0);
   dato.combo = new FXComboBox(marco, 2, forma, idCombo + cual,
-                              COMBOBOX_STATIC | FRAME_SUNKEN | FRAME_THICK | LAYOUT_CENTER_Y);
+                              COMBOBOX_STATIC | FRAME_SUNKEN | FRAME_THICK | LAYOUT_CENTER_Y | LAYOUT_FILL_X);
   dato.combo->setNumVisible(10);
   dato.letra = std::make_unique<FXFont>(forma->getApp(), "helvica", 8);
   dato.combo->setFont(dato.letra.get());
@@ -33,11 +34,14 @@ void Cuentas::ArmaCampo(FXComposite* padre, int cual) {
 }
 
 void Cuentas::Llena() {
+  std::vector<FXString> renglones;
   for (const auto& [fila, cuenta] : Catalogo::Catalogo_Ctas) {
-    FormateaCuenta(sCuenta, cuenta, 18, "  ");
-    const FXString renglon = sCuenta;
-    for (DatoCuenta& dato : datos) dato.combo->appendItem(renglon);
+    CopiaTexto(sCuenta, RenglonDeCuenta(cuenta, 18, "  ").text());
+    renglones.emplace_back(sCuenta);
   }
+  // One combo box after the other: lists that grow by turns keep moving in memory.
+  for (DatoCuenta& dato : datos)
+    for (const FXString& renglon : renglones) dato.combo->appendItem(renglon);
 }
 
 long Cuentas::Elige(int cual) {

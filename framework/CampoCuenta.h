@@ -25,7 +25,6 @@
 
 #include <fx.h>
 
-#include <initializer_list>
 #include <memory>
 #include <vector>
 
@@ -73,15 +72,15 @@ class Cuentas {
   };
 
   /// Combo box n sends `forma` the message `idCombo` + n, its search button `idBusca` + n.
-  Cuentas(FXWindow* forma, FXSelector idCombo, FXSelector idBusca, std::initializer_list<Fila> tabla);
+  Cuentas(FXWindow* forma, FXSelector idCombo, FXSelector idBusca, const std::vector<Fila>& tabla);
 
   DatoCuenta& operator[](int cual) { return datos[cual]; }
   const char* Etiqueta(int cual) const { return tabla[cual].etiqueta; }
 
   /// The rows of the accounts from `primera` to `ultima`: label and field.
   void Arma(FXMatrix* matriz, int primera, int ultima);
-  /// The field alone: combo box and search button in a frame of their own.
-  void ArmaCampo(FXComposite* padre, int cual);
+  /// The field alone: combo box and search button in a frame of their own, as wide as the column.
+  void ArmaCampo(FXMatrix* matriz, int cual);
   /// Offers every account of the cached chart, whether it takes postings or not, in all the combo boxes.
   void Llena();
 

@@ -170,6 +170,17 @@ TEST_F(CampoCuentaTest, CadaCuentaEsEtiquetaComboYLupa) {
   }
 }
 
+TEST_F(CampoCuentaTest, UnaFormaAngostaEncogeElComboYNoTapaLaLupa) {
+  Abre();
+  for (const FXint cambio : {0, -80, 80}) {
+    forma_->resize(forma_->getDefaultWidth() + cambio, forma_->getHeight());
+    Bombea();
+    const FXWindow* const marco = PiezaJuntoA(forma_.get(), "Cta. Deposito:");
+    EXPECT_EQ(Lupa("Cta. Deposito:")->getX() + Lupa("Cta. Deposito:")->getWidth(), marco->getWidth());
+    EXPECT_LE(marco->getX() + marco->getWidth(), marco->getParent()->getWidth());
+  }
+}
+
 TEST_F(CampoCuentaTest, CadaComboTieneSuPropiaLetra) {
   Abre();
   for (const char* campo : Campos) {
