@@ -14,6 +14,9 @@
 #include "catalogs/finance/cTipoInversion.h"
 #include "catalogs/finance/cTipoMovimiento.h"
 #include "catalogs/finance/cTipoPrestamo.h"
+#include "catalogs/people/cCiudadMex.h"
+#include "catalogs/people/cColonia.h"
+#include "catalogs/people/cEstadoMex.h"
 #include "catalogs/people/cSocioCaja.h"
 #include "catalogs/people/cSujeto.h"
 #include "catalogs/simple/cAsesor.h"
@@ -56,11 +59,14 @@ class Catalogo {
   void LoadFinalidades();
   void LoadTipoMoviBancos();
   void LoadTipoInversiones();
+  void LoadEstadosMex();
+  void LoadCiudadesMex();
   void LoadTiposUsuarios();
   void LoadTiposSocios();
   void LoadModulos();
   void LoadCalculos();
   void LoadAsesor();
+  void LoadColonias();
   void LoadMotivosBaja();
   void LoadClasificacionCreditos();
   void LoadTipoAcreditadosR();
@@ -74,6 +80,12 @@ class Catalogo {
   void LoadSociosCajaF(const char* filtro);
   /// The persons that the server finds for `filtro`, in place of all others; traced.
   void LoadSujetos(const char* filtro);
+  /// The cities of a state, in place of all of them, until LoadCiudadesMex runs again.
+  void LoadCiudadesXEdo(int estado);
+  /// The neighbourhoods of a city, into ColoniasFiltro; traced.
+  void LoadColoniaCD(long ciudad);
+  /// Those of a postal code, into the same list; traced.
+  void LoadColoniaCP(long cp);
 
   // The look-ups: the first row with exactly that key, blanks included, and a blank record when there is
   // none. They never ask the server.
@@ -106,6 +118,8 @@ class Catalogo {
   static std::map<int, cFinalidades> Finalidades;
   static std::map<int, cTipoMoviBanco> TipoMoviBancos;
   static std::map<int, cTipoInversion> TipoInversiones;
+  static std::map<int, cEstadoMex> EstadosMex;
+  static std::map<int, cCiudadMex> CiudadesMex;
   static std::map<int, cTipoUsuario> TiposUsuarios;
   static std::map<int, cTipoSocio> TiposSocios;
   static std::map<int, cModulo> Modulos;
@@ -118,8 +132,10 @@ class Catalogo {
 
   static bool bLoad;  // true once Load has run to its end
 
+  lista<cColonia> Colonias;  // all of them; no form reads it
   lista<cMotivoBaja> MotivosBaja;
   lista<cClasificacionCredito> ClasificacionCreditos;
+  lista<cColonia> ColoniasFiltro;            // those last asked for by city or postal code
   lista<cTipoAcreditadoR> TipoAcreditadosR;  // no form reads it
   lista<cGrupo> Grupos;
   lista<cOcupacion> Ocupaciones;

@@ -16,6 +16,8 @@ std::map<int, cEstados_Credito> Catalogo::Estados_Credito;
 std::map<int, cFinalidades> Catalogo::Finalidades;
 std::map<int, cTipoMoviBanco> Catalogo::TipoMoviBancos;
 std::map<int, cTipoInversion> Catalogo::TipoInversiones;
+std::map<int, cEstadoMex> Catalogo::EstadosMex;
+std::map<int, cCiudadMex> Catalogo::CiudadesMex;
 std::map<int, cTipoUsuario> Catalogo::TiposUsuarios;
 std::map<int, cTipoSocio> Catalogo::TiposSocios;
 std::map<int, cModulo> Catalogo::Modulos;
@@ -48,9 +50,9 @@ const Paso pasos[] = {
     {"9      \n", &Catalogo::LoadFinalidades},
     {"10     \n", &Catalogo::LoadTipoMoviBancos},
     {"11     \n", &Catalogo::LoadTipoInversiones},
-    {"12     \n", nullptr},
+    {"12     \n", &Catalogo::LoadEstadosMex},
     {"13     \n", nullptr},
-    {"Leyendo ciudades\n", nullptr},
+    {"Leyendo ciudades\n", &Catalogo::LoadCiudadesMex},
     {"14     \n", &Catalogo::LoadTiposUsuarios},
     {"15     \n", &Catalogo::LoadTiposSocios},
     {"16     \n", &Catalogo::LoadModulos},
@@ -59,7 +61,7 @@ const Paso pasos[] = {
     {"19     \n", nullptr},
     {"21     ", &Catalogo::LoadAsesor},
     {"22     ", nullptr},
-    {"23     ", nullptr},
+    {"23     ", &Catalogo::LoadColonias},
     {"24     ", &Catalogo::LoadMotivosBaja},
     {"25     ", &Catalogo::LoadClasificacionCreditos},
     {"26     ", nullptr},
@@ -134,6 +136,13 @@ void Catalogo::LoadTipoInversiones() {
                      "Error al cargar catalogo de tipo de inversiones.");
 }
 
+void Catalogo::LoadEstadosMex() { Carga(EstadosMex, Trazada("SELECT * FROM spsestadomex(0);")); }
+
+void Catalogo::LoadCiudadesMex() {
+  CargaEnTransaccion(CiudadesMex, "SELECT * FROM spsciudadmex(0) order by nombreciudadmex;",
+                     "Error al cargar catalogo de ciudad.");
+}
+
 void Catalogo::LoadTiposUsuarios() {
   CargaEnTransaccion(TiposUsuarios, "SELECT * FROM spstipousuario('  ');",
                      "Error al cargar catalogo de tipos de usuario.");
@@ -155,6 +164,8 @@ void Catalogo::LoadCalculos() {
 void Catalogo::LoadAsesor() {
   CargaEnTransaccion(Asesores, "SELECT * FROM spsasesor(0);", "Error al cargar catalogo de asesor.");
 }
+
+void Catalogo::LoadColonias() { Carga(Colonias, Trazada("SELECT * FROM spscolonia(0);")); }
 
 void Catalogo::LoadMotivosBaja() { Carga(MotivosBaja, Trazada("SELECT * FROM spsmotivobaja(0);")); }
 
@@ -196,6 +207,18 @@ void Catalogo::LoadSociosCajaF(const char* filtro) {
 
 void Catalogo::LoadSujetos(const char* filtro) {
   Carga(Sujetos, Trazada(Sentencia("SELECT * FROM spssujetos('%s');", filtro)));
+}
+
+void Catalogo::LoadCiudadesXEdo(int estado) {
+  Carga(CiudadesMex, Sentencia("SELECT * FROM spsciudadxedo(%i) order by nombreciudadmex;", estado));
+}
+
+void Catalogo::LoadColoniaCD(long ciudad) {
+  Carga(ColoniasFiltro, Trazada(Sentencia("SELECT * FROM spscolonias(%li);", ciudad)));
+}
+
+void Catalogo::LoadColoniaCP(long cp) {
+  Carga(ColoniasFiltro, Trazada(Sentencia("SELECT * FROM spscoloniacp(%li);", cp)));
 }
 
 char* Catalogo::TimeStampToStr(long t) {

@@ -1,7 +1,10 @@
-// The records of a key and a description, one row each.
+// The records that are nothing but the pattern, one row each.
 #include <gtest/gtest.h>
 
 #include "app/sesion.h"
+#include "catalogs/people/cCiudadMex.h"
+#include "catalogs/people/cColonia.h"
+#include "catalogs/people/cEstadoMex.h"
 #include "catalogs/simple/cAsesor.h"
 #include "catalogs/simple/cClasificacionCredito.h"
 #include "catalogs/simple/cConceptoScoring.h"
@@ -50,6 +53,7 @@ struct Caso {
   const char* borrado;
   const char* busqueda;
   std::vector<Regla> reglas;
+  unsigned trazas = TrazaNinguna;
 };
 
 #define COLUMNA(R, nombre) De(&R::set##nombre, &R::get##nombre)
@@ -319,6 +323,77 @@ const Caso casos[] = {
      "SELECT spdtipoasentamiento(91);",
      "SELECT * FROM spsasentamiento(91);",
      {{{"7", ""}, "No describio el Asentamiento"}}},
+    {"cEstadoMex",
+     "EstadoMex",
+     Hace(std::vector<Columna<cEstadoMex>>{COLUMNA(cEstadoMex, EstadoMexID),
+                                           COLUMNA(cEstadoMex, ClaveEstadoMex),
+                                           COLUMNA(cEstadoMex, NombreEstadoMex)},
+          7, "A", "Alto"),
+     "[7|A|Alto]",
+     "estadosmex",
+     true,
+     {{}, {3, 3}, {0, 20}},
+     {"33", "ZZ", "Nuevo"},
+     {"33", "Z", "Otro"},
+     {"33", "ZZ ", "Nuevo"},
+     {"33", "Z  ", "Otro"},
+     "select spiestadomex('ZZ ','Nuevo');",
+     "select spuestadomex('Z  ','Otro',33);",
+     "SELECT spdestadomex(33);",
+     "SELECT * FROM spsestadomex(33);",
+     {{{"7", "", ""}, "No se especifico la clave"},
+      {{"7", "", "x"}, "No se especifico la clave"},
+      {{"7", "x", ""}, "No ha especificado el nombre"}}},
+    {"cCiudadMex",
+     "Ciudadades",
+     Hace(std::vector<Columna<cCiudadMex>>{COLUMNA(cCiudadMex, CiudadMexID), COLUMNA(cCiudadMex, EstadoMexID),
+                                           COLUMNA(cCiudadMex, ClaveCiudadMex),
+                                           COLUMNA(cCiudadMex, NombreCiudadMex)},
+          7, "A", "Alta", 5),
+     "[7|5|A|Alta]",
+     "ciudadesmex",
+     true,
+     {{}, {}, {4, 4}, {0, 50}},
+     {"9100", "3", "ZZ", "Nueva"},
+     {"9100", "4", "Z", "Otra"},
+     {"9100", "3", "ZZ  ", "Nueva"},
+     {"9100", "4", "Z   ", "Otra"},
+     "select spiciudadmex(3,'ZZ  ','Nueva');",
+     "select spuciudadmex('Z   ','Otra',4,9100);",
+     "SELECT spdciudadmex(9100);",
+     "SELECT * FROM spsciudadmex(9100);",
+     {{{"7", "", "", ""}, "No se especifico la clave"},
+      {{"7", "5", "", "x"}, "No se especifico la clave"},
+      {{"7", "", "x", ""}, "No ha especificado el nombre"},
+      {{"7", "", "x", "x"}, "No ha especificado el Estado al cual pertenece"},
+      {{"7", "-1", "x", "x"}, "No ha especificado el Estado al cual pertenece"}},
+     TrazaFind},
+    {"cColonia",
+     "",
+     Hace(std::vector<Columna<cColonia>>{COLUMNA(cColonia, ColoniaID), COLUMNA(cColonia, CiudadMexID),
+                                         COLUMNA(cColonia, NombreColonia), COLUMNA(cColonia, CP),
+                                         COLUMNA(cColonia, TipoAsentamientoID)},
+          70'000'000'000, 5, "A", 80'000'000'000, 9),
+     "[70000000000|5|A|80000000000|9]",
+     "colonias",
+     true,
+     {{}, {}, {50, 103}, {}, {}},
+     {"9100", "3", "Fraccionamiento Residencial Jardines de Ensueño I", "45001", "9"},
+     {"9100", "4", "Fraccionamiento Residencial Jardines de Ensueño V", "45002", "2"},
+     {"9100", "3", "Fraccionamiento Residencial Jardines de Ensueño I", "45001", "9"},
+     {"9100", "4", "Fraccionamiento Residencial Jardines de Ensueño V", "45002", "2"},
+     "select spicolonia(3,'Fraccionamiento Residencial Jardines de Ensueño I',45001,9);",
+     "select spucolonia(9100,4,'Fraccionamiento Residencial Jardines de Ensueño V',45002,2);",
+     "SELECT spdcolonia(9100);",
+     "SELECT * FROM spscolonia(9100);",
+     {{{"7", "", "", "", ""}, "El se especifico la clave de la ciudad"},
+      {{"7", "-1", "x", "1", "1"}, "El se especifico la clave de la ciudad"},
+      {{"7", "1", "", "", ""}, "No se especifico el nombre de la colonia"},
+      {{"7", "1", "x", "", ""}, "El codigo postal no se ha especificado"},
+      {{"7", "1", "x", "-1", "1"}, "El codigo postal no se ha especificado"},
+      {{"7", "1", "x", "1", ""}, "El tipo de asentamiento no se ha especificado"},
+      {{"7", "1", "x", "1", "-1"}, "El tipo de asentamiento no se ha especificado"}},
+     TrazaAddNew | TrazaUpdate},
 };
 
 /// The columns as Estado shows them.
@@ -335,16 +410,28 @@ std::unique_ptr<Ficha> Vacia(const Caso& caso) {
   return ficha;
 }
 
-/// As Estado shows a record without a value: an integer key is 0.
+/// As Estado shows a record without a value: a number is 0.
 std::string EstadoVacio(const Caso& caso) {
-  Textos valores(caso.anchos.size());
-  if (caso.anchos[0].maximo == 0) valores[0] = "0";
+  Textos valores;
+  for (const Ancho& ancho : caso.anchos) valores.push_back(ancho.maximo == 0 ? "0" : "");
   return Unidos(valores);
 }
 
 std::string Rellenado(std::string texto, size_t minimo) {
   if (texto.size() < minimo) texto.resize(minimo, ' ');
   return texto;
+}
+
+/// What a record traces that is looked for in vain, inserted, changed, found and deleted.
+Textos TrazasDeLaVida(const Caso& caso) {
+  Textos trazas;
+  for (const auto& [operacion, sentencia] : {std::pair(TrazaFind, caso.busqueda),
+                                             {TrazaAddNew, caso.alta},
+                                             {TrazaUpdate, caso.cambio},
+                                             {TrazaFind, caso.busqueda},
+                                             {TrazaDelete, caso.borrado}})
+    if (caso.trazas & operacion) trazas.push_back(sentencia);
+  return trazas;
 }
 
 class SimpleTest : public testing::TestWithParam<Caso> {};
@@ -405,7 +492,8 @@ TEST_P(SimpleTest, CheckLanzaLaPrimeraReglaRota) {
   EXPECT_EQ(Lanzado([&] { EXPECT_TRUE(ficha->Check()); }), std::nullopt);
 }
 
-/// Against one reference database, which each test leaves as it was; the next key that it assigns is 91.
+/// Against one reference database, which each test leaves as it was; the next key that it assigns is the one
+/// of the row.
 class SimpleServidorTest : public SimpleTest {
  protected:
   static void SetUpTestSuite() { base_ = new BaseDatos; }
@@ -417,9 +505,11 @@ class SimpleServidorTest : public SimpleTest {
   SimpleServidorTest() {
     if (!GetParam().asignada) return;
     const std::string tabla = std::string("norte.") + GetParam().tabla;
-    base_->Ejecuta("do $$ begin execute format('alter table " + tabla +
-                   " alter column %I restart with 91', (select attname from pg_attribute where attrelid = '" +
-                   tabla + "'::regclass and attnum = 1)); end $$");
+    for (const Textos& columna : base_->Filas("select attname from pg_attribute where attidentity <> ''"
+                                              " and attrelid = '" +
+                                              tabla + "'::regclass"))
+      base_->Ejecuta("alter table " + tabla + " alter column " + columna[0] + " restart with " +
+                     GetParam().valores[0]);
   }
 
   /// The rows of the table that hold `fila`.
@@ -436,7 +526,7 @@ class SimpleServidorTest : public SimpleTest {
 
 BaseDatos* SimpleServidorTest::base_ = nullptr;
 
-TEST_P(SimpleServidorTest, LaVidaDeUnRegistroMandaSoloSusSentenciasYNoTrazaNada) {
+TEST_P(SimpleServidorTest, LaVidaDeUnRegistroMandaSoloSusSentenciasYTrazaLasQueDice) {
   const Caso& caso = GetParam();
   Salida salida;
   const auto ficha = Vacia(caso);
@@ -473,7 +563,7 @@ TEST_P(SimpleServidorTest, LaVidaDeUnRegistroMandaSoloSusSentenciasYNoTrazaNada)
   EXPECT_EQ(espia.Sentencias(), (Textos{"BEGIN;", caso.borrado, "COMMIT;"}));
   EXPECT_EQ(ficha->Estado(), Unidos(caso.otraFila));
   EXPECT_EQ(Cuantas(caso.otraFila), 0u);
-  EXPECT_EQ(salida.Texto(), "");
+  EXPECT_EQ(salida.Lineas(), TrazasDeLaVida(caso));
   EXPECT_EQ(Profundidad(), 0);
 }
 
@@ -485,6 +575,7 @@ TEST_P(SimpleServidorTest, UnRechazoSeLanzaYConservaLoEscrito) {
     ficha->Banderas(true, true);
     Espia espia;
     espia.En(1, falla::Error("No"));
+    Salida salida;
     EXPECT_EQ(Lanzado([&] { (ficha.get()->*operacion)(); }), "ERROR:  No\n");
     EXPECT_EQ(ficha->Estado(), Unidos(caso.fila) + " cambiado nuevo");
     EXPECT_EQ(Profundidad(), 1);
@@ -515,13 +606,14 @@ TEST_P(SimpleServidorTest, CheckLanzaAntesDeCualquierSentencia) {
   EXPECT_EQ(ficha->Estado(), EstadoVacio(GetParam()) + " cambiado nuevo");
 }
 
-TEST_P(SimpleServidorTest, FillTomaLasColumnasEnElOrdenDeLosMiembros) {
+TEST_P(SimpleServidorTest, FillTomaLasColumnasEnElOrdenDeLaRespuesta) {
   const Caso& caso = GetParam();
   const auto ficha = Vacia(caso);
   ficha->Banderas(true, true);
-  Ejecuta("select 1, 2, 3 union all select null, null, null");
+  Ejecuta("select 1, 2, 3, 4, 5 union all select null, null, null, null, null");
   ficha->Fill(0);
-  EXPECT_EQ(ficha->Estado(), caso.anchos.size() == 2 ? "[1|2]" : "[1|2|3]");
+  const Textos numeros = {"1", "2", "3", "4", "5"};
+  EXPECT_EQ(ficha->Estado(), Unidos(Textos(numeros.begin(), numeros.begin() + caso.anchos.size())));
   ficha->Fill(1);
   EXPECT_EQ(ficha->Estado(), EstadoVacio(caso));
 }
@@ -553,6 +645,15 @@ TEST_F(cTipoSocioTest, ElCorteDeLasObservacionesNoParteUnaLetra) {
   EXPECT_EQ(Lanzado([&] { socio.Update(); }), std::nullopt);
   EXPECT_EQ(base_.Valor("select observaciones from norte.tiposocio where tiposocioid = 'ZZ'"),
             AcentuadoHasta(200));
+}
+
+TEST(cColonia, SeBuscaTambienConUnaClaveNegativa) {
+  BaseDatos base;
+  Sesion sesion(base);
+  cColonia colonia(-1, 3, "A", 45001, 9, false, false);
+  Espia espia;
+  colonia.Find();
+  EXPECT_EQ(espia.Sentencias(), Textos{"SELECT * FROM spscolonia(-1);"});
 }
 
 TEST(ClaveAsignada, SinRespuestaQuedaLaQueHabia) {
