@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <iterator>
-
 #include "tests/catalogs/Producto.h"
 #include "tests/support/Espia.h"
 #include "tests/support/Registros.h"
@@ -145,12 +142,6 @@ const std::vector<Prueba> reglas = {
     {"ClasificacionContable", "", "Falta capturar la Cuenta de clasificacion contable"},
 };
 
-/// The accounts that may be missing.
-const char* const opcionales[] = {"OrdenDeudorNormalBonificado", "OrdenAcredorNormalBonificado",
-                                  "CuentaFondoRecuperacion",     "CuentaGtosAdm",
-                                  "CuentaIntNormalResVencida",   "OrdenInteresAcreedor",
-                                  "CuentaIntNormalResVigente"};
-
 const std::vector<Prueba> permitido = {
     {"OrdenDeudorNormalBonificado", "", ""},
     {"OrdenAcredorNormalBonificado", "", ""},
@@ -290,18 +281,24 @@ TEST(cTipoPrestamo, ElConstructorCompletoGuardaTodoTalCualEnElOrdenDeLosMiembros
 
 class cTipoPrestamoTest : public ConSucursal {};
 
-TEST_F(cTipoPrestamoTest, SinNingunaDeLasCuentasOpcionalesSeGuarda) {
+TEST_F(cTipoPrestamoTest, SinNadaDeLoOpcionalSeGuarda) {
   T tipo = Valido();
-  for (const auto& campo : campos)
-    if (std::count(std::begin(opcionales), std::end(opcionales), std::string(campo.nombre)))
-      campo.columna.pon(tipo, "");
+  tipo.setOrdenDeudorNormalBonificado("");
+  tipo.setOrdenAcredorNormalBonificado("");
+  tipo.setCuentaFondoRecuperacion("");
+  tipo.setCuentaGtosAdm("");
+  tipo.setCuentaIntNormalResVencida("");
+  tipo.setOrdenInteresAcreedor("");
+  tipo.setCuentaIntNormalResVigente("");
+  tipo.setCuentaRiesgoCredRes("");
+  tipo.setClaveMoviGarantia("");
   Salida salida;
   EXPECT_EQ(Lanzado([&] { tipo.AddNew(); }), std::nullopt);
   EXPECT_EQ(base_.Valor("select num_nulls(ordendeudornormalbonificado, ordenacredornormalbonificado,"
                         " cuentafondorecuperacion, cuentagtosadm, cuentaintnormalresvencida,"
-                        " ordeninteresacreedor, cuentaintnormalresvigente) from norte.tipoprestamo"
-                        " where tipoprestamoid = 'Q'"),
-            "7");
+                        " ordeninteresacreedor, cuentaintnormalresvigente, cuentariesgocredres,"
+                        " tipomovimientoid) from norte.tipoprestamo where tipoprestamoid = 'Q'"),
+            "9");
 }
 
 TEST_F(cTipoPrestamoTest, LaTasaViajaConLosDigitosDeSuPrecisionSencilla) {
