@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "framework/BusquedaSocio_Window.h"
+#include "framework/BusquedaSujeto_Window.h"
 #include "framework/Busqueda_Window.h"
 #include "tests/framework/Cuentas.h"
 #include "tests/support/Espia.h"
@@ -49,6 +50,7 @@ class BuscadorTest : public ConDuenia {
   void EnCadaUno(const std::function<void(const Dialogo&, FXDialogBox*)>& prueba) {
     const Dialogo dialogos[] = {
         De<Busqueda_Window>(sbusqueda, 3, 350, "helvica"),
+        De<BusquedaSujeto_Window>(sbusquedasocio, 0, 500, "courier [adobe]"),
         De<BusquedaSocio_Window>(sbusquedasocio, 0, 500, "courier [adobe]"),
     };
     for (const Dialogo& dialogo : dialogos) {
