@@ -48,6 +48,12 @@ class Buscador : public FXDialogBox {
   /// Refuses a close request from outside.
   long onCmdQuit(FXObject*, FXSelector, void*) { return 1; }
 
+  /// The user can type at once.
+  void create() override {
+    FXDialogBox::create();
+    txtBuscar->setFocus();
+  }
+
  protected:
   Buscador() {}
   /// An empty list `ancho` points wide, written in 8 points of the face `letra`.

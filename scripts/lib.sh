@@ -68,9 +68,9 @@ clave_de() { sed -n "s/^$1 \([^ ]*\) $sucursal .*/\1/p" "$(del_servidor Datos)/d
 
 # Opens the client of preset $1, in place of this shell, with everything but the password filled in. Settings and files
 # are kept in the folder $2 and nowhere else. What the user has set there stays, but for the port, which is the server's
-# to choose.
+# to choose. $3 is the program, if it is not the client itself.
 abre_cliente_en() {
-  local preset=$1 casa=$2 puerto
+  local preset=$1 casa=$2 programa=${3:-corvena} puerto
   local ajustes=$casa/.foxrc/Tolvara/corvena
   puerto=$(del_servidor Puerto)
   if [[ -f $ajustes ]]; then
@@ -89,7 +89,7 @@ AJUSTES
   fi
   [[ -z ${DISPLAY:-} ]] || export XAUTHORITY=${XAUTHORITY:-$HOME/.Xauthority}
   cd "$casa"
-  exec env HOME="$casa" LC_ALL="$(idioma)" "$raiz/build/$preset/corvena"
+  exec env HOME="$casa" LC_ALL="$(idioma)" "$raiz/build/$preset/$programa"
 }
 
 # A Spanish UTF-8 locale if the machine has one, otherwise the one that every Debian has.

@@ -55,8 +55,9 @@ abre_pantalla() {
   espera 'no arranca el administrador de ventanas' xdotool get_num_desktops
 }
 
+# Opens the client, or the program $1 in its place. The trace goes on in the same file.
 abre_cliente() {
-  (abre_cliente_en "$preset" "$HOME") >"$salida/traza.txt" 2>"$salida/errores.txt" </dev/null &
+  (abre_cliente_en "$preset" "$HOME" "${1:-}") >>"$salida/traza.txt" 2>>"$salida/errores.txt" </dev/null &
   cliente=$!
   procesos+=("$cliente")
 }

@@ -1,0 +1,81 @@
+# The windows that no option opens yet, and a date as the forms ask for one.
+paso 'Se abre el muestrario'
+abre_cliente muestrario
+espera_ventana 'Login'
+teclea shift+Tab
+llena "$usuario"
+escribe "$(clave_de "$usuario")"
+teclea Return
+responde 'Validando usuario' Return bienvenida-al-muestrario
+
+# Chooses the entry of the pane "Muestra" at place $1.
+muestra_ventana() {
+  espera_ventana "$principal"
+  teclea alt+m
+  baja "$1"
+  teclea Return
+}
+# Waits for a dialog without a title.
+espera_sin_titulo() { espera 'no aparece el diálogo' es_otra '' "$ventana"; }
+
+paso 'Un asesor se agrega y se borra'
+muestra_ventana 1
+exige_traza 'terminando creacion frm pais'
+nuevo 2 97 'Ñico Lagos'
+captura asesores
+confirma alt+a 'Asesor' asesor-registrar
+exige_dato "SELECT nomasesor FROM asesor WHERE asesorid = 97" 'Ñico Lagos'
+confirma alt+b 'Asesor' asesor-borrar
+exige_dato "SELECT count(*) FROM asesor WHERE asesorid = 97" 0
+teclea alt+c
+
+paso 'Se ven las clasificaciones de créditos'
+muestra_ventana 2
+exige_traza 'terminando creacion frm clasificacioncredito'
+captura clasificaciones
+teclea alt+c
+
+paso 'Se busca una persona'
+muestra_ventana 3
+espera_sin_titulo
+teclea Tab Tab
+escribe 'Mar'
+teclea Tab space # the lens
+exige_traza "SELECT * FROM spssujetos('Mar');"
+teclea Tab Tab End # the last row of the list
+captura personas
+teclea alt+a
+espera_cierre
+
+paso 'Se busca un socio'
+muestra_ventana 4
+espera_sin_titulo
+teclea Tab Tab
+escribe 'Quimera'
+teclea Tab space
+exige_traza "SELECT * FROM spssociocajaf('Quimera');"
+teclea Tab Tab End
+captura socios
+teclea alt+a
+espera_cierre
+
+paso 'Una fecha se escribe y se cambia en el calendario'
+muestra_ventana 5
+espera_ventana 'Fecha'
+teclea Tab
+escribe '31x/1/2026' # the letter is refused
+exige_campo '31/1/2026'
+teclea Tab space
+espera_sin_titulo
+captura calendario
+teclea Tab Tab space # the second day
+captura calendario-otro-dia
+teclea alt+a
+espera_ventana 'Fecha'
+teclea shift+Tab
+exige_campo '02/01/2026'
+captura fecha-elegida
+teclea alt+c
+espera_ventana "$principal"
+teclea ctrl+q
+espera_fin
