@@ -23,6 +23,7 @@ class CamposTest : public testing::Test {
     campoTexto(matriz_, "Descripción:", 30, textoDato_);
     campoReal(matriz_, "Valor :", 10, realDato_);
     campoReal(matriz_, "Ancho:", 400, anchoDato_);
+    campoClave(matriz_, "Número:", 4, enteroDato_, JUSTIFY_RIGHT);
     ventana_->create();
     ventana_->show(PLACEMENT_SCREEN);
     Bombea();
@@ -30,6 +31,7 @@ class CamposTest : public testing::Test {
     texto_ = CampoJuntoA(matriz_, "Descripción:");
     real_ = CampoJuntoA(matriz_, "Valor :");
     ancho_ = CampoJuntoA(matriz_, "Ancho:");
+    entero_ = CampoJuntoA(matriz_, "Número:");
   }
   void TearDown() override { delete ventana_; }
 
@@ -39,13 +41,15 @@ class CamposTest : public testing::Test {
   FXTextField* texto_ = nullptr;
   FXTextField* real_ = nullptr;
   FXTextField* ancho_ = nullptr;
+  FXTextField* entero_ = nullptr;
   DatoTexto claveDato_, textoDato_;
   DatoReal realDato_, anchoDato_;
+  DatoEntero enteroDato_;
 };
 
 TEST_F(CamposTest, CadaRenglonEsUnaEtiquetaYUnCampo) {
-  EXPECT_EQ(Etiquetas(matriz_), (Textos{"Clave:", "Descripción:", "Valor :", "Ancho:"}));
-  EXPECT_EQ(Todos<FXTextField>(matriz_), (std::vector<FXTextField*>{clave_, texto_, real_, ancho_}));
+  EXPECT_EQ(Etiquetas(matriz_), (Textos{"Clave:", "Descripción:", "Valor :", "Ancho:", "Número:"}));
+  EXPECT_EQ(Todos<FXTextField>(matriz_), (std::vector<FXTextField*>{clave_, texto_, real_, ancho_, entero_}));
   for (const FXLabel* etiqueta : Todos<FXLabel>(matriz_)) EXPECT_TRUE(etiqueta->getJustify() & JUSTIFY_LEFT);
 }
 
@@ -59,6 +63,7 @@ TEST_F(CamposTest, CadaClaseTieneSuEstilo) {
       {clave_, 3, TEXTFIELD_LIMITED | TEXTFIELD_ENTER_ONLY, JUSTIFY_LEFT},
       {texto_, 30, TEXTFIELD_LIMITED, JUSTIFY_LEFT},
       {real_, 10, TEXTFIELD_LIMITED | TEXTFIELD_REAL, JUSTIFY_RIGHT},
+      {entero_, 4, TEXTFIELD_LIMITED | TEXTFIELD_ENTER_ONLY | TEXTFIELD_INTEGER, JUSTIFY_RIGHT},
   };
   for (const auto& [campo, columnas, estilo, lado] : campos) {
     EXPECT_EQ(campo->getNumColumns(), columnas);
@@ -78,16 +83,22 @@ TEST_F(CamposTest, LoEscritoLlegaAlMiembro) {
   EXPECT_EQ(realDato_.valor, -125);
   Escribe(real_, "");
   EXPECT_EQ(realDato_.valor, 0);
+  Escribe(entero_, "-12x345");
+  EXPECT_EQ(enteroDato_.valor, -123);
+  Escribe(entero_, "");
+  EXPECT_EQ(enteroDato_.valor, 0);
 }
 
 TEST_F(CamposTest, ElMiembroCambiadoSeMuestra) {
   claveDato_.valor = "MX";
   textoDato_.valor = "Peso";
   realDato_.valor = 17.25;
+  enteroDato_.valor = 1234567;
   Bombea();
   EXPECT_EQ(Leido(matriz_, "Clave:"), "MX");
   EXPECT_EQ(Leido(matriz_, "Descripción:"), "Peso");
   EXPECT_EQ(Leido(matriz_, "Valor :"), "17.25");
+  EXPECT_EQ(Leido(matriz_, "Número:"), "1234567");  // whole, though longer than what can be typed
 }
 
 TEST_F(CamposTest, ElLimiteCuentaLetras) {
@@ -146,6 +157,61 @@ TEST_F(CamposTest, LoQueNoEsUnNumeroTampocoTumbaElCampo) {
     anchoDato_.valor = numero;
     Bombea();
     EXPECT_NE(Leido(matriz_, "Ancho:"), "");
+  }
+}
+
+TEST_F(CamposTest, UnParrafoLlevaSuTextoDeIdaYVuelta) {
+  DatoParrafo dato;
+  campoParrafo(matriz_, "Notas:", 4, 50, dato);
+  ventana_->create();
+  Bombea();
+  EXPECT_EQ(dato.campo->getVisibleRows(), 4);
+  EXPECT_EQ(dato.campo->getVisibleColumns(), 50);
+  EXPECT_EQ(dato.campo->getTextStyle(), FXuint{TEXT_WORDWRAP});
+  EXPECT_EQ(JuntoA<FXText>(matriz_, "Notas:"), dato.campo);
+  Escribe(dato.campo, "árbol\ny flor");
+  EXPECT_EQ(dato.valor, "");  // nothing binds the widget to the member
+  EXPECT_EQ(dato.Valor(), "árbol\ny flor");
+  EXPECT_EQ(dato.valor, "árbol\ny flor");
+  dato.Pon("otro");
+  EXPECT_EQ(dato.campo->getText(), "otro");
+  dato.Pon({});
+  EXPECT_EQ(dato.campo->getText(), "");
+  EXPECT_EQ(dato.Valor(), "");
+}
+
+TEST_F(CamposTest, UnaCasillaMandaSuMensaje) {
+  FXint marcada = 0;
+  FXDataTarget destino(marcada);
+  FXCheckButton* const casilla = campoCasilla(matriz_, "Suma:", &destino, FXDataTarget::ID_VALUE);
+  ventana_->create();
+  Bombea();
+  EXPECT_EQ(JuntoA<FXCheckButton>(matriz_, "Suma:"), casilla);
+  EXPECT_EQ(casilla->getText(), "");
+  Pulsa(casilla);
+  EXPECT_EQ(marcada, 1);
+}
+
+TEST_F(CamposTest, LasClavesDeTextoTienenLugarParaMayusculas) {
+  clave_->setText("WWW");
+  Bombea();
+  EXPECT_GE(clave_->getWidth(), clave_->getFont()->getTextWidth("WWW", 3) + 8);
+  EXPECT_LT(entero_->getWidth(), entero_->getFont()->getTextWidth("WWWW", 4));
+}
+
+TEST_F(CamposTest, UnCampoSeAngostaPeroNoCreceDeMas) {
+  delete ancho_->getPrev();
+  delete ancho_;
+  const FXint pedido = texto_->getDefaultWidth();
+  matriz_->setLayoutHints(LAYOUT_FILL_X);
+  for (const FXint ancho : {600, 200, 600}) {
+    ventana_->resize(ancho, 300);
+    ventana_->layout();
+    matriz_->layout();
+    SCOPED_TRACE(ancho);
+    EXPECT_EQ(texto_->getWidth() == pedido, ancho == 600);
+    EXPECT_LE(texto_->getX() + texto_->getWidth(), matriz_->getWidth());
+    EXPECT_EQ(clave_->getWidth(), clave_->getDefaultWidth());
   }
 }
 

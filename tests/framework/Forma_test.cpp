@@ -42,6 +42,8 @@ class cNota {
   bool IsNew() const { return nuevo_; }
   void setIsNew(bool valor) { nuevo_ = valor; }
   const char* clase() const { return "Nota"; }
+  bool operator>(const cNota& otra) const { return id_ > otra.id_; }
+  bool operator<=(const cNota& otra) const { return id_ <= otra.id_; }
 
   bool Check() {
     Anota("Check");
@@ -72,6 +74,7 @@ class cNota {
 
 cNota nota;
 std::map<int, cNota> cache;     // what the form lists
+lista<cNota> ordenada;          // the same for the short one
 std::map<int, cNota> servidor;  // what the next load puts there
 
 void cNota::AddNew() {
@@ -120,6 +123,47 @@ class Nota_Window : public Forma<Nota_Window, FXDialogBox> {
 };
 
 MAPA_FORMA(Nota_Window, onCmdLista)
+
+/// The short family, over a sorted list, with a message of its own.
+class Corta_Window : public Forma<Corta_Window, FXDialogBox, SinBuscar> {
+  FXDECLARE(Corta_Window)
+ public:
+  enum { ID_PROPIO = ID_LISTA + 1, ID_SALIR, ID_LAST };
+
+  explicit Corta_Window(FXWindow* duenio) : Forma(duenio, "Notas") {
+    ArmaLista("Notas");
+    FXMatrix* matriz = ArmaGrupo("");
+    campoClave(matriz, "Número:", 4, id, JUSTIFY_RIGHT);
+    campoTexto(matriz, "Texto:", 30, texto);
+    ArmaBotones();
+    Comienza();
+  }
+  long onCmdPropio(FXObject*, FXSelector, void*) {
+    Anota("Propio");
+    return 1;
+  }
+
+ protected:
+  Corta_Window() {}
+
+ private:
+  friend Forma;
+  cNota& Actual() { return nota; }
+  auto& Filas() { return ordenada; }
+  void Relee() {
+    ordenada.RemoverTodos();
+    for (const auto& [fila, registro] : servidor) ordenada.Insertar(registro);
+  }
+  auto Datos() {
+    return std::tuple(Liga(id, &cNota::getID, &cNota::setID),
+                      Liga(texto, &cNota::getTexto, &cNota::setTexto));
+  }
+
+  DatoEntero id;
+  DatoTexto texto;
+};
+
+MAPA_FORMA_CORTA(Corta_Window, onCmdLista, MANDO(Corta_Window, ID_PROPIO, onCmdPropio))
 
 class FormaTest : public testing::Test {
  protected:
@@ -299,6 +343,47 @@ TEST_F(FormaTest, UnRenglonQueYaNoEstaEnElCacheNoHaceNada) {
   EligeRenglon(Lista(forma_.get()), 1);
   EXPECT_EQ(Leido(forma_.get(), "Número:"), "0");
   EXPECT_TRUE(nota.IsNew());
+}
+
+TEST_F(FormaTest, UnaCortaNoBuscaYSusMensajesSeRecorren) {
+  EXPECT_EQ(FXSelector{Corta_Window::ID_AGREGAR}, FXSelector{FXDialogBox::ID_LAST});
+  EXPECT_EQ(FXSelector{Corta_Window::ID_CLEAR}, FXSelector{FXDialogBox::ID_LAST} + 1);
+  EXPECT_EQ(FXSelector{Corta_Window::ID_LISTA}, FXSelector{FXDialogBox::ID_LAST} + 3);
+  EXPECT_EQ(FXSelector{Corta_Window::ID_PROPIO}, FXSelector{FXDialogBox::ID_LAST} + 4);
+  EXPECT_EQ(FXSelector{Corta_Window::ID_SALIR}, FXSelector{FXDialogBox::ID_LAST} + 5);
+  Corta_Window corta(duenio_);
+  EXPECT_EQ(Botones(&corta), (Textos{"&Nuevo", "&Borrar", "&Cerrar", "&Aceptar"}));
+  corta.create();
+  corta.show(PLACEMENT_SCREEN);
+  Bombea();
+  Escribe(&corta, "Texto:", "uno");
+  Pulsa(Boton(&corta, "&Nuevo"));  // what would be &Buscar with the ids of the others
+  EXPECT_EQ(Leido(&corta, "Texto:"), "");
+  llamadas.clear();
+  corta.handle(&App(), FXSEL(SEL_COMMAND, Corta_Window::ID_PROPIO), nullptr);
+  EXPECT_EQ(llamadas, Textos{"Propio"});
+  EXPECT_EQ(corta.handle(&App(), FXSEL(SEL_SIGNAL, Corta_Window::ID_SALIR), nullptr), 1);
+}
+
+TEST_F(FormaTest, UnaListaOrdenadaSirveComoElMapa) {
+  Corta_Window corta(duenio_);
+  corta.create();
+  corta.show(PLACEMENT_SCREEN);
+  Bombea();
+  EXPECT_EQ(Lista(&corta)->getNumItems(), 3);
+  EligeRenglon(Lista(&corta), 2);
+  EXPECT_EQ(Leido(&corta, "Número:"), "30");
+  EXPECT_EQ(nota.getID(), 30);
+  Escribe(&corta, "Número:", "20");
+  Escribe(&corta, "Texto:", "otro");
+  nota.setIsNew(true);
+  Guion guion;
+  guion.Responde(Respuesta::Si);
+  Pulsa(Boton(&corta, "&Aceptar"));
+  EXPECT_EQ(Lista(&corta)->getCurrentItem(), 1);
+  ordenada.RemoverTodos();
+  EligeRenglon(Lista(&corta), 0);  // no longer in the cache
+  EXPECT_EQ(Leido(&corta, "Número:"), "20");
 }
 
 TEST_F(FormaTest, LasClavesSeComparanPorSuValor) {

@@ -47,6 +47,16 @@ void Entra(FXDialogBox* ventana, const char* clave) {
   Pulsa(Boton(ventana, "&Aceptar"));
 }
 
+TEST(Guion, EnAdelanteContestaLoQueNoTienePaso) {
+  Guion guion;
+  guion.EnAdelante([](FXDialogBox* ventana) { Pulsa(Todos<FXButton>(ventana).front()); });
+  guion.Responde(Respuesta::No);
+  EXPECT_EQ(Pregunta("¿Uno?"), FXuint{MBOX_CLICKED_NO});
+  EXPECT_EQ(Pregunta("¿Dos?"), FXuint{MBOX_CLICKED_YES});
+  EXPECT_EQ(Error("Tres"), FXuint{MBOX_CLICKED_OK});
+  EXPECT_EQ(guion.Mensajes(), (Textos{"¿Uno?", "¿Dos?", "Tres"}));
+}
+
 TEST(Guion, RespondeYRetrata) {
   Guion guion;
   guion.Responde(Respuesta::Si);

@@ -50,12 +50,13 @@ void Contesta(FXDialogBox* ventana, bool primero) {
   Pulsa(primero ? botones.front() : botones.back());
 }
 
-void EligeEnTodo(FXWindow* ventana) {
+/// The first or the last choice everywhere.
+void EligeEnTodo(FXWindow* ventana, bool primero) {
   for (FXComboBox* combo : Alcanzables<FXComboBox>(ventana)) {
-    if (combo->getNumItems() > 0) EligeOpcion(combo, combo->getNumItems() - 1);
+    if (combo->getNumItems() > 0) EligeOpcion(combo, primero ? 0 : combo->getNumItems() - 1);
   }
   for (FXList* lista : Alcanzables<FXList>(ventana)) {
-    if (lista->getNumItems() > 0) EligeRenglon(lista, lista->getNumItems() - 1);
+    if (lista->getNumItems() > 0) EligeRenglon(lista, primero ? 0 : lista->getNumItems() - 1);
   }
   for (FXCheckButton* casilla : Alcanzables<FXCheckButton>(ventana)) Pulsa(casilla);
 }
@@ -90,7 +91,7 @@ Textos Maltrata(FXWindow* ventana, const Textos& omitidos) {
     for (const bool primero : {true, false}) {
       Guion guion;
       guion.EnAdelante([primero](FXDialogBox* cuadro) { Contesta(cuadro, primero); });
-      EligeEnTodo(ventana);
+      EligeEnTodo(ventana, primero);
       for (FXButton* boton : Alcanzables<FXButton>(ventana)) {
         if (std::count(omitidos.begin(), omitidos.end(), Rotulo(boton)) != 0) continue;
         TecleaEnTodo(ventana, texto);
