@@ -87,8 +87,7 @@ class cDomicilioTest : public ConSucursal {
 };
 
 /// What a refused or unanswered statement comes back with.
-const std::pair<const char*, Falla> rechazos[] = {
-    {"error", falla::Error("No")}, {"nula", falla::Nula()}};
+const std::pair<const char*, Falla> rechazos[] = {{"error", falla::Error("No")}, {"nula", falla::Nula()}};
 
 TEST_F(cDomicilioTest, ElAltaTomaLaClaveDelServidorYTrazaCadaPaso) {
   const std::string alta = std::string("SELECT spidomicilio(") + Valores;

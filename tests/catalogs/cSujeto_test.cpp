@@ -423,8 +423,7 @@ TEST_F(cSujetoTest, FindLeePersonaDomicilioYBienes) {
   EXPECT_EQ(Persona(persona), "1|P|M|N|R|C|41|1965-02-11|Ana y Cía");
   std::string domicilio;
   const Tabla filas = DomicilioEnServidor(1);
-  for (const std::string& columna : filas.at(0))
-    domicilio += (domicilio.empty() ? "" : "|") + columna;
+  for (const std::string& columna : filas.at(0)) domicilio += (domicilio.empty() ? "" : "|") + columna;
   EXPECT_EQ(Estado(persona), domicilio);
   EXPECT_EQ(Propietarios(persona), (Textos{"uno", "dos"}));
   EXPECT_EQ(persona.getBienes().Item(1).getBienID(), std::stol(ids[1]));
