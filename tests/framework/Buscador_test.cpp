@@ -11,6 +11,8 @@
 #include "framework/Busqueda_Window.h"
 #include "tests/framework/Cuentas.h"
 #include "tests/support/Espia.h"
+#include "tests/support/Maltrato.h"
+#include "tests/support/Salida.h"
 #include "tests/support/Ventana.h"
 
 namespace pruebas {
@@ -178,7 +180,15 @@ TEST_F(BuscadorTest, NingunCampoTomaMasDeVeinteLetras) {
   });
 }
 
+TEST_F(BuscadorTest, UnUsuarioDescuidadoNoLosTumba) {
+  const Salida salida;
+  EnCadaUno([](const Dialogo&, FXDialogBox* ventana) {
+    EXPECT_TRUE(Maltrata(ventana, {"&Aceptar", "&Cerrar"}).empty());  // no dialog says anything
+  });
+}
+
 TEST_F(BuscadorTest, ElFiltroInhabilitaElCampoDeBuscarParaSiempre) {
+  const Salida salida;
   EnCadaUno([](const Dialogo&, FXDialogBox* ventana) {
     for (const char* filtro : {"nada que exista", ""}) {
       Escribe(ventana, "Filtro:", filtro);

@@ -10,6 +10,7 @@
 #include "framework/Registro.h"
 #include "tests/framework/Cuentas.h"
 #include "tests/support/Guion.h"
+#include "tests/support/Maltrato.h"
 #include "tests/support/Sesion.h"
 #include "tests/support/Ventana.h"
 
@@ -385,6 +386,8 @@ TEST_F(CampoCuentaTest, UnaCuentaBorradaConLaFormaAbiertaSeConserva) {
   EligeOpcion(Combo("Cta. Deposito:"), 1);
   EXPECT_EQ(Guardado()[0], Catalogo::Catalogo_Ctas[1].getCuentaID());
 }
+
+TEST_F(CampoCuentaTest, UnUsuarioDescuidadoNoTumbaLaForma) { EXPECT_FALSE(Maltrata(Abre()).empty()); }
 
 TEST_F(CampoCuentaTest, VeinteMilCuentasSeOfrecenTodas) {
   PonCartaDe(20000);
