@@ -35,6 +35,32 @@ exige_traza 'terminando creacion frm clasificacioncredito'
 captura clasificaciones
 teclea alt+c
 
+paso 'Un grupo se agrega y se borra'
+muestra_ventana 6
+exige_traza 'terminando creacion frm grupo'
+nuevo 2 '' 'Grupo de los Soñadores'
+confirma alt+a 'Grupo' grupo-registrar
+exige_dato "SELECT count(*) FROM grupo WHERE grupo = 'Grupo de los Soñadores'" 1
+elige_ultimo 2
+exige_campo 'Grupo de los Soñadores'
+captura grupos
+confirma alt+b 'Grupo' grupo-borrar
+exige_dato "SELECT count(*) FROM grupo WHERE grupo = 'Grupo de los Soñadores'" 0
+teclea alt+c
+
+paso 'Se busca una cuenta'
+muestra_ventana 7
+espera_sin_titulo
+escribe '1301x' # no account continues so: the letter is taken back
+exige_campo '1301'
+captura cuentas
+teclea Tab Tab
+escribe 'Bancos'
+teclea Tab space Tab Tab End
+captura cuentas-filtradas
+teclea alt+a
+espera_cierre
+
 paso 'Se busca una persona'
 muestra_ventana 3
 espera_sin_titulo

@@ -8,8 +8,10 @@
 #include "app/Traductor.h"
 #include "catalogs/simple/Asesor_Window.h"
 #include "catalogs/simple/ClasificacionCredito_Window.h"
+#include "catalogs/simple/Grupo_Window.h"
 #include "framework/BusquedaSocio_Window.h"
 #include "framework/BusquedaSujeto_Window.h"
+#include "framework/Busqueda_Window.h"
 #include "framework/Iconos.h"
 #include "icons/iconos.h"
 #include "widgets/Calendario_Window.h"
@@ -84,7 +86,7 @@ class Muestrario : public Caja {
   static const struct Muestra {
     const char* etiqueta;
     void (*abre)(Muestrario* principal);
-  } muestras[5];
+  } muestras[7];
 
   FXMenuPane* panel = nullptr;
 };
@@ -95,11 +97,13 @@ const Muestrario::Muestra Muestrario::muestras[] = {
     {"&Personas", Muestrario::Dialogo<BusquedaSujeto_Window>},
     {"&Socios", Muestrario::Dialogo<BusquedaSocio_Window>},
     {"&Fecha", Muestrario::Dialogo<Fecha_Window>},
+    {"&Grupos", Muestrario::Hija<Grupo_Window>},
+    {"C&uentas", Muestrario::Dialogo<Busqueda_Window>},
 };
 
 FXDEFMAP(Muestrario)
 MuestrarioMap[] = {
-    FXMAPFUNCS(SEL_COMMAND, Muestrario::ID_MUESTRA, Muestrario::ID_MUESTRA + 4, Muestrario::onCmdMuestra),
+    FXMAPFUNCS(SEL_COMMAND, Muestrario::ID_MUESTRA, Muestrario::ID_MUESTRA + 6, Muestrario::onCmdMuestra),
 };
 FXIMPLEMENT(Muestrario, Caja, MuestrarioMap, ARRAYNUMBER(MuestrarioMap))
 

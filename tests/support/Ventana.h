@@ -89,7 +89,7 @@ void EligeOpcion(FXComboBox* combo, FXint opcion);
 /// Lets the event loop run for a while, then brings every widget up to date with its target.
 void Bombea(FXuint milisegundos = 1);
 /// Lets the event loop run until the condition holds; false when it does not within the time.
-bool BombeaHasta(const std::function<bool()>& condicion, FXuint milisegundos = 5000);
+bool BombeaHasta(const std::function<bool()>& condicion, FXuint milisegundos = 20000);
 
 /// A main window with nothing but an area for child forms, closed with the object together with all its forms
 /// and dialogs:
