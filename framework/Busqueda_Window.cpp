@@ -1,5 +1,7 @@
 #include "framework/Busqueda_Window.h"
 
+#include "framework/Filas.h"
+
 FXIMPLEMENT(Busqueda_Window, FXDialogBox, mapaDeBuscador<Busqueda_Window>,
             ARRAYNUMBER(mapaDeBuscador<Busqueda_Window>))
 
@@ -38,12 +40,7 @@ const char* EligeCuenta(FXWindow* owner, const FXString& cuenta) {
 }
 
 int FindCuenta(const char* cuentaID) {
-  int posicion = 0;
-  for (const auto& [fila, cuenta] : Catalogo::Catalogo_Ctas) {
-    if (strcmp(cuenta.getCuentaID(), cuentaID) == 0) return posicion;
-    ++posicion;
-  }
-  return 0;
+  return PosicionDe(Catalogo::Catalogo_Ctas, &cCatalogo_Ctas::getCuentaID, cuentaID);
 }
 
 FXString RenglonDeCuenta(const cCatalogo_Ctas& cuenta, size_t digitos, const char* blancos) {

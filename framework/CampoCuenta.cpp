@@ -24,11 +24,8 @@ void Cuentas::ArmaCampo(FXMatrix* matriz, int cual) {
   DatoCuenta& dato = datos[cual];
   auto* marco = new FXHorizontalFrame(matriz, LAYOUT_CENTER_Y | LAYOUT_FILL_X | LAYOUT_FILL_COLUMN, 0, 0, 0,
                                       0, 0, 0, 0, 0);
-  dato.combo = new FXComboBox(marco, 2, forma, idCombo + cual,
-                              COMBOBOX_STATIC | FRAME_SUNKEN | FRAME_THICK | LAYOUT_CENTER_Y | LAYOUT_FILL_X);
-  dato.combo->setNumVisible(10);
-  dato.letra = std::make_unique<FXFont>(forma->getApp(), "helvica", 8);
-  dato.combo->setFont(dato.letra.get());
+  dato.combo = campoCombo(marco, nullptr, 10, forma, idCombo + cual);
+  dato.letra = LetraChica(dato.combo);
   new FXButton(marco, FXString::null, icono(forma->getApp(), iconos::find_icon), forma, idBusca + cual,
                FRAME_RAISED | FRAME_THICK | LAYOUT_CENTER_Y);
 }

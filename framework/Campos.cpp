@@ -7,14 +7,14 @@ namespace {
 constexpr FXuint opcionesDeCampo =
     FRAME_SUNKEN | FRAME_THICK | TEXTFIELD_LIMITED | LAYOUT_CENTER_Y | LAYOUT_FILL_X | LAYOUT_FILL_COLUMN;
 
-void Etiqueta(FXMatrix* matriz, const char* texto) {
-  new FXLabel(matriz, texto, nullptr, LABEL_NORMAL | JUSTIFY_LEFT | LAYOUT_CENTER_Y);
+void Etiqueta(FXComposite* padre, const char* texto) {
+  if (texto != nullptr) new FXLabel(padre, texto, nullptr, LABEL_NORMAL | JUSTIFY_LEFT | LAYOUT_CENTER_Y);
 }
 
 template <class Clase, class T>
-void Renglon(FXMatrix* matriz, const char* etiqueta, int columnas, Dato<T>& dato, FXuint opciones) {
-  Etiqueta(matriz, etiqueta);
-  dato.campo = new Clase(matriz, columnas, &dato.destino, FXDataTarget::ID_VALUE, opcionesDeCampo | opciones);
+void Renglon(FXComposite* padre, const char* etiqueta, int columnas, Dato<T>& dato, FXuint opciones) {
+  Etiqueta(padre, etiqueta);
+  dato.campo = new Clase(padre, columnas, &dato.destino, FXDataTarget::ID_VALUE, opcionesDeCampo | opciones);
 }
 
 template <class Numero>
@@ -40,20 +40,40 @@ long CampoReal::onCmdSetRealValue(FXObject*, FXSelector, void* valor) {
   return 1;
 }
 
-void campoClave(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato) {
-  Renglon<CampoClave>(matriz, etiqueta, columnas, dato, JUSTIFY_LEFT | TEXTFIELD_ENTER_ONLY);
+void DatoOpcion::Pon(std::optional<int> nuevo) {
+  const int opcion = nuevo.value_or(-1);
+  combo->setCurrentItem(opcion >= 0 && opcion < combo->getNumItems() ? opcion : -1);
 }
 
-void campoClave(FXMatrix* matriz, const char* etiqueta, int columnas, DatoEntero& dato, FXuint lado) {
-  Renglon<Campo>(matriz, etiqueta, columnas, dato, lado | TEXTFIELD_ENTER_ONLY | TEXTFIELD_INTEGER);
+FXComposite* campoRenglon(FXMatrix* matriz, const char* etiqueta) {
+  Etiqueta(matriz, etiqueta);
+  return new FXHorizontalFrame(matriz, LAYOUT_CENTER_Y, 0, 0, 0, 0, 0, 0, 0, 0);
 }
 
-void campoTexto(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato) {
-  Renglon<Campo>(matriz, etiqueta, columnas, dato, JUSTIFY_LEFT);
+FXMatrix* campoMatriz(FXMatrix* matriz, int columnas) {
+  matriz->setLayoutHints(LAYOUT_FILL_X);
+  return new FXMatrix(static_cast<FXComposite*>(matriz->getParent()), columnas,
+                      MATRIX_BY_COLUMNS | LAYOUT_FILL_X, 0, 0, 0, 0, 4, 4, 2, 2);
 }
 
-void campoReal(FXMatrix* matriz, const char* etiqueta, int columnas, DatoReal& dato) {
-  Renglon<CampoReal>(matriz, etiqueta, columnas, dato, JUSTIFY_RIGHT | TEXTFIELD_REAL);
+void campoClave(FXComposite* padre, const char* etiqueta, int columnas, DatoTexto& dato) {
+  Renglon<CampoClave>(padre, etiqueta, columnas, dato, JUSTIFY_LEFT | TEXTFIELD_ENTER_ONLY);
+}
+
+void campoClave(FXComposite* padre, const char* etiqueta, int columnas, DatoEntero& dato, FXuint lado) {
+  Renglon<Campo>(padre, etiqueta, columnas, dato, lado | TEXTFIELD_ENTER_ONLY | TEXTFIELD_INTEGER);
+}
+
+void campoTexto(FXComposite* padre, const char* etiqueta, int columnas, DatoTexto& dato) {
+  Renglon<Campo>(padre, etiqueta, columnas, dato, JUSTIFY_LEFT);
+}
+
+void campoReal(FXComposite* padre, const char* etiqueta, int columnas, DatoReal& dato) {
+  Renglon<CampoReal>(padre, etiqueta, columnas, dato, JUSTIFY_RIGHT | TEXTFIELD_REAL);
+}
+
+void campoEntero(FXComposite* padre, const char* etiqueta, int columnas, DatoEntero& dato, FXuint filtro) {
+  Renglon<Campo>(padre, etiqueta, columnas, dato, JUSTIFY_RIGHT | filtro);
 }
 
 void campoParrafo(FXMatrix* matriz, const char* etiqueta, int filas, int columnas, DatoParrafo& dato) {
@@ -66,8 +86,24 @@ void campoParrafo(FXMatrix* matriz, const char* etiqueta, int filas, int columna
   dato.campo->setVisibleColumns(columnas);
 }
 
-FXCheckButton* campoCasilla(FXMatrix* matriz, const char* etiqueta, FXObject* destino, FXSelector mensaje) {
-  Etiqueta(matriz, etiqueta);
-  return new FXCheckButton(matriz, "", destino, mensaje,
+FXCheckButton* campoCasilla(FXComposite* padre, const char* etiqueta, FXObject* destino, FXSelector mensaje) {
+  Etiqueta(padre, etiqueta);
+  return new FXCheckButton(padre, "", destino, mensaje,
                            CHECKBUTTON_NORMAL | LAYOUT_CENTER_Y | LAYOUT_FILL_COLUMN);
+}
+
+FXComboBox* campoCombo(FXComposite* padre, const char* etiqueta, int visibles, FXObject* destino,
+                       FXSelector mensaje) {
+  Etiqueta(padre, etiqueta);
+  auto* combo = new FXComboBox(
+      padre, 2, destino, mensaje,
+      COMBOBOX_STATIC | FRAME_SUNKEN | FRAME_THICK | LAYOUT_CENTER_Y | LAYOUT_FILL_X | LAYOUT_FILL_COLUMN);
+  combo->setNumVisible(visibles);
+  return combo;
+}
+
+std::unique_ptr<FXFont> LetraChica(FXComboBox* combo) {
+  auto letra = std::make_unique<FXFont>(combo->getApp(), "helvica", 8);
+  combo->setFont(letra.get());
+  return letra;
 }

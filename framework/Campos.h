@@ -1,10 +1,14 @@
 // The rows of a form: a label and a field, bound to a member of the form.
 //
 // A row is one call that reads like the screen:  campoTexto(matriz, "Descripción:", 30, descri);
-// The number of columns is also the longest text, in characters.
+// The number of columns is also the longest text, in characters. A null label makes the field alone, for a
+// row of several fields.
 #pragma once
 
 #include <fx.h>
+
+#include <memory>
+#include <optional>
 
 /// A member of a form and what binds it to its field: what the user types is in `valor` at once, and Pon
 /// shows in the field what the program stores. T is FXString, FXint or FXdouble.
@@ -37,6 +41,51 @@ struct DatoParrafo {
     campo->setText(valor);
   }
   const FXString& Valor() { return valor = campo->getText(); }
+};
+
+/// A check button whose state is the value, one of two; a third that is read unchecks it.
+template <class T>
+class DatoCasilla {
+ public:
+  DatoCasilla(const T& si, const T& no) : si(si), no(no) {}
+  void Pon(const T& nuevo) { boton->setCheck(nuevo == si); }
+  T Valor() const { return boton->getCheck() ? si : no; }
+
+  FXCheckButton* boton = nullptr;
+
+ private:
+  T si;
+  T no;
+};
+
+/// A check button that says "S" or "N" from the moment it is pressed; until then what was read stays as it
+/// is. Null, which is what `Pon({})` passes, is "N".
+class DatoSN {
+ public:
+  void Pon(const char* nuevo) {
+    valor = nuevo != nullptr ? nuevo : "N";
+    boton->setCheck(valor == "S");
+  }
+  const FXString& Valor() const { return valor; }
+  /// What the handler of the button does.
+  long Elige() {
+    valor = boton->getCheck() ? "S" : "N";
+    return 1;
+  }
+
+  FXCheckButton* boton = nullptr;
+
+ private:
+  FXString valor;
+};
+
+/// A combo box of which the number of the current item is the value, -1 for none. Nothing, which is what
+/// `Pon({})` passes, and a number that it does not have leave it without one.
+struct DatoOpcion {
+  void Pon(std::optional<int> nuevo);
+  FXint Valor() const { return combo->getCurrentItem(); }
+
+  FXComboBox* combo = nullptr;
 };
 
 /// A text field as wide as its columns, and narrower where its row has no room for them.
@@ -72,15 +121,32 @@ class CampoReal : public Campo {
   CampoReal() {}
 };
 
+/// A row of several fields: its label, and the frame that they go into.
+FXComposite* campoRenglon(FXMatrix* matriz, const char* etiqueta);
+
+/// A further matrix in the box of `matriz`, which leaves it what its own rows do not need.
+FXMatrix* campoMatriz(FXMatrix* matriz, int columnas);
+
 /// The key: acts on Enter only. `lado` is JUSTIFY_LEFT or JUSTIFY_RIGHT; one that is a number takes nothing
 /// else.
-void campoClave(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato);
-void campoClave(FXMatrix* matriz, const char* etiqueta, int columnas, DatoEntero& dato,
+void campoClave(FXComposite* padre, const char* etiqueta, int columnas, DatoTexto& dato);
+void campoClave(FXComposite* padre, const char* etiqueta, int columnas, DatoEntero& dato,
                 FXuint lado = JUSTIFY_LEFT);
-void campoTexto(FXMatrix* matriz, const char* etiqueta, int columnas, DatoTexto& dato);
+void campoTexto(FXComposite* padre, const char* etiqueta, int columnas, DatoTexto& dato);
 /// Takes real numbers only, right-justified.
-void campoReal(FXMatrix* matriz, const char* etiqueta, int columnas, DatoReal& dato);
+void campoReal(FXComposite* padre, const char* etiqueta, int columnas, DatoReal& dato);
+/// Takes what `filtro` lets through, right-justified; the whole number at its start counts.
+void campoEntero(FXComposite* padre, const char* etiqueta, int columnas, DatoEntero& dato,
+                 FXuint filtro = TEXTFIELD_INTEGER);
 /// Shows that many rows and columns, and takes a text of any length; lines are wrapped between words.
 void campoParrafo(FXMatrix* matriz, const char* etiqueta, int filas, int columnas, DatoParrafo& dato);
 /// A box to check, which sends `mensaje` to `destino`.
-FXCheckButton* campoCasilla(FXMatrix* matriz, const char* etiqueta, FXObject* destino, FXSelector mensaje);
+FXCheckButton* campoCasilla(FXComposite* padre, const char* etiqueta, FXObject* destino = nullptr,
+                            FXSelector mensaje = 0);
+/// A combo box to choose from, as wide as its column, which shows that many items and sends `mensaje` to
+/// `destino`.
+FXComboBox* campoCombo(FXComposite* padre, const char* etiqueta, int visibles, FXObject* destino = nullptr,
+                       FXSelector mensaje = 0);
+
+/// Gives a combo box the small letters of the accounts, in a font of its own, which has to outlive its use.
+std::unique_ptr<FXFont> LetraChica(FXComboBox* combo);

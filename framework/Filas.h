@@ -2,6 +2,7 @@
 // number, and a sorted list.
 #pragma once
 
+#include <cstring>
 #include <map>
 
 #include "widgets/lista.h"
@@ -15,6 +16,21 @@ void CadaFila(const std::map<int, T>& filas, Accion accion) {
 template <class T, class Accion>
 void CadaFila(lista<T>& filas, Accion accion) {
   for (int posicion = 0; posicion < filas.NumElementos(); ++posicion) accion(posicion, filas.Item(posicion));
+}
+
+/// Do two keys, as their getters give them, name the same row?
+inline bool MismaClave(const char* a, const char* b) { return strcmp(a, b) == 0; }
+inline bool MismaClave(long a, long b) { return a == b; }
+
+/// Position of the first row with this key; 0 if there is none.
+template <class T, class Clave>
+int PosicionDe(const std::map<int, T>& filas, Clave (T::*getter)() const, Clave clave) {
+  int posicion = 0;
+  for (const auto& [fila, registro] : filas) {
+    if (MismaClave((registro.*getter)(), clave)) return posicion;
+    ++posicion;
+  }
+  return 0;
 }
 
 /// Copies the row at a position into `registro`; false, and nothing is copied, when there is no such row.

@@ -18,7 +18,6 @@
 
 #include <fx.h>
 
-#include <cstring>
 #include <iostream>
 #include <tuple>
 #include <type_traits>
@@ -30,10 +29,6 @@
 #include "icons/iconos.h"
 #include "widgets/TextoAcotado.h"
 #include "widgets/cajas.h"
-
-/// Do two keys, as their getters give them, name the same row?
-inline bool MismaClave(const char* a, const char* b) { return strcmp(a, b) == 0; }
-inline bool MismaClave(long a, long b) { return a == b; }
 
 /// Passes the member of a field to a setter of the record; a number narrows to what the setter takes.
 template <class Registro, class Clase, class Argumento, class Valor>
@@ -358,24 +353,25 @@ void Forma<Ventana, Base, busqueda>::Falla(const char* texto) {
   cajaError(duenio, "Error en Validación", texto);
 }
 
-/// The message map of the form `Clase`, whose list runs `manejador`, and its class record. Entries of its own
-/// (MANDO, FXMAPFUNC) follow these two and stand behind the list's.
+/// The message map of the form `Clase` with these entries (MANDO, FXMAPFUNC), and its class record.
 // clang-format off
+#define MAPA_PROPIO(Clase, ...)                                           \
+  FXDEFMAP(Clase) Clase##Map[] = {__VA_ARGS__};                           \
+  FXIMPLEMENT(Clase, Clase::Marco, Clase##Map, ARRAYNUMBER(Clase##Map))
+
+/// The same with the entries of every form, whose list runs `manejador`. Entries of its own follow these two
+/// and stand behind the list's.
 #define MAPA_FORMA(Clase, manejador, ...)                                 \
-  FXDEFMAP(Clase) Clase##Map[] = {                                        \
+  MAPA_PROPIO(Clase,                                                      \
       MANDO(Clase, ID_AGREGAR, onCmdAgregar),                             \
       MANDO(Clase, ID_FIND, onCmdFind),                                   \
-      MAPA_FORMA_RESTO(Clase, manejador, __VA_ARGS__)                     \
-  };                                                                      \
-  FXIMPLEMENT(Clase, Clase::Marco, Clase##Map, ARRAYNUMBER(Clase##Map))
+      MAPA_FORMA_RESTO(Clase, manejador, __VA_ARGS__))
 
 /// The same for a form without &Buscar.
 #define MAPA_FORMA_CORTA(Clase, manejador, ...)                           \
-  FXDEFMAP(Clase) Clase##Map[] = {                                        \
+  MAPA_PROPIO(Clase,                                                      \
       MANDO(Clase, ID_AGREGAR, onCmdAgregar),                             \
-      MAPA_FORMA_RESTO(Clase, manejador, __VA_ARGS__)                     \
-  };                                                                      \
-  FXIMPLEMENT(Clase, Clase::Marco, Clase##Map, ARRAYNUMBER(Clase##Map))
+      MAPA_FORMA_RESTO(Clase, manejador, __VA_ARGS__))
 
 /// An entry of a map: the command `mensaje` runs `manejador`.
 #define MANDO(Clase, mensaje, manejador) FXMAPFUNC(SEL_COMMAND, Clase::mensaje, Clase::manejador)

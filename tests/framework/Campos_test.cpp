@@ -215,5 +215,166 @@ TEST_F(CamposTest, UnCampoSeAngostaPeroNoCreceDeMas) {
   }
 }
 
+// Whole numbers.
+
+TEST_F(CamposTest, UnEnteroTomaLoQueSuFiltroDejaYGuardaSuComienzo) {
+  DatoEntero entero, conPunto;
+  campoEntero(matriz_, "Plazo:", 5, entero);
+  campoEntero(matriz_, "Tope:", 5, conPunto, TEXTFIELD_REAL);
+  ventana_->create();
+  EXPECT_EQ(CampoJuntoA(matriz_, "Plazo:")->getTextStyle(), FXuint{TEXTFIELD_LIMITED | TEXTFIELD_INTEGER});
+  EXPECT_EQ(CampoJuntoA(matriz_, "Tope:")->getTextStyle(), FXuint{TEXTFIELD_LIMITED | TEXTFIELD_REAL});
+  const struct {
+    const char* tecleado;
+    int entero, conPunto;
+  } casos[] = {{"12", 12, 12}, {"-7", -7, -7}, {"123456", 12345, 12345},
+               {"1.5", 15, 1}, {"", 0, 0},     {"x", 0, 0}};
+  for (const auto& [tecleado, valor, valorConPunto] : casos) {
+    SCOPED_TRACE(tecleado);
+    Escribe(matriz_, "Plazo:", tecleado);
+    Escribe(matriz_, "Tope:", tecleado);
+    EXPECT_EQ(entero.valor, valor);
+    EXPECT_EQ(conPunto.valor, valorConPunto);
+    EXPECT_EQ(CampoJuntoA(matriz_, "Tope:")->getJustify() & JUSTIFY_RIGHT, FXuint{JUSTIFY_RIGHT});
+  }
+  entero.Pon(365);
+  EXPECT_EQ(Leido(matriz_, "Plazo:"), "365");
+}
+
+// Check buttons.
+
+TEST_F(CamposTest, UnaCasillaValeLoQueMuestra) {
+  DatoCasilla<FXString> texto("S", "N");
+  DatoCasilla<FXint> numero(1, 0);
+  texto.boton = campoCasilla(matriz_, "Texto:");
+  numero.boton = campoCasilla(matriz_, "Número:");
+  ventana_->create();
+  Bombea();
+  for (const bool marcada : {true, false}) {
+    Pulsa(texto.boton);
+    Pulsa(numero.boton);
+    EXPECT_EQ(texto.Valor(), marcada ? "S" : "N");
+    EXPECT_EQ(numero.Valor(), marcada ? 1 : 0);
+  }
+  const std::pair<const char*, const char*> leidos[] = {{"S", "S"}, {"N", "N"}, {"X", "N"}, {"s", "N"}};
+  for (const auto& [leido, vale] : leidos) {
+    texto.Pon(leido);
+    EXPECT_EQ(texto.Valor(), vale) << leido;
+  }
+  for (const auto& [leido, vale] : {std::pair(1, 1), {0, 0}, {2, 0}}) {
+    numero.Pon(leido);
+    EXPECT_EQ(numero.Valor(), vale);
+  }
+  texto.Pon("S");
+  numero.Pon(1);
+  texto.Pon({});
+  numero.Pon({});
+  EXPECT_EQ(texto.Valor(), "N");
+  EXPECT_EQ(numero.Valor(), 0);
+}
+
+TEST_F(CamposTest, UnSNConservaLoLeidoHastaQueSePulsa) {
+  DatoSN dato;
+  dato.boton = campoCasilla(matriz_, "Aplica:");
+  ventana_->create();
+  Bombea();
+  const std::pair<const char*, bool> leidos[] = {{"S", true}, {"N", false}, {"", false}, {"X", false}};
+  for (const auto& [leido, marcada] : leidos) {
+    SCOPED_TRACE(leido);
+    dato.Pon(leido);
+    EXPECT_EQ(dato.boton->getCheck(), marcada);
+    EXPECT_EQ(dato.Valor(), leido);
+    Pulsa(dato.boton);
+    EXPECT_EQ(dato.Valor(), leido);  // the handler's business
+    EXPECT_EQ(dato.Elige(), 1);
+    EXPECT_EQ(dato.Valor(), marcada ? "N" : "S");
+  }
+  dato.Pon({});
+  EXPECT_FALSE(dato.boton->getCheck());
+  EXPECT_EQ(dato.Valor(), "N");
+}
+
+// Combo boxes.
+
+TEST_F(CamposTest, UnaOpcionValeSuLugar) {
+  DatoOpcion dato;
+  dato.combo = campoCombo(matriz_, "Clase:", 2);
+  dato.combo->appendItem("una");
+  dato.combo->appendItem("otra");
+  ventana_->create();
+  Bombea();
+  EligeOpcion(dato.combo, 1);
+  EXPECT_EQ(dato.Valor(), 1);
+  dato.Pon(0);
+  EXPECT_EQ(dato.combo->getText(), "una");
+  for (const int ajena : {2, 1000, -1, -5}) {
+    dato.Pon(0);
+    dato.Pon(ajena);
+    EXPECT_EQ(dato.Valor(), -1);
+    EXPECT_EQ(dato.combo->getText(), "");
+  }
+  dato.Pon(1);
+  dato.Pon({});
+  EXPECT_EQ(dato.Valor(), -1);
+}
+
+TEST_F(CamposTest, UnComboEsEstaticoYMuestraLosRenglonesDichos) {
+  FXComboBox* const combo = campoCombo(matriz_, "Clase:", 7, &App(), 5);
+  EXPECT_EQ(PiezaJuntoA(matriz_, "Clase:"), combo);
+  EXPECT_EQ(combo->getComboStyle(), FXuint{COMBOBOX_STATIC});
+  EXPECT_EQ(combo->getNumVisible(), 7);
+  EXPECT_EQ(combo->getNumColumns(), 2);
+  EXPECT_EQ(combo->getTarget(), &App());
+  EXPECT_EQ(combo->getSelector(), 5u);
+}
+
+TEST_F(CamposTest, LaLetraChicaEsDeCadaCombo) {
+  FXComboBox* const combo = campoCombo(matriz_, "Clase:", 7);
+  FXComboBox* const otro = campoCombo(matriz_, "Clase:", 7);
+  const auto letra = LetraChica(combo);
+  const auto otra = LetraChica(otro);
+  EXPECT_EQ(combo->getFont(), letra.get());
+  EXPECT_NE(otro->getFont(), letra.get());
+  EXPECT_EQ(letra->getName(), "helvica");
+  EXPECT_EQ(letra->getSize(), 80u);  // tenths of a point
+  EXPECT_EQ(letra->getWeight(), FXuint{FXFont::Normal});
+  EXPECT_EQ(letra->getSlant(), FXuint{FXFont::Straight});
+}
+
+// Rows of several fields.
+
+TEST_F(CamposTest, UnRenglonTieneVariosCamposUnoTrasOtro) {
+  DatoReal monto, tope;
+  FXComposite* const renglon = campoRenglon(matriz_, "Monto Minimo:");
+  campoReal(renglon, nullptr, 6, monto);
+  campoReal(renglon, "Monto Maximo:", 6, tope);
+  ventana_->create();
+  Bombea();
+  EXPECT_EQ(PiezaJuntoA(matriz_, "Monto Minimo:"), renglon);
+  EXPECT_EQ(Etiquetas(renglon), Textos{"Monto Maximo:"});
+  EXPECT_EQ(Todos<FXTextField>(renglon).size(), 2u);
+  Escribe(matriz_, "Monto Minimo:", "5");
+  Escribe(renglon, "Monto Maximo:", "7");
+  EXPECT_EQ(monto.valor, 5);
+  EXPECT_EQ(tope.valor, 7);
+}
+
+TEST_F(CamposTest, OtraMatrizQuedaDebajoEnLaMismaCaja) {
+  auto* const caja = new FXGroupBox(ventana_, "Datos", FRAME_GROOVE | LAYOUT_FILL);
+  auto* const primera = new FXMatrix(caja, 2, MATRIX_BY_COLUMNS | LAYOUT_FILL);
+  DatoTexto uno, otro;
+  campoTexto(primera, "Uno:", 10, uno);
+  FXMatrix* const segunda = campoMatriz(primera, 4);
+  campoTexto(segunda, "Otro:", 10, otro);
+  ventana_->create();
+  ventana_->layout();
+  EXPECT_EQ(segunda->getParent(), caja);
+  EXPECT_EQ(segunda->getNumColumns(), 4);
+  EXPECT_GE(primera->getHeight(), primera->getDefaultHeight());
+  EXPECT_GE(segunda->getHeight(), segunda->getDefaultHeight());
+  EXPECT_GE(segunda->getY(), primera->getY() + primera->getHeight());
+  EXPECT_LE(segunda->getY() + segunda->getHeight(), caja->getHeight());
+}
+
 }  // namespace
 }  // namespace pruebas
