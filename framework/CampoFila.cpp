@@ -7,3 +7,7 @@ int FindCalculo(long numero) { return PosicionDe(Catalogo::Calculos, &cCalculo::
 int FindTipoMovimiento(const char* tipoMovimientoID) {
   return PosicionDe(Catalogo::TipoMovimiento, &cTipoMovimiento::getTipoMovimientoID, tipoMovimientoID);
 }
+
+int FindFinalidad(const char* claveFinalidad) {
+  return PosicionDe(Catalogo::Finalidades, &cFinalidades::getClaveFinalidad, claveFinalidad);
+}

@@ -23,6 +23,7 @@
 /// Position in the cached catalogue of the first row with exactly this key; 0 if there is none.
 int FindCalculo(long numero);
 int FindTipoMovimiento(const char* tipoMovimientoID);
+int FindFinalidad(const char* claveFinalidad);
 
 /// `filas` is a map of the cache, `clave` the getter of the key, and `Find` the position of a key.
 template <const auto& filas, auto clave, auto Find>
@@ -55,7 +56,18 @@ class DatoFila {
 
   FXComboBox* combo = nullptr;
 
- private:
+ protected:
   using Valor_t = std::conditional_t<std::is_same_v<Clave, const char*>, FXString, Clave>;
   Valor_t valor{};
+};
+
+/// The same for a combo box without a handler: the key is that of the row at the current item by the time
+/// that it is asked for, and an empty one when the cache has none there.
+template <const auto& filas, auto clave, auto Find>
+struct DatoFilaActual : DatoFila<filas, clave, Find> {
+  const auto& Valor() {
+    this->valor = decltype(this->valor)();
+    this->Elige();
+    return this->valor;
+  }
 };

@@ -64,8 +64,8 @@ void campoClave(FXComposite* padre, const char* etiqueta, int columnas, DatoEnte
   Renglon<Campo>(padre, etiqueta, columnas, dato, lado | TEXTFIELD_ENTER_ONLY | TEXTFIELD_INTEGER);
 }
 
-void campoTexto(FXComposite* padre, const char* etiqueta, int columnas, DatoTexto& dato) {
-  Renglon<Campo>(padre, etiqueta, columnas, dato, JUSTIFY_LEFT);
+void campoTexto(FXComposite* padre, const char* etiqueta, int columnas, DatoTexto& dato, FXuint opciones) {
+  Renglon<Campo>(padre, etiqueta, columnas, dato, opciones);
 }
 
 void campoReal(FXComposite* padre, const char* etiqueta, int columnas, DatoReal& dato) {

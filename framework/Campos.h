@@ -132,7 +132,8 @@ FXMatrix* campoMatriz(FXMatrix* matriz, int columnas);
 void campoClave(FXComposite* padre, const char* etiqueta, int columnas, DatoTexto& dato);
 void campoClave(FXComposite* padre, const char* etiqueta, int columnas, DatoEntero& dato,
                 FXuint lado = JUSTIFY_LEFT);
-void campoTexto(FXComposite* padre, const char* etiqueta, int columnas, DatoTexto& dato);
+void campoTexto(FXComposite* padre, const char* etiqueta, int columnas, DatoTexto& dato,
+                FXuint opciones = JUSTIFY_LEFT);
 /// Takes real numbers only, right-justified.
 void campoReal(FXComposite* padre, const char* etiqueta, int columnas, DatoReal& dato);
 /// Takes what `filtro` lets through, right-justified; the whole number at its start counts.

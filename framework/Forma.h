@@ -104,10 +104,17 @@ class Forma : public Base {
       : Base(duenio, titulo, DECOR_TITLE | DECOR_BORDER | DECOR_RESIZE) {}
   ~Forma();
 
-  /// The frame of the form with the list of rows on its left.
-  void ArmaLista(const char* titulo);
+  /// The frame of the form with the list of rows on its left, `ancho` points wide.
+  void ArmaLista(const char* titulo, FXint ancho = 150);
   /// A box in the middle; the rows of fields go into the matrix that it gives.
   FXMatrix* ArmaGrupo(const char* titulo);
+  /// A book of pages below the boxes in the middle, which sends `mensaje` when another page comes up.
+  FXTabBook* ArmaLibro(FXSelector mensaje);
+  /// A page of it.
+  static FXVerticalFrame* ArmaPagina(FXTabBook* libro, const char* titulo);
+  /// The rows of fields of a box or of a page.
+  static FXMatrix* ArmaMatriz(FXComposite* padre, FXint columnas = 2,
+                              FXuint opciones = LAYOUT_FILL_X | LAYOUT_FILL_Y);
   /// The column of buttons on the right.
   void ArmaBotones();
   /// Lists the catalogue and blanks the form for a new record. A load that fails is shown and leaves an empty
@@ -131,6 +138,9 @@ class Forma : public Base {
 
   /// Does a failed &Aceptar write "entrando a error"? A form that does hides this with true.
   static constexpr bool trazaErrores = false;
+  /// Does &Buscar make the row that it found the current one? A form that leaves the list alone hides this
+  /// with false.
+  static constexpr bool eligeHallado = true;
 
   FXList* lstFilas = nullptr;
 
@@ -159,7 +169,7 @@ Forma<Ventana, Base, busqueda>::~Forma() {
 }
 
 template <class Ventana, class Base, Busqueda busqueda>
-void Forma<Ventana, Base, busqueda>::ArmaLista(const char* titulo) {
+void Forma<Ventana, Base, busqueda>::ArmaLista(const char* titulo, FXint ancho) {
   // A child form keeps the keys of its buttons to itself: in the main window's table they would take those of
   // the menu away when the form closes.
   if constexpr (std::is_base_of_v<FXMDIChild, Base>) this->setAccelTable(new FXAccelTable);
@@ -169,14 +179,29 @@ void Forma<Ventana, Base, busqueda>::ArmaLista(const char* titulo) {
   auto* marco = new FXVerticalFrame(grupo, FRAME_SUNKEN | FRAME_THICK | LAYOUT_FILL_X | LAYOUT_FILL_Y, 0, 0,
                                     0, 0, 0, 0, 0, 0);
   lstFilas = new FXList(marco, this, ID_LISTA,
-                        LIST_BROWSESELECT | HSCROLLER_NEVER | LAYOUT_FIX_WIDTH | LAYOUT_FILL_Y, 0, 0, 150);
+                        LIST_BROWSESELECT | HSCROLLER_NEVER | LAYOUT_FIX_WIDTH | LAYOUT_FILL_Y, 0, 0, ancho);
   grupos = new FXVerticalFrame(cuerpo, LAYOUT_FILL_X | LAYOUT_FILL_Y, 0, 0, 0, 0, 0, 0, 0, 0);
 }
 
 template <class Ventana, class Base, Busqueda busqueda>
 FXMatrix* Forma<Ventana, Base, busqueda>::ArmaGrupo(const char* titulo) {
-  auto* grupo = new FXGroupBox(grupos, titulo, FRAME_GROOVE | LAYOUT_FILL_X | LAYOUT_FILL_Y);
-  return new FXMatrix(grupo, 2, MATRIX_BY_COLUMNS | LAYOUT_FILL_X | LAYOUT_FILL_Y, 0, 0, 0, 0, 4, 4, 2, 2);
+  return ArmaMatriz(new FXGroupBox(grupos, titulo, FRAME_GROOVE | LAYOUT_FILL_X | LAYOUT_FILL_Y));
+}
+
+template <class Ventana, class Base, Busqueda busqueda>
+FXTabBook* Forma<Ventana, Base, busqueda>::ArmaLibro(FXSelector mensaje) {
+  return new FXTabBook(grupos, this, mensaje, LAYOUT_FILL_X | LAYOUT_FILL_Y, 0, 0, 0, 0, 0, 0, 0, 0);
+}
+
+template <class Ventana, class Base, Busqueda busqueda>
+FXVerticalFrame* Forma<Ventana, Base, busqueda>::ArmaPagina(FXTabBook* libro, const char* titulo) {
+  new FXTabItem(libro, titulo);
+  return new FXVerticalFrame(libro, FRAME_RAISED | FRAME_THICK, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0);
+}
+
+template <class Ventana, class Base, Busqueda busqueda>
+FXMatrix* Forma<Ventana, Base, busqueda>::ArmaMatriz(FXComposite* padre, FXint columnas, FXuint opciones) {
+  return new FXMatrix(padre, columnas, MATRIX_BY_COLUMNS | opciones, 0, 0, 0, 0, 4, 4, 2, 2);
 }
 
 template <class Ventana, class Base, Busqueda busqueda>
@@ -260,7 +285,7 @@ long Forma<Ventana, Base, busqueda>::onCmdFind(FXObject*, FXSelector, void*) {
     Yo().Clear();
   } else {
     Yo().Read();
-    MuestraFilaDelRegistro();
+    if (Ventana::eligeHallado) MuestraFilaDelRegistro();
   }
   return 1;
 }
