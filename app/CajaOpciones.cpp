@@ -2,6 +2,7 @@
 // child form the slot of mdiArray that has to be free. That slot is not always the one that the form takes.
 #include "app/Caja.h"
 #include "app/sesion.h"
+#include "catalogs/finance/TipoPrestamo_Window.h"
 #include "catalogs/people/cPermisosModulos.h"
 #include "catalogs/simple/ConceptoScoring_Window.h"
 #include "catalogs/simple/Estados_Credito_Window.h"
@@ -55,7 +56,9 @@ long Caja::onCmdMonedas(FXObject*, FXSelector, void*) { return OpcionHija<Moneda
 long Caja::onCmdBancos(FXObject*, FXSelector, void*) { return OpcionPendiente("0204"); }
 long Caja::onCmdUsuarios(FXObject*, FXSelector, void*) { return OpcionPendiente("0206"); }
 long Caja::onCmdTipoMovimiento(FXObject*, FXSelector, void*) { return OpcionPendiente("0207"); }
-long Caja::onCmdTipoPrestamos(FXObject*, FXSelector, void*) { return OpcionPendiente("0208"); }
+long Caja::onCmdTipoPrestamos(FXObject*, FXSelector, void*) {
+  return OpcionHija<TipoPrestamo_Window>("0208", 6);
+}
 long Caja::onCmdTipoGarantia(FXObject*, FXSelector, void*) {
   return OpcionModal<Tipo_Garantia_Window>("0209");
 }

@@ -20,6 +20,21 @@ inline std::string Cuenta(std::string cabeza) {
   return cabeza;
 }
 
+/// The text with every conversion of `formato` replaced by the column whose turn it is.
+inline std::string Formateado(const std::string& formato, const Textos& valores) {
+  std::string texto;
+  auto valor = valores.begin();
+  for (size_t i = 0; i < formato.size(); ++i) {
+    if (formato[i] != '%') {
+      texto += formato[i];
+      continue;
+    }
+    i = formato.find_first_of("sif", i);
+    texto += *valor++;
+  }
+  return texto;
+}
+
 /// A column: how many bytes a text holds (0 for a number), its place in the server's answer, and two values
 /// that the server takes, as it answers them.
 struct Campo {

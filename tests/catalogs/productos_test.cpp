@@ -17,21 +17,6 @@ namespace {
 const std::string Acumulativa = Cuenta("1000");  // an account of the demonstration that adds up
 const std::string Desconocida = Cuenta("7777");  // one that is not in the chart
 
-/// The text with every conversion of `formato` replaced by the column whose turn it is.
-std::string Formateado(const std::string& formato, const Textos& valores) {
-  std::string texto;
-  auto valor = valores.begin();
-  for (size_t i = 0; i < formato.size(); ++i) {
-    if (formato[i] != '%') {
-      texto += formato[i];
-      continue;
-    }
-    i = formato.find_first_of("sif", i);
-    texto += *valor++;
-  }
-  return texto;
-}
-
 bool EsCuenta(const Campo& campo) { return campo.bytes == 24 && campo.valor == Cuenta(campo.valor); }
 bool EsTexto(const Campo& campo) { return campo.bytes > 0; }
 
