@@ -8,7 +8,7 @@ opciones=(
   'movimientos-bancarios|3||0205|hija|terminando creacion frm tipomovibanco'
   'tipo-de-movimientos|4||0207|nada|'
   'tipo-de-inversion|5||0212|nada|'
-  'tipo-de-prestamos|6|1|0208|nada|'
+  'tipo-de-prestamos|6|1|0208|hija|terminando creacion frm tipoprestamo'
   'estados-del-credito|6|2|0210|dialogo|Estados del Credito'
   'finalidades|6|3|0211|dialogo|Finalidades'
   'tipo-de-garantias|6|5|0209|dialogo|Tipo de Garantia'
