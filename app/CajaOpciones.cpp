@@ -2,6 +2,9 @@
 // child form the slot of mdiArray that has to be free. That slot is not always the one that the form takes.
 #include "app/Caja.h"
 #include "app/sesion.h"
+#include "catalogs/finance/Calculo_Window.h"
+#include "catalogs/finance/TipoInversion_Window.h"
+#include "catalogs/finance/TipoMovimiento_Window.h"
 #include "catalogs/finance/TipoPrestamo_Window.h"
 #include "catalogs/people/cPermisosModulos.h"
 #include "catalogs/simple/ConceptoScoring_Window.h"
@@ -55,7 +58,9 @@ long Caja::OpcionPendiente(const char* modulo) {
 long Caja::onCmdMonedas(FXObject*, FXSelector, void*) { return OpcionHija<Monedas_Window>("0203", 1); }
 long Caja::onCmdBancos(FXObject*, FXSelector, void*) { return OpcionPendiente("0204"); }
 long Caja::onCmdUsuarios(FXObject*, FXSelector, void*) { return OpcionPendiente("0206"); }
-long Caja::onCmdTipoMovimiento(FXObject*, FXSelector, void*) { return OpcionPendiente("0207"); }
+long Caja::onCmdTipoMovimiento(FXObject*, FXSelector, void*) {
+  return OpcionHija<TipoMovimiento_Window>("0207", 5);
+}
 long Caja::onCmdTipoPrestamos(FXObject*, FXSelector, void*) {
   return OpcionHija<TipoPrestamo_Window>("0208", 6);
 }
@@ -69,12 +74,14 @@ long Caja::onCmdFinalidades(FXObject*, FXSelector, void*) { return OpcionModal<F
 long Caja::onCmdTipoMoviBancos(FXObject*, FXSelector, void*) {
   return OpcionHija<TipoMoviBanco_Window>("0205", 3);
 }
-long Caja::onCmdTipoInversion(FXObject*, FXSelector, void*) { return OpcionPendiente("0212"); }
+long Caja::onCmdTipoInversion(FXObject*, FXSelector, void*) {
+  return OpcionHija<TipoInversion_Window>("0212", 10);
+}
 long Caja::onCmdEstadosMex(FXObject*, FXSelector, void*) { return OpcionPendiente("0213"); }
 long Caja::onCmdCiudadesMex(FXObject*, FXSelector, void*) { return OpcionPendiente("0214"); }
 long Caja::onCmdModulos(FXObject*, FXSelector, void*) { return OpcionModal<Modulo_Window>("0215"); }
 long Caja::onCmdTipoSocios(FXObject*, FXSelector, void*) { return OpcionModal<TipoSocio_Window>("0217"); }
-long Caja::onCmdCalculos(FXObject*, FXSelector, void*) { return OpcionPendiente("0218"); }
+long Caja::onCmdCalculos(FXObject*, FXSelector, void*) { return OpcionModal<Calculo_Window>("0218"); }
 long Caja::onCmdTipoUsuarios(FXObject*, FXSelector, void*) { return OpcionModal<TipoUsuario_Window>("0216"); }
 long Caja::onCmdTipoPromocion(FXObject*, FXSelector, void*) { return OpcionPendiente("0420"); }
 long Caja::onCmdTasa(FXObject*, FXSelector, void*) { return OpcionPendiente("0424"); }

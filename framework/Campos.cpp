@@ -47,7 +47,7 @@ void DatoOpcion::Pon(std::optional<int> nuevo) {
 
 FXComposite* campoRenglon(FXMatrix* matriz, const char* etiqueta) {
   Etiqueta(matriz, etiqueta);
-  return new FXHorizontalFrame(matriz, LAYOUT_CENTER_Y, 0, 0, 0, 0, 0, 0, 0, 0);
+  return new FXHorizontalFrame(matriz, LAYOUT_CENTER_Y | LAYOUT_FILL_COLUMN, 0, 0, 0, 0, 0, 0, 0, 0);
 }
 
 FXMatrix* campoMatriz(FXMatrix* matriz, int columnas) {
@@ -57,7 +57,7 @@ FXMatrix* campoMatriz(FXMatrix* matriz, int columnas) {
 }
 
 void campoClave(FXComposite* padre, const char* etiqueta, int columnas, DatoTexto& dato) {
-  Renglon<CampoClave>(padre, etiqueta, columnas, dato, JUSTIFY_LEFT | TEXTFIELD_ENTER_ONLY);
+  Renglon<CampoCodigo>(padre, etiqueta, columnas, dato, JUSTIFY_LEFT | TEXTFIELD_ENTER_ONLY);
 }
 
 void campoClave(FXComposite* padre, const char* etiqueta, int columnas, DatoEntero& dato, FXuint lado) {
@@ -66,6 +66,10 @@ void campoClave(FXComposite* padre, const char* etiqueta, int columnas, DatoEnte
 
 void campoTexto(FXComposite* padre, const char* etiqueta, int columnas, DatoTexto& dato, FXuint opciones) {
   Renglon<Campo>(padre, etiqueta, columnas, dato, opciones);
+}
+
+void campoCodigo(FXComposite* padre, const char* etiqueta, int columnas, DatoTexto& dato) {
+  Renglon<CampoCodigo>(padre, etiqueta, columnas, dato, JUSTIFY_LEFT);
 }
 
 void campoReal(FXComposite* padre, const char* etiqueta, int columnas, DatoReal& dato) {

@@ -100,8 +100,8 @@ class Campo : public FXTextField {
   Campo() {}
 };
 
-/// The field of a text key, wide enough for capitals of any kind; a column is otherwise one digit wide.
-class CampoClave : public Campo {
+/// The field of a short code, wide enough for capitals of any kind; a column is otherwise one digit wide.
+class CampoCodigo : public Campo {
  public:
   using Campo::Campo;
   FXint getDefaultWidth() override {
@@ -134,6 +134,8 @@ void campoClave(FXComposite* padre, const char* etiqueta, int columnas, DatoEnte
                 FXuint lado = JUSTIFY_LEFT);
 void campoTexto(FXComposite* padre, const char* etiqueta, int columnas, DatoTexto& dato,
                 FXuint opciones = JUSTIFY_LEFT);
+/// The same for a code of few letters.
+void campoCodigo(FXComposite* padre, const char* etiqueta, int columnas, DatoTexto& dato);
 /// Takes real numbers only, right-justified.
 void campoReal(FXComposite* padre, const char* etiqueta, int columnas, DatoReal& dato);
 /// Takes what `filtro` lets through, right-justified; the whole number at its start counts.

@@ -2,6 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "app/sesion.h"
+#include "catalogs/finance/Calculo_Window.h"
+#include "catalogs/finance/TipoInversion_Window.h"
+#include "catalogs/finance/TipoMovimiento_Window.h"
 #include "catalogs/simple/Asesor_Window.h"
 #include "catalogs/simple/ClasificacionCredito_Window.h"
 #include "catalogs/simple/ConceptoScoring_Window.h"
@@ -51,6 +54,9 @@ const Ventana ventanas[] = {
     VENTANA(Grupo_Window),
     VENTANA(Ocupacion_Window),
     VENTANA(ConceptoScoring_Window),
+    VENTANA(Calculo_Window),
+    VENTANA(TipoMovimiento_Window),
+    VENTANA(TipoInversion_Window),
 };
 
 class Maltratadas : public ConSucursal, public testing::WithParamInterface<Ventana> {

@@ -241,6 +241,17 @@ TEST_F(CamposTest, UnEnteroTomaLoQueSuFiltroDejaYGuardaSuComienzo) {
   EXPECT_EQ(Leido(matriz_, "Plazo:"), "365");
 }
 
+TEST_F(CamposTest, UnCodigoEsUnTextoConLugarParaMayusculas) {
+  DatoTexto codigo;
+  campoCodigo(matriz_, "Letra:", 1, codigo);
+  ventana_->create();
+  FXTextField* const campo = CampoJuntoA(matriz_, "Letra:");
+  EXPECT_EQ(campo->getTextStyle(), FXuint{TEXTFIELD_LIMITED});
+  EXPECT_GE(campo->getDefaultWidth(), campo->getFont()->getTextWidth("W", 1) + 8);
+  Escribe(campo, "ÑW");
+  EXPECT_EQ(codigo.valor, "Ñ");
+}
+
 // Check buttons.
 
 TEST_F(CamposTest, UnaCasillaValeLoQueMuestra) {
