@@ -54,6 +54,12 @@ struct Suceso : FXEvent {
 
 void Refresca() { App().forceRefresh(); }
 
+/// Handles what the X server has sent so far. Left alone it piles up over the tests of a program, and the
+/// toolkit searches the whole pile at every event.
+void Desahoga() {
+  while (App().peekEvent()) App().runOneEvent(FALSE);
+}
+
 void ExigeUsable(FXWindow* pieza) {
   if (!Usable(pieza))
     throw std::runtime_error(std::string("un usuario no alcanza este ") + pieza->getClassName());
@@ -203,6 +209,7 @@ void EligeOpcion(FXComboBox* combo, FXint opcion) {
 
 void Bombea(FXuint milisegundos) {
   BombeaHasta([] { return false; }, milisegundos);
+  Desahoga();
 }
 
 bool BombeaHasta(const std::function<bool()>& condicion, FXuint milisegundos) {
@@ -236,6 +243,7 @@ Area::~Area() {
   dialogos_.clear();
   delete menu_;
   delete ventana_;
+  Desahoga();
 }
 
 }  // namespace pruebas
