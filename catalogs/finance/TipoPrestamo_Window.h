@@ -13,37 +13,40 @@ extern char sDescripcion[31];       // a row of the list
 // The accounts in the order of the pages: on the screen, in the record, the handler of the combo box, and
 // whether the search button works. Labels and fields do not always read alike.
 // clang-format off
-#define CUENTAS_ACTIVO(CUENTA)                                                                                \
-  CUENTA("Activo:", CuentaActivo, onCmdCuentaActivo, true)                                                    \
-  CUENTA("Activo Vencida:", CuentaActivoVencida, onCmdCuentaActivoVencida, true)                              \
-  CUENTA("Normal Venc.:", CuentaIntNormalVencida, onCmdCuentaIntNormalVencida, true)                          \
-  CUENTA("Cuenta ISR:", CuentaRiesgoCred, onCmdCuentaRiesgoCred, true)                                        \
+#define CUENTAS_ACTIVO(CUENTA)                                                                            \
+  CUENTA("Activo:", CuentaActivo, onCmdCuentaActivo, true)                                                \
+  CUENTA("Activo Vencida:", CuentaActivoVencida, onCmdCuentaActivoVencida, true)                          \
+  CUENTA("Normal Venc.:", CuentaIntNormalVencida, onCmdCuentaIntNormalVencida, true)                      \
+  CUENTA("Cuenta ISR:", CuentaRiesgoCred, onCmdCuentaRiesgoCred, true)                                    \
   CUENTA("Int. Devengado:", CuentaIntDevNoCobres, onCmdCuentaIntDevNoCobres, true)
-#define CUENTAS_PASIVO(CUENTA)                                                                                \
-  CUENTA("Cta. de IVA:", CuentaIva, onCmdCuentaIva, true)                                                     \
-  CUENTA("Gastos de Cobranza:", CuentaFondoRecuperacion, onCmdCuentaFondoRecuperacion, true)                  \
-  CUENTA("Gtos. de Otorgamiento.:", CuentaGtosAdm, onCmdCuentaGtosAdm, false)                                 \
-  CUENTA("Provision IVA:", CuentaProvisionIVA, onCmdCuentaProvisionIVA, true)                                 \
-  CUENTA("Aval Acredor:", CuentaOrdenAvalAcredor, onCmdCuentaOrdenAvalAcredor, true)                          \
-  CUENTA("Garantia Deudor:", CuentaGarantiaDeudor, onCmdCuentaGarantiaDeudor, true)                           \
-  CUENTA("Garantia Acredor:", CuentaGarantiaAcredor, onCmdCuentaGarantiaAcredor, true)                        \
-  CUENTA("Comision:", CuentaComision, onCmdCuentaComision, true)                                              \
+#define CUENTAS_PASIVO(CUENTA)                                                                            \
+  CUENTA("Cta. de IVA:", CuentaIva, onCmdCuentaIva, true)                                                 \
+  CUENTA("Gastos de Cobranza:", CuentaFondoRecuperacion, onCmdCuentaFondoRecuperacion, true)              \
+  CUENTA("Gtos. de Otorgamiento.:", CuentaGtosAdm, onCmdCuentaGtosAdm, false)                             \
+  CUENTA("Provision IVA:", CuentaProvisionIVA, onCmdCuentaProvisionIVA, true)                             \
+  CUENTA("Aval Acredor:", CuentaOrdenAvalAcredor, onCmdCuentaOrdenAvalAcredor, true)                      \
+  CUENTA("Garantia Deudor:", CuentaGarantiaDeudor, onCmdCuentaGarantiaDeudor, true)                       \
+  CUENTA("Garantia Acredor:", CuentaGarantiaAcredor, onCmdCuentaGarantiaAcredor, true)                    \
+  CUENTA("Comision:", CuentaComision, onCmdCuentaComision, true)                                          \
   CUENTA("IVA Comision:", CuentaIvaComision, onCmdCuentaIvaComision, true)
-#define CUENTAS_RESULTADOS(CUENTA)                                                                            \
-  CUENTA("Int. Normal:", CuentaIntNormal, onCmdCuentaIntNormal, true)                                         \
-  CUENTA("Norm. No Cob.:", CuentaIntNormalNocob, onCmdCuentaIntNormalNocob, true)                             \
-  CUENTA("Int. Moratorio:", CuentaIntMora, onCmdCuentaIntMora, true)                                          \
-  CUENTA("Moratorio Venc.:", CuentaIntMoraVencida, onCmdCuentaIntMoraVencida, true)                           \
-  CUENTA("Riesgo Cred.:", CuentaRiesgoCredRes, onCmdCuentaRiesgoCredRes, true)                                \
-  CUENTA("Int. Norm. Venc.:", CuentaIntNormalResVencida, onCmdCuentaIntNormalResVencida, false)               \
+#define CUENTAS_RESULTADOS(CUENTA)                                                                        \
+  CUENTA("Int. Normal:", CuentaIntNormal, onCmdCuentaIntNormal, true)                                     \
+  CUENTA("Norm. No Cob.:", CuentaIntNormalNocob, onCmdCuentaIntNormalNocob, true)                         \
+  CUENTA("Int. Moratorio:", CuentaIntMora, onCmdCuentaIntMora, true)                                      \
+  CUENTA("Moratorio Venc.:", CuentaIntMoraVencida, onCmdCuentaIntMoraVencida, true)                       \
+  CUENTA("Riesgo Cred.:", CuentaRiesgoCredRes, onCmdCuentaRiesgoCredRes, true)                            \
+  CUENTA("Int. Norm. Venc.:", CuentaIntNormalResVencida, onCmdCuentaIntNormalResVencida, false)           \
   CUENTA("Int. Norm. Vig.:", CuentaIntNormalResVigente, onCmdCuentaIntNormalResVigente, true)
-#define CUENTAS_ORDEN(CUENTA)                                                                                 \
-  CUENTA("Aval Deudor:", CuentaOrdenAval, onCmdCuentaOrdenAval, true)                                         \
-  CUENTA("Orden Interes:", CuentaOrdenInteres, onCmdCuentaOrdenInteres, true)                                 \
-  CUENTA("Orden Deudor Moratorio Bonificado", CuentaIntMoraNoCobAct, onCmdCuentaIntMoraNoCobAct, true)        \
-  CUENTA("Orden Acredor Moratorio Bonificado", CuentaIntMoraDevNoCobRes, onCmdCuentaIntMoraDevNoCobRes, true) \
-  CUENTA("Orden Deudor Normal Bonificado", OrdenDeudorNormalBonificado, onCmdOrdenDeudorNormalBonificado, true)   \
-  CUENTA("Orden Acredor Normal Bonificado", OrdenAcredorNormalBonificado, onCmdOrdenAcredorNormalBonificado, true) \
+#define CUENTAS_ORDEN(CUENTA)                                                                             \
+  CUENTA("Aval Deudor:", CuentaOrdenAval, onCmdCuentaOrdenAval, true)                                     \
+  CUENTA("Orden Interes:", CuentaOrdenInteres, onCmdCuentaOrdenInteres, true)                             \
+  CUENTA("Orden Deudor Moratorio Bonificado", CuentaIntMoraNoCobAct, onCmdCuentaIntMoraNoCobAct, true)    \
+  CUENTA("Orden Acredor Moratorio Bonificado", CuentaIntMoraDevNoCobRes,                                  \
+         onCmdCuentaIntMoraDevNoCobRes, true)                                                             \
+  CUENTA("Orden Deudor Normal Bonificado", OrdenDeudorNormalBonificado,                                   \
+         onCmdOrdenDeudorNormalBonificado, true)                                                          \
+  CUENTA("Orden Acredor Normal Bonificado", OrdenAcredorNormalBonificado,                                 \
+         onCmdOrdenAcredorNormalBonificado, true)                                                         \
   CUENTA("Orden Interes Acreedor", OrdenInteresAcreedor, onCmdOrdenInteresAcreedor, false)
 #define CUENTAS_PRESTAMO(CUENTA) \
   CUENTAS_ACTIVO(CUENTA) CUENTAS_PASIVO(CUENTA) CUENTAS_RESULTADOS(CUENTA) CUENTAS_ORDEN(CUENTA)

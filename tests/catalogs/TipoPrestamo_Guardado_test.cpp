@@ -2,6 +2,7 @@
 // missing, dead, gone, out of range or cut off.
 #include "framework/Busqueda_Window.h"
 #include "tests/catalogs/PrestamoDePrueba.h"
+#include "tests/support/Maltrato.h"
 #include "tests/support/Pantalla.h"
 #include "tests/support/Registros.h"
 
@@ -346,6 +347,10 @@ TEST_F(TipoPrestamoGuardadoTest, UnaFormulaFinalidadOMovimientoQueYaNoExisteMues
 }
 
 TEST_F(TipoPrestamoGuardadoTest, LoQueSeBorroEnElServidorSeNiegaYNadaQuedaAMedias) {
+  const char* const otraFormula =
+      "insert into norte.calculo select (jsonb_populate_record(c, '{\"calculoid\": 99}')).*"
+      " from norte.calculo c where calculoid = 1";
+  const char* const sinFormula = "delete from norte.calculo where calculoid = 99";
   const struct {
     const char* columna;
     const char* clave;
@@ -353,20 +358,15 @@ TEST_F(TipoPrestamoGuardadoTest, LoQueSeBorroEnElServidorSeNiegaYNadaQuedaAMedia
     const char* baja;
     const char* texto;
   } casos[] = {
-      {"CalculoNormalID", "99",
-       "insert into norte.calculo select (jsonb_populate_record(c, '{\"calculoid\": 99}')).*"
-       " from norte.calculo c where calculoid = 1",
-       "delete from norte.calculo where calculoid = 99", "No existe la fórmula de interés normal: número 99"},
-      {"CalculoMoraID", "99",
-       "insert into norte.calculo select (jsonb_populate_record(c, '{\"calculoid\": 99}')).*"
-       " from norte.calculo c where calculoid = 1",
-       "delete from norte.calculo where calculoid = 99",
+      {"CalculoNormalID", "99", otraFormula, sinFormula, "No existe la fórmula de interés normal: número 99"},
+      {"CalculoMoraID", "99", otraFormula, sinFormula,
        "No existe la fórmula de interés moratorio: número 99"},
       {"ClaveFinalidad", "ZZZ", "insert into norte.finalidades values ('ZZZ', 'Prueba')",
        "delete from norte.finalidades where clavefinalidad = 'ZZZ'", "No existe la finalidad: ZZZ"},
       {"ClaveMoviGarantia", "ZZ",
-       "insert into norte.tipomovimiento select (jsonb_populate_record(t,"
-       " '{\"tipomovimientoid\": \"ZZ\"}')).* from norte.tipomovimiento t where tipomovimientoid = 'GL'",
+       "insert into norte.tipomovimiento select (jsonb_populate_record(t, '{\"tipomovimientoid\": "
+       "\"ZZ\"}')).*"
+       " from norte.tipomovimiento t where tipomovimientoid = 'GL'",
        "delete from norte.tipomovimiento where tipomovimientoid = 'ZZ'",
        "No existe el movimiento de garantía: ZZ"},
   };
@@ -473,6 +473,25 @@ TEST_F(TipoPrestamoGuardadoTest, LosMontosEnElLimiteSeGuardanOSeNieganSinQuedarA
 TEST_F(TipoPrestamoGuardadoTest, EnLaClasificacionSoloCabenNumeros) {
   Pon("ClasificacionContable", "13a0'1%");
   EXPECT_EQ(Pantalla().at("ClasificacionContable"), "1301");
+}
+
+TEST_F(TipoPrestamoGuardadoTest, UnUsuarioDescuidadoNoTumbaNingunaPagina) {
+  for (const FXTabItem* lengueta : Todos<FXTabItem>(forma_)) {
+    SCOPED_TRACE(Rotulo(lengueta));
+    Hojea(Rotulo(lengueta));
+    Maltrata(Pagina(Rotulo(lengueta)));
+    for (const std::string& texto : TextosDesmedidos()) {
+      TecleaEnTodo(forma_, texto);
+      Guion guion;
+      guion.EnAdelante([](FXDialogBox* cuadro) { Pulsa(Todos<FXButton>(cuadro).front()); });
+      Pulsa(Boton(forma_, "&Aceptar"));
+    }
+  }
+  EXPECT_EQ(Profundidad(), 0);
+  Cierra();
+  Abre();
+  EXPECT_TRUE(Busca("ORD").empty());
+  EXPECT_EQ(Pantalla(), Vistos(EnElServidor("ORD")));
 }
 
 // The connection breaks at each statement of a save in turn, ahead of it and behind it.
