@@ -2,18 +2,18 @@
 paso 'Un diálogo con clave de letras: un tipo de garantía se agrega'
 elige 6 5
 espera_ventana 'Tipo de Garantia'
-nuevo 2 QZ 'Garantía de papel'
+nuevo 2 QZ 'Fianza del año'
 confirma alt+a 'Tipo de Garantía' garantia-registrar
-exige_dato "SELECT descripciongarantia FROM tipo_garantia WHERE clavegarantia = 'QZ'" 'Garantía de papel'
+exige_dato "SELECT descripciongarantia FROM tipo_garantia WHERE clavegarantia = 'QZ'" 'Fianza del año'
 captura garantia-agregada
 
 paso 'Se busca y se modifica'
 espera_ventana 'Tipo de Garantia'
 encuentra 2 QZ
-exige_campo 'Garantía de papel'
-llena 'Garantía de cartón'
+exige_campo 'Fianza del año'
+llena 'Fianza pequeña'
 confirma alt+a 'Tipo de Garantía' garantia-guardar
-exige_dato "SELECT descripciongarantia FROM tipo_garantia WHERE clavegarantia = 'QZ'" 'Garantía de cartón'
+exige_dato "SELECT descripciongarantia FROM tipo_garantia WHERE clavegarantia = 'QZ'" 'Fianza pequeña'
 
 paso 'Y se borra'
 espera_ventana 'Tipo de Garantia'
@@ -40,11 +40,11 @@ captura movimiento-agregado
 paso 'Se busca y se modifica'
 encuentra 3 QZ
 exige_campo 'Ajuste de prueba'
-llena 'Ajuste al revés'
+llena 'Ajuste dañado'
 teclea space
 confirma alt+a 'Tipo de Movimientos Bancarios' movimiento-guardar
 exige_dato "SELECT descritipomovibanco, operacionsumaresta FROM tipomovibanco WHERE tipomovibancoid = 'QZ'" \
-  'Ajuste al revés|-'
+  'Ajuste dañado|-'
 
 paso 'Y se borra'
 confirma alt+b 'Tipo de Movimientos Bancarios' movimiento-borrar
@@ -54,22 +54,22 @@ teclea alt+c
 paso 'Una forma corta: una ocupación se agrega, y el servidor le da su número'
 elige 7 2
 exige_traza 'terminando creacion frm ocupacion'
-nuevo 2 '' 'Vigía'
+nuevo 2 '' 'Leñador'
 confirma alt+a 'Ocupacion' ocupacion-registrar
-exige_dato "SELECT count(*) FROM ocupacion WHERE ocupacion = 'Vigía'" 1
+exige_dato "SELECT count(*) FROM ocupacion WHERE ocupacion = 'Leñador'" 1
 captura ocupacion-agregada
 
 paso 'Se elige en la lista y se modifica'
 elige_ultimo 2
-exige_campo 'Vigía'
-llena 'Vigía nocturno'
+exige_campo 'Leñador'
+llena 'Leñador nocturno'
 confirma alt+a 'Ocupacion' ocupacion-guardar
-exige_dato "SELECT ocupacion FROM ocupacion ORDER BY ocupacionid DESC LIMIT 1" 'Vigía nocturno'
+exige_dato "SELECT ocupacion FROM ocupacion ORDER BY ocupacionid DESC LIMIT 1" 'Leñador nocturno'
 
 paso 'Y se borra'
 elige_ultimo 2
 confirma alt+b 'Ocupacion' ocupacion-borrar
-exige_dato "SELECT count(*) FROM ocupacion WHERE ocupacion = 'Vigía nocturno'" 0
+exige_dato "SELECT count(*) FROM ocupacion WHERE ocupacion = 'Leñador nocturno'" 0
 teclea alt+c
 
 paso 'Un diálogo con número: un concepto se agrega'

@@ -9,25 +9,25 @@ pon_cuentas() {
 paso 'Una fórmula sin texto se rechaza'
 elige 10 1
 espera_ventana 'Formulas de Calculos'
-nuevo 3 '' 'Interés de prueba'
+nuevo 3 '' 'Tasa del año'
 teclea alt+a
 responde 'Error en Validación' Return formula-rechazada
 espera_ventana 'Formulas de Calculos'
 
 paso 'Con él se agrega, se modifica y se borra'
-nuevo 3 '' 'Interés de prueba' 'saldo * tasa / 100'
+nuevo 3 '' 'Tasa del año' 'saldo * tasa / 100'
 confirma alt+a 'Calculo' formula-registrar
-exige_dato "SELECT formula FROM calculo WHERE descripcioncalculo = 'Interés de prueba'" 'saldo * tasa / 100'
+exige_dato "SELECT formula FROM calculo WHERE descripcioncalculo = 'Tasa del año'" 'saldo * tasa / 100'
 espera_ventana 'Formulas de Calculos'
 elige_ultimo 3
-exige_campo 'Interés de prueba'
+exige_campo 'Tasa del año'
 captura formula-elegida
-llena 'Interés corregido'
+llena 'Tasa corregida'
 confirma alt+a 'Calculo' formula-guardar
-exige_dato "SELECT formula FROM calculo WHERE descripcioncalculo = 'Interés corregido'" 'saldo * tasa / 100'
+exige_dato "SELECT formula FROM calculo WHERE descripcioncalculo = 'Tasa corregida'" 'saldo * tasa / 100'
 espera_ventana 'Formulas de Calculos'
 confirma alt+b 'Calculo' formula-borrar
-exige_dato "SELECT count(*) FROM calculo WHERE descripcioncalculo = 'Interés corregido'" 0
+exige_dato "SELECT count(*) FROM calculo WHERE descripcioncalculo = 'Tasa corregida'" 0
 espera_ventana 'Formulas de Calculos'
 teclea alt+c
 
@@ -61,4 +61,57 @@ confirma alt+a 'Tipo de Movimiento' tipo-de-movimiento-guardar
 exige_dato "SELECT desctipomovimiento FROM tipomovimiento WHERE tipomovimientoid = 'QZ'" 'Ahorro corregido'
 confirma alt+b 'Tipo de Movimiento' tipo-de-movimiento-borrar
 exige_dato "SELECT count(*) FROM tipomovimiento WHERE tipomovimientoid = 'QZ'" 0
+teclea alt+c
+
+paso 'Un tipo de inversión sin clasificación se rechaza'
+elige 5
+exige_traza 'terminando creacion frm tipoinversion'
+nuevo 27 QZ 'Plazo de otoño' 5 100 1000 30 60
+pon_cuentas 7
+teclea Down Tab Tab Tab Down Tab Tab Tab # formula and movement
+teclea alt+a
+responde 'Error en Validación' Return inversion-rechazada
+
+paso 'Con ella se agrega'
+nuevo 27 QZ 'Plazo de otoño' 5 100 1000 30 60
+pon_cuentas 7
+teclea Down Tab Tab Tab Down Tab Tab Tab Down
+captura tipo-de-inversion-nuevo
+confirma alt+a 'Tipo de Inversión' tipo-de-inversion-registrar
+exige_dato "SELECT desctipoinversion, rtrim(cuentapasivo) FROM tipoinversion WHERE tipoinversionid = 'QZ'" \
+  'Plazo de otoño|1101-01-00-00-0000'
+
+paso 'Se modifica y se borra'
+atras 30 # from &Aceptar to the description
+exige_campo 'Plazo de otoño'
+llena 'Plazo corregido'
+confirma alt+a 'Tipo de Inversión' tipo-de-inversion-guardar
+exige_dato "SELECT desctipoinversion FROM tipoinversion WHERE tipoinversionid = 'QZ'" 'Plazo corregido'
+confirma alt+b 'Tipo de Inversión' tipo-de-inversion-borrar
+exige_dato "SELECT count(*) FROM tipoinversion WHERE tipoinversionid = 'QZ'" 0
+teclea alt+c
+
+paso 'Un tipo de préstamo con solo la clave se rechaza'
+elige 6 1
+exige_traza 'terminando creacion frm tipoprestamo'
+pulsa() { xdotool mousemove "$1" "$2" click 1; }
+pulsa 417 186 # the key
+escribe QZ
+teclea alt+a
+responde 'Error en Validación' Return prestamo-rechazado
+
+paso 'Se ven las páginas de uno, y se modifica'
+teclea alt+n
+pulsa 417 186
+escribe ORD
+pulsa 862 190 # &Buscar
+captura prestamo-generales
+for pagina in parametros:442 activo:494 pasivo:544 resultados:598 orden:654 generales:374; do
+  pulsa "${pagina#*:}" 224
+  captura "prestamo-${pagina%:*}"
+done
+pulsa 593 247 # the description
+llena 'Ordinario de otoño'
+confirma alt+a 'Tipo de Prestamo' prestamo-guardar
+exige_dato "SELECT desctipoprestamo FROM tipoprestamo WHERE tipoprestamoid = 'ORD'" 'Ordinario de otoño'
 teclea alt+c
