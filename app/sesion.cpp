@@ -24,7 +24,8 @@ bool IsEditable = false;
 char Version[21] = "0.0.7";
 char gsMsgServidor[512] = "";
 bool mdiArray[RanurasMdi + 1] = {};
-const char* sleft = "     ";
+static char cincoBlancos[] = "     ";
+char* sleft = cincoBlancos;
 long tmplong = 0;
 
 char glogin[21] = "";

@@ -36,7 +36,7 @@ extern bool mdiArray[RanurasMdi + 1];
 
 extern date gFecha;  // the date that the calendar hands back
 extern date gFechaCobroIVA;
-extern const char* sleft;
+extern char* sleft;
 extern long tmplong;
 
 // Who is connected, and where.

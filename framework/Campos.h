@@ -9,6 +9,7 @@
 
 #include <memory>
 #include <optional>
+#include <type_traits>
 
 /// A member of a form and what binds it to its field: what the user types is in `valor` at once, and Pon
 /// shows in the field what the program stores. T is FXString, FXint or FXdouble.
@@ -43,12 +44,19 @@ struct DatoParrafo {
   const FXString& Valor() { return valor = campo->getText(); }
 };
 
-/// A check button whose state is the value, one of two; a third that is read unchecks it.
+/// A check button whose state is the value, one of two. A text that is read and is neither unchecks it; a
+/// number is the state itself, so that one beyond both shows as the toolkit's third state.
 template <class T>
 class DatoCasilla {
  public:
   DatoCasilla(const T& si, const T& no) : si(si), no(no) {}
-  void Pon(const T& nuevo) { boton->setCheck(nuevo == si); }
+  void Pon(const T& nuevo) {
+    if constexpr (std::is_same_v<T, FXString>) {
+      boton->setCheck(nuevo == si);
+    } else {
+      boton->setCheck(static_cast<FXbool>(nuevo));
+    }
+  }
   T Valor() const { return boton->getCheck() ? si : no; }
 
   FXCheckButton* boton = nullptr;
@@ -121,7 +129,7 @@ class CampoReal : public Campo {
   CampoReal() {}
 };
 
-/// A row of several fields: its label, and the frame that they go into.
+/// A row of several fields: its label, if any, and the frame that they go into.
 FXComposite* campoRenglon(FXMatrix* matriz, const char* etiqueta);
 
 /// A further matrix in the box of `matriz`, which leaves it what its own rows do not need.

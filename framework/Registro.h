@@ -53,14 +53,14 @@ class LectorDeFila {
   int siguiente = 0;
 };
 
-/// Stores `valor` in a column as it stands; a text is cut to its width.
+/// Stores `valor` in a column as it stands; a text is cut to its width, a number narrows to the column.
 template <size_t N>
 void GuardaColumna(char (&columna)[N], const char* valor) {
   CopiaTexto(columna, valor);
 }
-template <class T>
-void GuardaColumna(T& columna, const T& valor) {
-  columna = valor;
+template <class T, class Valor>
+void GuardaColumna(T& columna, const Valor& valor) {
+  columna = static_cast<T>(valor);
 }
 
 /// Empties a text, zeroes a number.
@@ -223,6 +223,14 @@ class Registro : public Base {
   template <class T>
   void Pon(T& columna, T valor) {
     if (columna == valor) return;
+    columna = valor;
+    dataChanged = true;
+  }
+
+  /// The same for a date, by its three numbers: one that is no day of the calendar equals itself here.
+  void Pon(date& columna, const date& valor) {
+    if (columna.year() == valor.year() && columna.month() == valor.month() && columna.day() == valor.day())
+      return;
     columna = valor;
     dataChanged = true;
   }

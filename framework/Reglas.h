@@ -50,3 +50,9 @@ template <auto get, class Clase>
 bool NoPositivo(const Clase& registro) {
   return !((registro.*get)() > 0);
 }
+
+/// A date that was never given: its year is 0, as that of an empty text, or 1900, as that of a blank record.
+template <auto get, class Clase>
+bool SinFecha(const Clase& registro) {
+  return FaltaFecha((registro.*get)());
+}

@@ -42,7 +42,7 @@ long Calendario_Window::onCmdAceptar(FXObject*, FXSelector, void*) {
   return handle(this, FXSEL(SEL_COMMAND, ID_ACCEPT), nullptr);
 }
 
-FXString EligeFecha(FXWindow* owner, const FXString& texto) {
+FXString EligeFecha(FXWindow* owner, const FXString& texto, FormatoFecha formato) {
   const FXString mesYAnio = texto.after('/');
   date fecha;
   fecha.set_day(FXIntVal(texto.before('/')));
@@ -50,5 +50,12 @@ FXString EligeFecha(FXWindow* owner, const FXString& texto) {
   fecha.set_year(FXIntVal(mesYAnio.after('/')));
   gFecha = fecha;
   Calendario_Window(owner, gFecha).execute(PLACEMENT_CURSOR);
-  return FXStringFormat("%02d/%02d/%04d", gFecha.day(), gFecha.month(), gFecha.year());
+  switch (formato) {
+    case FormatoFecha::Blancos:
+      return FXStringFormat("%2d/%2d/%4d", gFecha.day(), gFecha.month(), gFecha.year());
+    case FormatoFecha::Corto:
+      return FXStringFormat("%d/%d/%d", gFecha.day(), gFecha.month(), gFecha.year());
+    default:
+      return FXStringFormat("%02d/%02d/%04d", gFecha.day(), gFecha.month(), gFecha.year());
+  }
 }

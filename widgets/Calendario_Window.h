@@ -40,7 +40,10 @@ class Calendario_Window : public FXDialogBox {
   FXButton* btnCerrar = nullptr;
 };
 
+/// How a date goes back into its field: with zeros (dd/mm/yyyy), with blanks ( d/ m/yyyy) or neither.
+enum class FormatoFecha { Ceros, Blancos, Corto };
+
 /// What the calendar button of a date field does: takes the field's text, day, month and year between
-/// slashes, as gFecha, runs the dialog at the cursor, and answers gFecha as "dd/mm/yyyy". A dialog that is
+/// slashes, as gFecha, runs the dialog at the cursor, and answers gFecha in `formato`. A dialog that is
 /// cancelled answers the field's own date; pieces that are missing are 0.
-FXString EligeFecha(FXWindow* owner, const FXString& texto);
+FXString EligeFecha(FXWindow* owner, const FXString& texto, FormatoFecha formato = FormatoFecha::Ceros);

@@ -51,6 +51,9 @@ class date {
   char servidor_[12];
 };
 
+// Was it never given? Its year is then 0, as that of an empty text, or 1900, as that of a default date.
+inline bool FaltaFecha(const date& d) { return d.year() == 0 || d.year() == 1900; }
+
 // Comparisons. With an invalid date on either side ==, < and <= are false, and !=, > and >= are true.
 bool operator==(const date& a, const date& b);
 bool operator!=(const date& a, const date& b);

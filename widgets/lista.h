@@ -1,5 +1,7 @@
 #pragma once
 
+#include <stdexcept>
+#include <type_traits>
 #include <utility>
 
 template <class T>
@@ -36,7 +38,7 @@ class lista {
   void Insertar(T x);
 
   // A copy of the element at position `i`, counted from 0, on which the cursor is left. Outside the list: an
-  // empty T, and the cursor stays.
+  // empty T, and the cursor stays; a T that cannot be empty throws out_of_range.
   T Item(int i);
 
   // Replaces the element at position `i`, on which the cursor is left; outside the list nothing happens. The
@@ -130,7 +132,12 @@ void lista<T>::Insertar(T x) {
 
 template <class T>
 T lista<T>::Item(int i) {
-  return Ir(i) ? cursor_->dato : T();
+  if (Ir(i)) return cursor_->dato;
+  if constexpr (std::is_default_constructible_v<T>) {
+    return T();
+  } else {
+    throw std::out_of_range("lista::Item");
+  }
 }
 
 template <class T>

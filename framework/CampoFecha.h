@@ -1,0 +1,34 @@
+// The date field: a text field that takes a date, a button that opens the calendar on it, and the value.
+//
+//   DatoFecha fecha;
+//   ...
+//   campoFecha(matriz, "Fecha:", fecha, this, ID_CALENDARIO);
+//   ...
+//   long onCmdCalendario(FXObject*, FXSelector, void*) { return fecha.Elige(this); }
+//
+// A form with several dates numbers their buttons one after the other and picks the date in its handler.
+#pragma once
+
+#include <optional>
+
+#include "framework/Campos.h"
+#include "widgets/Calendario_Window.h"
+#include "widgets/date.h"
+
+/// A date as the screen writes it, dd/mm/yyyy, or the beginning of one.
+struct DatoFecha : DatoTexto {
+  /// Shows a date. Nothing, which is what `Pon({})` passes, empties the field.
+  void Pon(const std::optional<date>& nueva) { DatoTexto::Pon(nueva ? nueva->AsDMY() : ""); }
+  date Valor() const { return date(valor.text()); }
+  /// What the handler of the button does: the round trip through the calendar, which writes the date back in
+  /// `formato` also when it was cancelled.
+  long Elige(FXWindow* duenio, FormatoFecha formato = FormatoFecha::Ceros) {
+    DatoTexto::Pon(EligeFecha(duenio, valor, formato));
+    return 1;
+  }
+};
+
+/// The row of a date: a field of 10 columns, and a button with the calendar that sends `mensaje` to
+/// `destino`. A null label makes the field and its button alone.
+void campoFecha(FXMatrix* matriz, const char* etiqueta, DatoFecha& dato, FXObject* destino,
+                FXSelector mensaje);
