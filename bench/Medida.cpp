@@ -3,8 +3,20 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <fstream>
+#include <stdexcept>
+#include <string>
 
 namespace medida {
+
+double MemoriaPropia(pid_t pid) {
+  std::ifstream mapa("/proc/" + std::to_string(pid) + "/smaps_rollup");
+  const std::string campo = "Anonymous:";
+  for (std::string linea; std::getline(mapa, linea);) {
+    if (linea.compare(0, campo.size(), campo) == 0) return std::stod(linea.substr(campo.size()));
+  }
+  throw std::runtime_error("el sistema no dice la memoria del programa");
+}
 
 double Razones::Cuantil(double parte) const {
   std::vector<double> orden = razones;

@@ -5,6 +5,8 @@
 // is busy for a while disturbs both sides alike, and a single hiccup none.
 #pragma once
 
+#include <sys/types.h>
+
 #include <chrono>
 #include <ctime>
 #include <vector>
@@ -28,6 +30,11 @@ double SegundosDeProcesador(Obra obra) {
   obra();
   return static_cast<double>(clock() - inicio) / CLOCKS_PER_SEC;
 }
+
+/// Kilobytes of memory that belong to a process alone: what it has written. Pages as they stand in a file are
+/// shared with whoever else runs the same library, so they tell more about the machine than about the
+/// program. Throws std::runtime_error when the system does not tell.
+double MemoriaPropia(pid_t pid);
 
 /// The ratios of two sides, ours to the bare one, turn by turn.
 class Razones {

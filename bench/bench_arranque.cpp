@@ -62,18 +62,6 @@ class Vigia {
   std::unique_ptr<Display, decltype(&XCloseDisplay)> pantalla;
 };
 
-/// Kilobytes of memory that belong to the process alone: what it has written. Pages as they stand in a file
-/// are shared with whoever else runs the same library, so they tell more about the machine than about the
-/// program.
-double MemoriaPropia(pid_t pid) {
-  std::ifstream mapa("/proc/" + std::to_string(pid) + "/smaps_rollup");
-  const std::string campo = "Anonymous:";
-  for (std::string linea; std::getline(mapa, linea);) {
-    if (linea.compare(0, campo.size(), campo) == 0) return std::stod(linea.substr(campo.size()));
-  }
-  throw std::runtime_error("el sistema no dice la memoria del programa");
-}
-
 /// What a start costs.
 struct Costo {
   double segundos;
@@ -91,7 +79,7 @@ Costo Arranca(Vigia& vigia, const char* programa, const char* titulo) {
   });
   close(nada);
   usleep(Reposo);
-  return {segundos, MemoriaPropia(hijo->pid())};
+  return {segundos, medida::MemoriaPropia(hijo->pid())};
 }
 
 }  // namespace

@@ -28,23 +28,29 @@ void Vacia(lista<T>& filas) {
   filas.RemoverTodos();
 }
 
-/// Takes the rows of the shared result into an empty map.
+/// Takes the rows of the shared result into an empty map. Each is filled where it stays.
 template <class T>
 void TomaFilas(std::map<int, T>& mapa) {
-  T registro;
-  for (int fila = 0; fila < PQntuples(res); ++fila) {
-    registro.Fill(fila);
-    mapa.emplace_hint(mapa.end(), fila, registro);
+  const int filas = PQntuples(res);
+  if (filas == 0) return;
+  T* anterior = &mapa.try_emplace(0).first->second;
+  anterior->Fill(0);
+  for (int fila = 1; fila < filas; ++fila) {
+    anterior = &mapa.emplace_hint(mapa.end(), fila, *anterior)->second;
+    anterior->Fill(fila);
   }
 }
 
 /// Takes the rows of the shared result into an empty list, sorted by its record's key.
 template <class T>
 void TomaFilas(lista<T>& filas) {
-  T registro;
+  const T blanco;
+  const T* anterior = &blanco;
   for (int fila = 0; fila < PQntuples(res); ++fila) {
-    registro.Fill(fila);
-    filas.Insertar(registro);
+    filas.Insertar(*anterior, [&](T& nuevo) {
+      nuevo.Fill(fila);
+      anterior = &nuevo;
+    });
   }
 }
 

@@ -18,6 +18,7 @@
 // defines under the same name.
 #pragma once
 
+#include <charconv>
 #include <cstdlib>
 #include <cstring>
 #include <tuple>
@@ -31,25 +32,34 @@
 /// The statements that a record class writes to standard output before it executes them: a sum of these.
 enum Traza : unsigned { TrazaNinguna = 0, TrazaAddNew = 1, TrazaUpdate = 2, TrazaDelete = 4, TrazaFind = 8 };
 
+/// The whole number at the start of a text, as atol reads it; a long catalogue has a million of them.
+inline long EnteroDe(const char* texto) {
+  const char* const fin = texto + strlen(texto);
+  long valor = 0;
+  const auto [resto, error] = std::from_chars(texto, fin, valor);
+  return error == std::errc() ? valor : strtol(texto, nullptr, 10);
+}
+
 /// Converts one row of the shared result, field after field, into columns.
 class LectorDeFila {
  public:
-  explicit LectorDeFila(int fila) : fila(fila) {}
+  explicit LectorDeFila(int fila) : fila(fila), columnas(fila < PQntuples(res) ? PQnfields(res) : 0) {}
 
   template <size_t N>
   void operator()(char (&columna)[N]) {
     CopiaTexto(columna, Siguiente());
   }
-  void operator()(int& columna) { columna = atoi(Siguiente()); }
-  void operator()(long& columna) { columna = atol(Siguiente()); }
+  void operator()(int& columna) { columna = static_cast<int>(EnteroDe(Siguiente())); }
+  void operator()(long& columna) { columna = EnteroDe(Siguiente()); }
   void operator()(float& columna) { columna = strtof(Siguiente(), nullptr); }
   void operator()(double& columna) { columna = atof(Siguiente()); }
   void operator()(date& columna) { columna = date(Siguiente()); }
 
  private:
-  const char* Siguiente() { return Celda(fila, siguiente++); }
+  const char* Siguiente() { return siguiente < columnas ? PQgetvalue(res, fila, siguiente++) : ""; }
 
   int fila;
+  int columnas;
   int siguiente = 0;
 };
 

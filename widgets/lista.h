@@ -1,5 +1,8 @@
 #pragma once
 
+#include <memory>
+#include <memory_resource>
+#include <new>
 #include <stdexcept>
 #include <type_traits>
 #include <utility>
@@ -13,7 +16,9 @@ struct nodo {
 
 // A list kept sorted by operator> and operator<= of T; equal keys stand in the order of their insertion.
 // There is no head: the cursor is the only way in. Item, setItem and Insertar walk from where the cursor
-// stands, so that reading or filling a list in key order costs one step per row.
+// stands, so that reading or filling a list in key order costs one step per row. The nodes lie one behind the
+// other in blocks of memory that the list gives back when it is emptied: a national table of neighbourhoods
+// takes no more than its rows.
 //
 //   for (const cGrupo& grupo : catalogo.Grupos) ...   // reads in order and leaves the cursor where it is
 template <class T>
@@ -35,7 +40,12 @@ class lista {
 
   // Inserts in order. The cursor is left on the element before the new one, or on the old first one if the
   // new one became the first, or on the new one if the list was empty.
-  void Insertar(T x);
+  void Insertar(T x) {
+    Insertar(x, [](T&) {});
+  }
+  // The same with a copy of `modelo` that `llena`, which must not throw, completes where it will stay.
+  template <class Llena>
+  void Insertar(const T& modelo, Llena llena);
 
   // A copy of the element at position `i`, counted from 0, on which the cursor is left. Outside the list: an
   // empty T, and the cursor stays; a T that cannot be empty throws out_of_range.
@@ -68,8 +78,10 @@ class lista {
   bool Ir(int i);
   void Avanza();
   void Retrocede();
-  nodo<T>* Enlaza(const T& x, nodo<T>* anterior, nodo<T>* siguiente);
+  nodo<T>* Nuevo(const T& x);
+  void Enlaza(nodo<T>* nuevo, nodo<T>* anterior, nodo<T>* siguiente);
 
+  std::unique_ptr<std::pmr::monotonic_buffer_resource> memoria_;  // of the nodes
   int numElementos_ = 0;
   nodo<T>* cursor_ = nullptr;
   int posicion_ = 0;       // of the cursor
@@ -79,7 +91,8 @@ class lista {
 template <class T>
 lista<T>::lista(const lista& otra) {
   for (const T& dato : otra) {
-    nodo<T>* nuevo = Enlaza(dato, cursor_, nullptr);
+    nodo<T>* nuevo = Nuevo(dato);
+    Enlaza(nuevo, cursor_, nullptr);
     if (ListaVacia()) {
       cursor_ = nuevo;
     } else {
@@ -92,6 +105,7 @@ lista<T>::lista(const lista& otra) {
 
 template <class T>
 lista<T>& lista<T>::operator=(lista otra) {
+  std::swap(memoria_, otra.memoria_);
   std::swap(numElementos_, otra.numElementos_);
   std::swap(cursor_, otra.cursor_);
   std::swap(posicion_, otra.posicion_);
@@ -115,18 +129,23 @@ void lista<T>::Siguiente() {
 }
 
 template <class T>
-void lista<T>::Insertar(T x) {
+template <class Llena>
+void lista<T>::Insertar(const T& modelo, Llena llena) {
+  nodo<T>* const nuevo = Nuevo(modelo);
+  llena(nuevo->dato);
+  const T& x = nuevo->dato;
   // In a sorted list every start leads to the same place; otherwise the walk from the first decides.
   if (retocada_) Primero();
   while (!ListaVacia() && cursor_->dato > x && posicion_ > 0) Retrocede();
   if (ListaVacia()) {
-    cursor_ = Enlaza(x, nullptr, nullptr);
+    Enlaza(nuevo, nullptr, nullptr);
+    cursor_ = nuevo;
   } else if (cursor_->dato > x) {
-    Enlaza(x, nullptr, cursor_);
+    Enlaza(nuevo, nullptr, cursor_);
     ++posicion_;
   } else {
     while (cursor_->siguiente != nullptr && cursor_->siguiente->dato <= x) Avanza();
-    Enlaza(x, cursor_, cursor_->siguiente);
+    Enlaza(nuevo, cursor_, cursor_->siguiente);
   }
 }
 
@@ -150,12 +169,17 @@ void lista<T>::setItem(const T& x, int i) {
 template <class T>
 void lista<T>::RemoverTodos() {
   Primero();
-  while (!ListaVacia()) {
-    nodo<T>* siguiente = cursor_->siguiente;
-    delete cursor_;
-    cursor_ = siguiente;
+  if constexpr (!std::is_trivially_destructible_v<T>) {
+    for (nodo<T>* actual = cursor_; actual != nullptr;) {
+      nodo<T>* const siguiente = actual->siguiente;
+      actual->~nodo<T>();
+      actual = siguiente;
+    }
   }
+  cursor_ = nullptr;
+  if (memoria_ != nullptr) memoria_->release();
   numElementos_ = 0;
+  posicion_ = 0;
   retocada_ = false;
 }
 
@@ -187,12 +211,20 @@ void lista<T>::Retrocede() {
   --posicion_;
 }
 
+// A node that nothing points at yet.
+template <class T>
+nodo<T>* lista<T>::Nuevo(const T& x) {
+  if (memoria_ == nullptr)
+    memoria_ = std::make_unique<std::pmr::monotonic_buffer_resource>(8 * sizeof(nodo<T>));
+  return new (memoria_->allocate(sizeof(nodo<T>), alignof(nodo<T>))) nodo<T>{x, nullptr, nullptr};
+}
+
 // Puts a new node between two neighbours, either of which may be null.
 template <class T>
-nodo<T>* lista<T>::Enlaza(const T& x, nodo<T>* anterior, nodo<T>* siguiente) {
-  auto* nuevo = new nodo<T>{x, siguiente, anterior};
+void lista<T>::Enlaza(nodo<T>* nuevo, nodo<T>* anterior, nodo<T>* siguiente) {
+  nuevo->anterior = anterior;
+  nuevo->siguiente = siguiente;
   if (anterior != nullptr) anterior->siguiente = nuevo;
   if (siguiente != nullptr) siguiente->anterior = nuevo;
   ++numElementos_;
-  return nuevo;
 }
