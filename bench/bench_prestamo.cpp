@@ -4,10 +4,10 @@
 #include <string>
 #include <vector>
 
+#include "bench/Cuentas.h"
 #include "bench/Medida.h"
 #include "catalogs/finance/TipoPrestamo_Window.h"
 #include "db/Engine.h"
-#include "framework/Busqueda_Window.h"
 #include "tests/support/Pantalla.h"
 #include "tests/support/Servidor.h"
 
@@ -15,24 +15,6 @@ namespace {
 
 constexpr int Cuantas[] = {500, 5000, 20000};
 constexpr int Vueltas = 11;
-
-void PonCarta(int cuantas) {
-  Catalogo::Catalogo_Ctas.clear();
-  cCatalogo_Ctas cuenta;
-  for (int fila = 0; fila < cuantas; ++fila) {
-    cuenta.setCuentaID((std::to_string(100000 + fila) + "-00-00-00-0000").c_str());
-    cuenta.setCuentaNombre(("Depósitos de ahorro: " + std::to_string(fila)).c_str());
-    Catalogo::Catalogo_Ctas.emplace(fila, cuenta);
-  }
-}
-
-/// The items of the present chart.
-std::vector<FXString> Textos() {
-  std::vector<FXString> textos;
-  for (const auto& [fila, cuenta] : Catalogo::Catalogo_Ctas)
-    textos.push_back(RenglonDeCuenta(cuenta, 18, "  "));
-  return textos;
-}
 
 /// A main window with an area for child forms.
 struct Ventana : FXMainWindow {
@@ -55,11 +37,7 @@ struct Llana : FXMDIChild {
       new FXTabItem(libro, "Cuentas");
       auto* columna = new FXVerticalFrame(libro, FRAME_RAISED);
       for (int campo = 0; campo < TipoPrestamo_Window::NumCuentas / paginas; ++campo) {
-        auto* combo = new FXComboBox(columna, 2, nullptr, 0, COMBOBOX_STATIC | LAYOUT_FILL_X);
-        combo->setNumVisible(10);
-        letras.push_back(std::make_unique<FXFont>(getApp(), "helvica", 8));
-        combo->setFont(letras.back().get());
-        for (const FXString& texto : textos) combo->appendItem(texto);
+        letras.push_back(ComboLlano(columna, textos));
       }
     }
     create();

@@ -9,6 +9,8 @@
 
 #include <map>
 
+#include "catalogs/assets/cActivo.h"
+#include "catalogs/assets/cTipoDepreciacion.h"
 #include "catalogs/finance/cCalculo.h"
 #include "catalogs/finance/cCatalogo_Ctas.h"
 #include "catalogs/finance/cTipoInversion.h"
@@ -52,6 +54,8 @@ class Catalogo {
   // select that fails gives no rows and no message.
   void LoadCuentas();
   void LoadMonedas();
+  void LoadTipoDepreciacion();
+  void LoadActivos();
   void LoadTipoPrestamo();
   void LoadTipoMovimiento();
   void LoadTipoGarantia();
@@ -111,6 +115,8 @@ class Catalogo {
 
   static std::map<int, cCatalogo_Ctas> Catalogo_Ctas;
   static std::map<int, cMonedas> Monedas;
+  static std::map<int, cTipoDepreciacion> TipoDepreciacion;
+  static std::map<int, cActivo> Activos;
   static std::map<int, cTipoPrestamo> TipoPrestamo;
   static std::map<int, cTipoMovimiento> TipoMovimiento;
   static std::map<int, cTipo_Garantia> Tipo_Garantia;

@@ -11,6 +11,8 @@
 
 std::map<int, cCatalogo_Ctas> Catalogo::Catalogo_Ctas;
 std::map<int, cMonedas> Catalogo::Monedas;
+std::map<int, cTipoDepreciacion> Catalogo::TipoDepreciacion;
+std::map<int, cActivo> Catalogo::Activos;
 std::map<int, cTipoPrestamo> Catalogo::TipoPrestamo;
 std::map<int, cTipoMovimiento> Catalogo::TipoMovimiento;
 std::map<int, cTipo_Garantia> Catalogo::Tipo_Garantia;
@@ -42,8 +44,8 @@ struct Paso {
 const Paso pasos[] = {
     {"0\n", &Catalogo::LoadCuentas},
     {"1      \n", &Catalogo::LoadMonedas},
-    {"2      \n", nullptr},
-    {"3      \n", nullptr},
+    {"2      \n", &Catalogo::LoadTipoDepreciacion},
+    {"3      \n", &Catalogo::LoadActivos},
     {"4      \n", &Catalogo::LoadTipoPrestamo},
     {"5      \n", &Catalogo::LoadTipoMovimiento},
     {"6      \n", nullptr},
@@ -102,6 +104,15 @@ void Catalogo::LoadCuentas() {
 
 void Catalogo::LoadMonedas() {
   CargaEnTransaccion(Monedas, "SELECT * FROM spsmoneda('  ');", "Error al cargar catalogo de monedas.");
+}
+
+void Catalogo::LoadTipoDepreciacion() {
+  CargaEnTransaccion(TipoDepreciacion, "SELECT * FROM spsdepreciacion(0);",
+                     "Error al cargar catalogo de tipo de depreciaciones.");
+}
+
+void Catalogo::LoadActivos() {
+  CargaEnTransaccion(Activos, "SELECT * FROM spsactivo(0);", "Error al cargar catalogo de activos.");
 }
 
 void Catalogo::LoadTipoPrestamo() {

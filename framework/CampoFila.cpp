@@ -11,3 +11,11 @@ int FindTipoMovimiento(const char* tipoMovimientoID) {
 int FindFinalidad(const char* claveFinalidad) {
   return PosicionDe(Catalogo::Finalidades, &cFinalidades::getClaveFinalidad, claveFinalidad);
 }
+
+int FindMoneda(const char* monedaID) {
+  return PosicionDe(Catalogo::Monedas, &cMonedas::getMonedaID, monedaID);
+}
+
+int FindDepreciacion(long numero) {
+  return PosicionDe(Catalogo::TipoDepreciacion, &cTipoDepreciacion::getDepreciacionID, numero);
+}

@@ -24,6 +24,8 @@
 int FindCalculo(long numero);
 int FindTipoMovimiento(const char* tipoMovimientoID);
 int FindFinalidad(const char* claveFinalidad);
+int FindMoneda(const char* monedaID);
+int FindDepreciacion(long numero);
 
 /// `filas` is a map of the cache, `clave` the getter of the key, and `Find` the position of a key.
 template <const auto& filas, auto clave, auto Find>

@@ -6,6 +6,7 @@
 //   auto& Actual()          the global record on which the form works
 //   auto& Filas()           the cached container that the list shows: a map keyed by row, or a `lista`
 //   void Relee()            the load of that catalogue
+//   void Prepara()          the loads that its combo boxes need, if any, and what they offer then
 //   auto Datos()            std::tuple of Liga(member, getter, setter) for every field in the order of the
 //                           screen, the key first
 //
@@ -120,6 +121,8 @@ class Forma : public Base {
   /// Lists the catalogue and blanks the form for a new record. A load that fails is shown and leaves an empty
   /// list.
   void Comienza();
+  /// What a form loads when it opens, ahead of its own catalogue; may throw what a load throws.
+  void Prepara() {}
   /// The last steps of a child form: Comienza, its line on standard output, its slot of mdiArray, which the
   /// form frees when it closes.
   void Abre(const char* traza, int ranura);
@@ -227,6 +230,7 @@ FXButton* Forma<Ventana, Base, busqueda>::Boton(FXComposite* padre, const char* 
 template <class Ventana, class Base, Busqueda busqueda>
 void Forma<Ventana, Base, busqueda>::Comienza() {
   try {
+    Yo().Prepara();
     Yo().Load();
   } catch (char* texto) {
     Falla(texto);

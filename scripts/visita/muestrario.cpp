@@ -6,6 +6,8 @@
 #include "app/Aplicacion.h"
 #include "app/Caja.h"
 #include "app/Traductor.h"
+#include "catalogs/assets/Activo_Window.h"
+#include "catalogs/assets/TipoDepreciaciones_Window.h"
 #include "catalogs/simple/Asesor_Window.h"
 #include "catalogs/simple/ClasificacionCredito_Window.h"
 #include "catalogs/simple/Grupo_Window.h"
@@ -86,7 +88,7 @@ class Muestrario : public Caja {
   static const struct Muestra {
     const char* etiqueta;
     void (*abre)(Muestrario* principal);
-  } muestras[7];
+  } muestras[9];
 
   FXMenuPane* panel = nullptr;
 };
@@ -99,11 +101,13 @@ const Muestrario::Muestra Muestrario::muestras[] = {
     {"&Fecha", Muestrario::Dialogo<Fecha_Window>},
     {"&Grupos", Muestrario::Hija<Grupo_Window>},
     {"C&uentas", Muestrario::Dialogo<Busqueda_Window>},
+    {"&Depreciaciones", Muestrario::Dialogo<TipoDepreciaciones_Window>},
+    {"Ac&tivos", Muestrario::Dialogo<Activo_Window>},
 };
 
 FXDEFMAP(Muestrario)
 MuestrarioMap[] = {
-    FXMAPFUNCS(SEL_COMMAND, Muestrario::ID_MUESTRA, Muestrario::ID_MUESTRA + 6, Muestrario::onCmdMuestra),
+    FXMAPFUNCS(SEL_COMMAND, Muestrario::ID_MUESTRA, Muestrario::ID_MUESTRA + 8, Muestrario::onCmdMuestra),
 };
 FXIMPLEMENT(Muestrario, Caja, MuestrarioMap, ARRAYNUMBER(MuestrarioMap))
 

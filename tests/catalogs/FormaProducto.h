@@ -101,6 +101,14 @@ Entrada<V> Mando(FXSelector id, long (V::*manejador)(FXObject*, FXSelector, void
   return {FXSEL(SEL_COMMAND, id), FXSEL(SEL_COMMAND, id + cuantos - 1), manejador};
 }
 
+/// A number as a user types it: without the zeros at the end.
+inline std::string Tecleado(std::string valor) {
+  if (valor.find('.') == std::string::npos) return valor;
+  valor.erase(valor.find_last_not_of('0') + 1);
+  if (valor.back() == '.') valor.pop_back();
+  return valor;
+}
+
 /// A form opened on the demonstration, with what it picks from in the cache.
 class ConForma : public testing::Test {
  protected:
@@ -267,13 +275,6 @@ class ConForma : public testing::Test {
     Valores valores = tabla.propios;
     valores.merge(Tomados(&pruebas::Campo::otro));
     return valores;
-  }
-  /// Typed by a user: without the zeros at the end.
-  static std::string Tecleado(std::string valor) {
-    if (valor.find('.') == std::string::npos) return valor;
-    valor.erase(valor.find_last_not_of('0') + 1);
-    if (valor.back() == '.') valor.pop_back();
-    return valor;
   }
   static bool Marcada(const std::string& valor) { return valor == "S" || valor == "1"; }
   /// The place of a key in what a combo box offers; the first one for a key that it does not offer.

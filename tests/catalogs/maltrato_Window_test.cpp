@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "app/sesion.h"
+#include "catalogs/assets/Activo_Window.h"
+#include "catalogs/assets/TipoDepreciaciones_Window.h"
 #include "catalogs/finance/Calculo_Window.h"
 #include "catalogs/finance/TipoInversion_Window.h"
 #include "catalogs/finance/TipoMovimiento_Window.h"
@@ -57,6 +59,8 @@ const Ventana ventanas[] = {
     VENTANA(Calculo_Window),
     VENTANA(TipoMovimiento_Window),
     VENTANA(TipoInversion_Window),
+    VENTANA(TipoDepreciaciones_Window),
+    VENTANA(Activo_Window),
 };
 
 class Maltratadas : public ConSucursal, public testing::WithParamInterface<Ventana> {

@@ -48,6 +48,11 @@ std::function<size_t(const Catalogo&)> Cuantas(lista<T> Catalogo::*filas) {
 const CargaDelCache cargas[] = {
     {"Monedas", &Catalogo::LoadMonedas, SelectDeMonedas, "Error al cargar catalogo de monedas.", false,
      Cuantas(Catalogo::Monedas), "moneda"},
+    {"TipoDepreciacion", &Catalogo::LoadTipoDepreciacion, "SELECT * FROM spsdepreciacion(0);",
+     "Error al cargar catalogo de tipo de depreciaciones.", false, Cuantas(Catalogo::TipoDepreciacion),
+     "depreciacion"},
+    {"Activos", &Catalogo::LoadActivos, "SELECT * FROM spsactivo(0);", "Error al cargar catalogo de activos.",
+     false, Cuantas(Catalogo::Activos), "activo"},
     {"TipoPrestamo", &Catalogo::LoadTipoPrestamo, "SELECT * FROM spstipoprestamo('   ');",
      "Error al cargar catalogo de activos.", true, Cuantas(Catalogo::TipoPrestamo), "tipoprestamo"},
     {"TipoMovimiento", &Catalogo::LoadTipoMovimiento, "SELECT * FROM spstipomovimiento('  ');",
@@ -385,8 +390,8 @@ const struct {
 } pasos[] = {
     {"0\n", "Cuentas"},
     {"1      \n", "Monedas"},
-    {"2      \n", nullptr},
-    {"3      \n", nullptr},
+    {"2      \n", "TipoDepreciacion"},
+    {"3      \n", "Activos"},
     {"4      \n", "TipoPrestamo"},
     {"5      \n", "TipoMovimiento"},
     {"6      \n", nullptr},
