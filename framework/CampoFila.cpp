@@ -1,6 +1,8 @@
 #include "framework/CampoFila.h"
 
+#include "framework/CampoCuenta.h"
 #include "framework/Filas.h"
+#include "widgets/TextoAcotado.h"
 
 int FindCalculo(long numero) { return PosicionDe(Catalogo::Calculos, &cCalculo::getCalculoID, numero); }
 
@@ -10,4 +12,9 @@ int FindTipoMovimiento(const char* tipoMovimientoID) {
 
 int FindFinalidad(const char* claveFinalidad) {
   return PosicionDe(Catalogo::Finalidades, &cFinalidades::getClaveFinalidad, claveFinalidad);
+}
+
+const char* RenglonDeMovimiento(const cTipoMovimiento& tipo) {
+  FormateaTexto(sCuenta, "%s %s", tipo.getTipoMovimientoID(), tipo.getDescTipoMovimiento());
+  return sCuenta;
 }

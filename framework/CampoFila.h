@@ -25,6 +25,10 @@ int FindCalculo(long numero);
 int FindTipoMovimiento(const char* tipoMovimientoID);
 int FindFinalidad(const char* claveFinalidad);
 
+/// A movement type as a combo box shows it where its key is of use: key and description. Stays until the next
+/// call.
+const char* RenglonDeMovimiento(const cTipoMovimiento& tipo);
+
 /// `filas` is a map of the cache, `clave` the getter of the key, and `Find` the position of a key.
 template <const auto& filas, auto clave, auto Find>
 class DatoFila {
