@@ -2,10 +2,16 @@
 // child form the slot of mdiArray that has to be free. That slot is not always the one that the form takes.
 #include "app/Caja.h"
 #include "app/sesion.h"
+#include "catalogs/finance/Banco_Window.h"
 #include "catalogs/finance/Calculo_Window.h"
+#include "catalogs/finance/Inabil_Window.h"
+#include "catalogs/finance/Inpc_Window.h"
+#include "catalogs/finance/Recargos_Window.h"
 #include "catalogs/finance/TipoInversion_Window.h"
 #include "catalogs/finance/TipoMovimiento_Window.h"
 #include "catalogs/finance/TipoPrestamo_Window.h"
+#include "catalogs/finance/TipoPromocion_Window.h"
+#include "catalogs/finance/Udis_Window.h"
 #include "catalogs/people/cPermisosModulos.h"
 #include "catalogs/simple/ConceptoScoring_Window.h"
 #include "catalogs/simple/Estados_Credito_Window.h"
@@ -56,7 +62,7 @@ long Caja::OpcionPendiente(const char* modulo) {
 }
 
 long Caja::onCmdMonedas(FXObject*, FXSelector, void*) { return OpcionHija<Monedas_Window>("0203", 1); }
-long Caja::onCmdBancos(FXObject*, FXSelector, void*) { return OpcionPendiente("0204"); }
+long Caja::onCmdBancos(FXObject*, FXSelector, void*) { return OpcionHija<Banco_Window>("0204", 2); }
 long Caja::onCmdUsuarios(FXObject*, FXSelector, void*) { return OpcionPendiente("0206"); }
 long Caja::onCmdTipoMovimiento(FXObject*, FXSelector, void*) {
   return OpcionHija<TipoMovimiento_Window>("0207", 5);
@@ -83,14 +89,16 @@ long Caja::onCmdModulos(FXObject*, FXSelector, void*) { return OpcionModal<Modul
 long Caja::onCmdTipoSocios(FXObject*, FXSelector, void*) { return OpcionModal<TipoSocio_Window>("0217"); }
 long Caja::onCmdCalculos(FXObject*, FXSelector, void*) { return OpcionModal<Calculo_Window>("0218"); }
 long Caja::onCmdTipoUsuarios(FXObject*, FXSelector, void*) { return OpcionModal<TipoUsuario_Window>("0216"); }
-long Caja::onCmdTipoPromocion(FXObject*, FXSelector, void*) { return OpcionPendiente("0420"); }
+long Caja::onCmdTipoPromocion(FXObject*, FXSelector, void*) {
+  return OpcionHija<TipoPromocion_Window>("0420", 91);
+}
 long Caja::onCmdTasa(FXObject*, FXSelector, void*) { return OpcionPendiente("0424"); }
-long Caja::onCmdInpc(FXObject*, FXSelector, void*) { return OpcionPendiente("0428"); }
-long Caja::onCmdUdis(FXObject*, FXSelector, void*) { return OpcionPendiente("0427"); }
-long Caja::onCmdRecargos(FXObject*, FXSelector, void*) { return OpcionPendiente("0429"); }
+long Caja::onCmdInpc(FXObject*, FXSelector, void*) { return OpcionHija<Inpc_Window>("0428", 98); }
+long Caja::onCmdUdis(FXObject*, FXSelector, void*) { return OpcionHija<Udis_Window>("0427", 97); }
+long Caja::onCmdRecargos(FXObject*, FXSelector, void*) { return OpcionHija<Recargos_Window>("0429", 99); }
 long Caja::onCmdMotivoBaja(FXObject*, FXSelector, void*) { return AbreHija<MotivoBaja_Window>(80); }
 long Caja::onCmdSujeto(FXObject*, FXSelector, void*) { return OpcionPendiente("0442"); }
-long Caja::onCmdInabiles(FXObject*, FXSelector, void*) { return OpcionPendiente("0448"); }
+long Caja::onCmdInabiles(FXObject*, FXSelector, void*) { return OpcionHija<Inabil_Window>("0448", 98); }
 long Caja::onCmdGrupos(FXObject*, FXSelector, void*) { return OpcionHija<Grupo_Window>("0449", 98); }
 long Caja::onCmdOcupaciones(FXObject*, FXSelector, void*) { return OpcionHija<Ocupacion_Window>("0450", 98); }
 long Caja::onCmdConceptoScoring(FXObject*, FXSelector, void*) {

@@ -11,11 +11,17 @@
 
 #include "catalogs/assets/cActivo.h"
 #include "catalogs/assets/cTipoDepreciacion.h"
+#include "catalogs/finance/cBanco.h"
 #include "catalogs/finance/cCalculo.h"
 #include "catalogs/finance/cCatalogo_Ctas.h"
+#include "catalogs/finance/cInabil.h"
+#include "catalogs/finance/cInpc.h"
+#include "catalogs/finance/cRecargos.h"
 #include "catalogs/finance/cTipoInversion.h"
 #include "catalogs/finance/cTipoMovimiento.h"
 #include "catalogs/finance/cTipoPrestamo.h"
+#include "catalogs/finance/cTipoPromocion.h"
+#include "catalogs/finance/cUdis.h"
 #include "catalogs/people/cCiudadMex.h"
 #include "catalogs/people/cColonia.h"
 #include "catalogs/people/cEstadoMex.h"
@@ -58,6 +64,7 @@ class Catalogo {
   void LoadActivos();
   void LoadTipoPrestamo();
   void LoadTipoMovimiento();
+  void LoadBancos();
   void LoadTipoGarantia();
   void LoadEstadosCredito();
   void LoadFinalidades();
@@ -69,12 +76,17 @@ class Catalogo {
   void LoadTiposSocios();
   void LoadModulos();
   void LoadCalculos();
+  void LoadTipoPromociones();
   void LoadAsesor();
   void LoadColonias();
   void LoadMotivosBaja();
   void LoadClasificacionCreditos();
+  void LoadUdis();
+  void LoadInpc();
+  void LoadRecargos();
   void LoadTipoAcreditadosR();
   void LoadTipoAsentamientos();
+  void LoadInabiles();
   void LoadGrupos();
   void LoadOcupaciones();
   void LoadConceptosScoring();
@@ -119,6 +131,7 @@ class Catalogo {
   static std::map<int, cActivo> Activos;
   static std::map<int, cTipoPrestamo> TipoPrestamo;
   static std::map<int, cTipoMovimiento> TipoMovimiento;
+  static std::map<int, cBanco> Bancos;
   static std::map<int, cTipo_Garantia> Tipo_Garantia;
   static std::map<int, cEstados_Credito> Estados_Credito;
   static std::map<int, cFinalidades> Finalidades;
@@ -133,11 +146,16 @@ class Catalogo {
   static std::map<int, cCalculo> Calculos;
   static std::map<int, cSujeto> Sujetos;
   static std::map<int, cAsesor> Asesores;
+  static std::map<int, cUdis> Udis;
+  static std::map<int, cInpc> Inpc;
+  static std::map<int, cRecargos> Recargos;
   static std::map<int, cTipoAsentamiento> TipoAsentamientos;
+  static std::map<int, cInabil> Inabiles;
   static std::map<int, cConceptoScoring> ConceptosScoring;
 
   static bool bLoad;  // true once Load has run to its end
 
+  lista<cTipoPromocion> TipoPromociones;
   lista<cColonia> Colonias;  // all of them; no form reads it
   lista<cMotivoBaja> MotivosBaja;
   lista<cClasificacionCredito> ClasificacionCreditos;

@@ -15,6 +15,7 @@ std::map<int, cTipoDepreciacion> Catalogo::TipoDepreciacion;
 std::map<int, cActivo> Catalogo::Activos;
 std::map<int, cTipoPrestamo> Catalogo::TipoPrestamo;
 std::map<int, cTipoMovimiento> Catalogo::TipoMovimiento;
+std::map<int, cBanco> Catalogo::Bancos;
 std::map<int, cTipo_Garantia> Catalogo::Tipo_Garantia;
 std::map<int, cEstados_Credito> Catalogo::Estados_Credito;
 std::map<int, cFinalidades> Catalogo::Finalidades;
@@ -29,7 +30,11 @@ std::map<int, cSocioCaja> Catalogo::SociosCaja;
 std::map<int, cCalculo> Catalogo::Calculos;
 std::map<int, cSujeto> Catalogo::Sujetos;
 std::map<int, cAsesor> Catalogo::Asesores;
+std::map<int, cUdis> Catalogo::Udis;
+std::map<int, cInpc> Catalogo::Inpc;
+std::map<int, cRecargos> Catalogo::Recargos;
 std::map<int, cTipoAsentamiento> Catalogo::TipoAsentamientos;
+std::map<int, cInabil> Catalogo::Inabiles;
 std::map<int, cConceptoScoring> Catalogo::ConceptosScoring;
 bool Catalogo::bLoad = false;
 
@@ -48,7 +53,7 @@ const Paso pasos[] = {
     {"3      \n", &Catalogo::LoadActivos},
     {"4      \n", &Catalogo::LoadTipoPrestamo},
     {"5      \n", &Catalogo::LoadTipoMovimiento},
-    {"6      \n", nullptr},
+    {"6      \n", &Catalogo::LoadBancos},
     {"7      \n", &Catalogo::LoadTipoGarantia},
     {"8      \n", &Catalogo::LoadEstadosCredito},
     {"9      \n", &Catalogo::LoadFinalidades},
@@ -62,18 +67,18 @@ const Paso pasos[] = {
     {"16     \n", &Catalogo::LoadModulos},
     {"17     \n", nullptr},
     {"18     \n", &Catalogo::LoadCalculos},
-    {"19     \n", nullptr},
+    {"19     \n", &Catalogo::LoadTipoPromociones},
     {"21     ", &Catalogo::LoadAsesor},
     {"22     ", nullptr},
     {"23     ", &Catalogo::LoadColonias},
     {"24     ", &Catalogo::LoadMotivosBaja},
     {"25     ", &Catalogo::LoadClasificacionCreditos},
-    {"26     ", nullptr},
-    {"27     ", nullptr},
-    {"28     ", nullptr},
+    {"26     ", &Catalogo::LoadUdis},
+    {"27     ", &Catalogo::LoadInpc},
+    {"28     ", &Catalogo::LoadRecargos},
     {"29     ", &Catalogo::LoadTipoAcreditadosR},
     {"30     ", &Catalogo::LoadTipoAsentamientos},
-    {"31     ", nullptr},
+    {"31     ", &Catalogo::LoadInabiles},
     {"32     ", &Catalogo::LoadGrupos},
     {"33     ", &Catalogo::LoadOcupaciones},
     {"34     ", &Catalogo::LoadConceptosScoring},
@@ -123,6 +128,11 @@ void Catalogo::LoadTipoPrestamo() {
 void Catalogo::LoadTipoMovimiento() {
   CargaEnTransaccion(TipoMovimiento, Trazada("SELECT * FROM spstipomovimiento('  ');"),
                      "Error al cargar catalogo de tipos de movimientos.");
+}
+
+void Catalogo::LoadBancos() {
+  CargaEnTransaccion(Bancos, Trazada("SELECT * FROM spsbanco('  ');"),
+                     "Error al cargar catalogo de monedas.");
 }
 
 void Catalogo::LoadTipoGarantia() {
@@ -175,6 +185,10 @@ void Catalogo::LoadCalculos() {
   CargaEnTransaccion(Calculos, "SELECT * FROM spscalculo(0);", "Error al cargar catalogo de calculos.");
 }
 
+void Catalogo::LoadTipoPromociones() {
+  Carga(TipoPromociones, Trazada("SELECT * FROM spstipopromocion(0);"));
+}
+
 void Catalogo::LoadAsesor() {
   CargaEnTransaccion(Asesores, "SELECT * FROM spsasesor(0);", "Error al cargar catalogo de asesor.");
 }
@@ -187,6 +201,12 @@ void Catalogo::LoadClasificacionCreditos() {
   Carga(ClasificacionCreditos, Trazada("SELECT * FROM spsclasificacioncredito(0);"));
 }
 
+void Catalogo::LoadUdis() { Carga(Udis, Trazada("SELECT * FROM spsudis('1900-01-01');")); }
+
+void Catalogo::LoadInpc() { Carga(Inpc, Trazada("SELECT * FROM spsinpc(0,0);")); }
+
+void Catalogo::LoadRecargos() { Carga(Recargos, Trazada("SELECT * FROM spsrecargos(0,0);")); }
+
 void Catalogo::LoadTipoAcreditadosR() {
   Carga(TipoAcreditadosR, Trazada("SELECT * FROM spstipoacreditador(0);"));
   for (int fila = 0; fila < TipoAcreditadosR.NumElementos(); ++fila) std::cout << "Inserto Tipo Acreditado R";
@@ -196,6 +216,8 @@ void Catalogo::LoadTipoAcreditadosR() {
 void Catalogo::LoadTipoAsentamientos() {
   Carga(TipoAsentamientos, Trazada("SELECT * FROM spstipoasentamiento(0);"));
 }
+
+void Catalogo::LoadInabiles() { Carga(Inabiles, Trazada("SELECT * FROM inabil;")); }
 
 void Catalogo::LoadGrupos() { Carga(Grupos, Trazada("SELECT * FROM spsgrupo(0);")); }
 

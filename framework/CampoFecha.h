@@ -17,8 +17,11 @@
 
 /// A date as the screen writes it, dd/mm/yyyy, or the beginning of one.
 struct DatoFecha : DatoTexto {
-  /// Shows a date. Nothing, which is what `Pon({})` passes, empties the field.
-  void Pon(const std::optional<date>& nueva) { DatoTexto::Pon(nueva ? nueva->AsDMY() : ""); }
+  /// Shows a date. That of an empty text and nothing, which is what `Pon({})` passes, empty the field: a
+  /// blank would be in the way of what is typed there.
+  void Pon(const std::optional<date>& nueva) {
+    DatoTexto::Pon(nueva ? FXString(nueva->AsDMY()).trim() : FXString::null);
+  }
   date Valor() const { return date(valor.text()); }
   /// What the handler of the button does: the round trip through the calendar, which writes the date back in
   /// `formato` also when it was cancelled.

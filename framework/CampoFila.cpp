@@ -1,6 +1,8 @@
 #include "framework/CampoFila.h"
 
+#include "framework/CampoCuenta.h"
 #include "framework/Filas.h"
+#include "widgets/TextoAcotado.h"
 
 int FindCalculo(long numero) { return PosicionDe(Catalogo::Calculos, &cCalculo::getCalculoID, numero); }
 
@@ -18,4 +20,9 @@ int FindMoneda(const char* monedaID) {
 
 int FindDepreciacion(long numero) {
   return PosicionDe(Catalogo::TipoDepreciacion, &cTipoDepreciacion::getDepreciacionID, numero);
+}
+
+const char* RenglonDeMovimiento(const cTipoMovimiento& tipo) {
+  FormateaTexto(sCuenta, "%s %s", tipo.getTipoMovimientoID(), tipo.getDescTipoMovimiento());
+  return sCuenta;
 }

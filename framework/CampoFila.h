@@ -27,6 +27,10 @@ int FindFinalidad(const char* claveFinalidad);
 int FindMoneda(const char* monedaID);
 int FindDepreciacion(long numero);
 
+/// A movement type as a combo box shows it where its key is of use: key and description. Stays until the next
+/// call.
+const char* RenglonDeMovimiento(const cTipoMovimiento& tipo);
+
 /// `filas` is a map of the cache, `clave` the getter of the key, and `Find` the position of a key.
 template <const auto& filas, auto clave, auto Find>
 class DatoFila {

@@ -80,6 +80,10 @@ void campoEntero(FXComposite* padre, const char* etiqueta, int columnas, DatoEnt
   Renglon<Campo>(padre, etiqueta, columnas, dato, JUSTIFY_RIGHT | filtro);
 }
 
+void campoEntero(FXComposite* padre, const char* etiqueta, int columnas, DatoLargo& dato) {
+  Renglon<Campo>(padre, etiqueta, columnas, dato, JUSTIFY_RIGHT | TEXTFIELD_INTEGER);
+}
+
 void campoParrafo(FXMatrix* matriz, const char* etiqueta, int filas, int columnas, DatoParrafo& dato) {
   Etiqueta(matriz, etiqueta);
   auto* marco = new FXHorizontalFrame(

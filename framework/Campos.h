@@ -7,8 +7,10 @@
 
 #include <fx.h>
 
+#include <cstdlib>
 #include <memory>
 #include <optional>
+#include <string>
 #include <type_traits>
 
 /// A member of a form and what binds it to its field: what the user types is in `valor` at once, and Pon
@@ -42,6 +44,12 @@ struct DatoParrafo {
     campo->setText(valor);
   }
   const FXString& Valor() { return valor = campo->getText(); }
+};
+
+/// A whole number with more digits than an FXint has; nothing in the field is 0.
+struct DatoLargo : DatoTexto {
+  void Pon(long nuevo) { DatoTexto::Pon(FXString(std::to_string(nuevo).c_str())); }
+  long Valor() const { return strtol(valor.text(), nullptr, 10); }
 };
 
 /// A check button whose state is the value, one of two. A text that is read and is neither unchecks it; a
@@ -149,6 +157,7 @@ void campoReal(FXComposite* padre, const char* etiqueta, int columnas, DatoReal&
 /// Takes what `filtro` lets through, right-justified; the whole number at its start counts.
 void campoEntero(FXComposite* padre, const char* etiqueta, int columnas, DatoEntero& dato,
                  FXuint filtro = TEXTFIELD_INTEGER);
+void campoEntero(FXComposite* padre, const char* etiqueta, int columnas, DatoLargo& dato);
 /// Shows that many rows and columns, and takes a text of any length; lines are wrapped between words.
 void campoParrafo(FXMatrix* matriz, const char* etiqueta, int filas, int columnas, DatoParrafo& dato);
 /// A box to check, which sends `mensaje` to `destino`.

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <map>
 
+#include "widgets/date.h"
 #include "widgets/lista.h"
 
 /// Runs `accion(position, record)` on every row, first to last. A `lista` is left with its cursor on the last
@@ -21,6 +22,7 @@ void CadaFila(lista<T>& filas, Accion accion) {
 /// Do two keys, as their getters give them, name the same row?
 inline bool MismaClave(const char* a, const char* b) { return strcmp(a, b) == 0; }
 inline bool MismaClave(long a, long b) { return a == b; }
+inline bool MismaClave(const date& a, const date& b) { return MismaFecha(a, b); }
 
 /// Position of the first row with this key; 0 if there is none.
 template <class T, class Clave>

@@ -8,7 +8,7 @@
 //   void Relee()            the load of that catalogue
 //   void Prepara()          the loads that its combo boxes need, if any, and what they offer then
 //   auto Datos()            std::tuple of Liga(member, getter, setter) for every field in the order of the
-//                           screen, the key first
+//                           screen, the key first; where it has several fields, camposDeClave of them
 //
 // A form without &Buscar names SinBuscar as the third argument. A form that differs in a step defines that
 // step itself under the same name: calls go down to the form. Its constructor builds in this order:
@@ -22,6 +22,7 @@
 #include <iostream>
 #include <tuple>
 #include <type_traits>
+#include <utility>
 
 #include "app/sesion.h"
 #include "framework/Campos.h"
@@ -144,12 +145,23 @@ class Forma : public Base {
   /// Does &Buscar make the row that it found the current one? A form that leaves the list alone hides this
   /// with false.
   static constexpr bool eligeHallado = true;
+  /// Of how many fields is the key? Those of &Buscar and &Borrar. A form with more than one hides this.
+  static constexpr size_t camposDeClave = 1;
 
   FXList* lstFilas = nullptr;
 
  private:
   Ventana& Yo() { return static_cast<Ventana&>(*this); }
-  auto Clave() { return std::get<0>(Yo().Datos()); }
+  /// Calls `accion` with the fields of the key.
+  template <class Accion>
+  void ConClave(Accion accion) {
+    ConPrimeros(accion, std::make_index_sequence<Ventana::camposDeClave>());
+  }
+  template <class Accion, size_t... cuales>
+  void ConPrimeros(Accion accion, std::index_sequence<cuales...>) {
+    const auto datos = Yo().Datos();
+    accion(std::get<cuales>(datos)...);
+  }
   template <class Accion>
   void CadaDato(Accion accion) {
     std::apply([&](const auto&... ligado) { (accion(ligado), ...); }, Yo().Datos());
@@ -349,19 +361,20 @@ long Forma<Ventana, Base, busqueda>::onCmdBorrar(FXObject*, FXSelector, void*) {
   return 1;
 }
 
-/// The key's field to the record.
+/// The fields of the key to the record.
 template <class Ventana, class Base, Busqueda busqueda>
 void Forma<Ventana, Base, busqueda>::TomaClave() {
-  const auto clave = Clave();
-  Pasa(Yo().Actual(), clave.set, clave.dato.Valor());
+  ConClave([this](const auto&... campo) { (Pasa(Yo().Actual(), campo.set, campo.dato.Valor()), ...); });
 }
 
 /// Makes the record's row the current one, if the list has it.
 template <class Ventana, class Base, Busqueda busqueda>
 void Forma<Ventana, Base, busqueda>::MuestraFilaDelRegistro() {
   int suya = -1;
-  CadaFila(Yo().Filas(), [&, get = Clave().get](int posicion, const auto& fila) {
-    if (suya < 0 && MismaClave((fila.*get)(), (Yo().Actual().*get)())) suya = posicion;
+  ConClave([&](const auto&... campo) {
+    CadaFila(Yo().Filas(), [&](int posicion, const auto& fila) {
+      if (suya < 0 && (MismaClave((fila.*campo.get)(), (Yo().Actual().*campo.get)()) && ...)) suya = posicion;
+    });
   });
   MuestraFila(suya);
 }

@@ -5,7 +5,7 @@
 //
 //   static constexpr unsigned trazas    the statements that it traces, where it traces any
 //   auto Columnas()                     std::tie of its columns, in the order of the server's answer
-//   auto Clave() const                  the key: a text or an integer
+//   auto Clave() const                  the key: a text, an integer, a date, or a std::pair of these
 //   Sentencia SqlAddNew() const         and SqlUpdate, SqlDelete, SqlFind: its four statements
 //   void AlInsertar()                   TomaClave(key), where the server assigns the key
 //   auto Campos()                       std::tie of its columns in the order of its members, where the
@@ -22,6 +22,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <tuple>
+#include <utility>
 
 #include "app/sesion.h"
 #include "db/Engine.h"
@@ -157,7 +158,8 @@ class Registro : public Base {
  protected:
   static constexpr unsigned trazas = TrazaNinguna;
 
-  /// Is there a key to look for, and one to delete? An integer one is above 0, and not 0.
+  /// Is there a key to look for, and one to delete? An integer one is above 0, and not 0; a date was given;
+  /// of a pair both halves are there.
   bool HayClaveFind() const { return Buscable(Yo().Clave()); }
   bool HayClaveDelete() const { return Borrable(Yo().Clave()); }
 
@@ -239,8 +241,7 @@ class Registro : public Base {
 
   /// The same for a date, by its three numbers: one that is no day of the calendar equals itself here.
   void Pon(date& columna, const date& valor) {
-    if (columna.year() == valor.year() && columna.month() == valor.month() && columna.day() == valor.day())
-      return;
+    if (MismaFecha(columna, valor)) return;
     columna = valor;
     dataChanged = true;
   }
@@ -252,8 +253,18 @@ class Registro : public Base {
   static constexpr bool SeTraza(Traza operacion) { return (Clase::trazas & operacion) != 0; }
   static bool Buscable(const char* clave) { return clave[0] != '\0'; }
   static bool Buscable(long clave) { return clave > 0; }
+  static bool Buscable(const date& clave) { return !FaltaFecha(clave); }
+  template <class A, class B>
+  static bool Buscable(const std::pair<A, B>& clave) {
+    return Buscable(clave.first) && Buscable(clave.second);
+  }
   static bool Borrable(const char* clave) { return clave[0] != '\0'; }
   static bool Borrable(long clave) { return clave != 0; }
+  static bool Borrable(const date& clave) { return !FaltaFecha(clave); }
+  template <class A, class B>
+  static bool Borrable(const std::pair<A, B>& clave) {
+    return Borrable(clave.first) && Borrable(clave.second);
+  }
 
   long ClaveEntera() const { return Yo().Clave(); }
   Clase& Yo() { return static_cast<Clase&>(*this); }

@@ -54,6 +54,11 @@ class date {
 // Was it never given? Its year is then 0, as that of an empty text, or 1900, as that of a default date.
 inline bool FaltaFecha(const date& d) { return d.year() == 0 || d.year() == 1900; }
 
+// Are the three numbers the same? Unlike ==, a date that is no day of the calendar is the same as itself.
+inline bool MismaFecha(const date& a, const date& b) {
+  return a.year() == b.year() && a.month() == b.month() && a.day() == b.day();
+}
+
 // Comparisons. With an invalid date on either side ==, < and <= are false, and !=, > and >= are true.
 bool operator==(const date& a, const date& b);
 bool operator!=(const date& a, const date& b);

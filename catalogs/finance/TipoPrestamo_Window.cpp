@@ -131,10 +131,7 @@ void TipoPrestamo_Window::LlenaCombos() {
   std::cout << "llegando aqui ...." << std::endl;
   cuentas.Llena();
   std::cout << "paso" << std::endl;
-  movimiento.Llena([](const cTipoMovimiento& tipo) {
-    FormateaTexto(sCuenta, "%s %s", tipo.getTipoMovimientoID(), tipo.getDescTipoMovimiento());
-    return sCuenta;
-  });
+  movimiento.Llena(RenglonDeMovimiento);
   finalidad.Llena(&cFinalidades::getDescripcionFinalidad);
   calculoNormal.Llena(&cCalculo::getDescripcionCalculo);
   calculoMora.Llena(&cCalculo::getDescripcionCalculo);
