@@ -3,9 +3,12 @@
 #include "app/Caja.h"
 #include "app/sesion.h"
 #include "catalogs/finance/Calculo_Window.h"
+#include "catalogs/finance/TasaInteres_Window.h"
+#include "catalogs/finance/Tasa_Window.h"
 #include "catalogs/finance/TipoInversion_Window.h"
 #include "catalogs/finance/TipoMovimiento_Window.h"
 #include "catalogs/finance/TipoPrestamo_Window.h"
+#include "catalogs/finance/TipoTasaInteres_Window.h"
 #include "catalogs/people/cPermisosModulos.h"
 #include "catalogs/simple/ConceptoScoring_Window.h"
 #include "catalogs/simple/Estados_Credito_Window.h"
@@ -84,7 +87,7 @@ long Caja::onCmdTipoSocios(FXObject*, FXSelector, void*) { return OpcionModal<Ti
 long Caja::onCmdCalculos(FXObject*, FXSelector, void*) { return OpcionModal<Calculo_Window>("0218"); }
 long Caja::onCmdTipoUsuarios(FXObject*, FXSelector, void*) { return OpcionModal<TipoUsuario_Window>("0216"); }
 long Caja::onCmdTipoPromocion(FXObject*, FXSelector, void*) { return OpcionPendiente("0420"); }
-long Caja::onCmdTasa(FXObject*, FXSelector, void*) { return OpcionPendiente("0424"); }
+long Caja::onCmdTasa(FXObject*, FXSelector, void*) { return OpcionHija<Tasa_Window>("0424", 94); }
 long Caja::onCmdInpc(FXObject*, FXSelector, void*) { return OpcionPendiente("0428"); }
 long Caja::onCmdUdis(FXObject*, FXSelector, void*) { return OpcionPendiente("0427"); }
 long Caja::onCmdRecargos(FXObject*, FXSelector, void*) { return OpcionPendiente("0429"); }
@@ -96,5 +99,7 @@ long Caja::onCmdOcupaciones(FXObject*, FXSelector, void*) { return OpcionHija<Oc
 long Caja::onCmdConceptoScoring(FXObject*, FXSelector, void*) {
   return OpcionModal<ConceptoScoring_Window>("0452");
 }
-long Caja::onCmdTasaInteres(FXObject*, FXSelector, void*) { return OpcionPendiente("0217"); }
-long Caja::onCmdTipoTasaInteres(FXObject*, FXSelector, void*) { return OpcionPendiente("0217"); }
+long Caja::onCmdTasaInteres(FXObject*, FXSelector, void*) { return OpcionModal<TasaInteres_Window>("0217"); }
+long Caja::onCmdTipoTasaInteres(FXObject*, FXSelector, void*) {
+  return OpcionModal<TipoTasaInteres_Window>("0217");
+}
