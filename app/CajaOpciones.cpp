@@ -7,10 +7,13 @@
 #include "catalogs/finance/Inabil_Window.h"
 #include "catalogs/finance/Inpc_Window.h"
 #include "catalogs/finance/Recargos_Window.h"
+#include "catalogs/finance/TasaInteres_Window.h"
+#include "catalogs/finance/Tasa_Window.h"
 #include "catalogs/finance/TipoInversion_Window.h"
 #include "catalogs/finance/TipoMovimiento_Window.h"
 #include "catalogs/finance/TipoPrestamo_Window.h"
 #include "catalogs/finance/TipoPromocion_Window.h"
+#include "catalogs/finance/TipoTasaInteres_Window.h"
 #include "catalogs/finance/Udis_Window.h"
 #include "catalogs/people/cPermisosModulos.h"
 #include "catalogs/simple/ConceptoScoring_Window.h"
@@ -92,7 +95,7 @@ long Caja::onCmdTipoUsuarios(FXObject*, FXSelector, void*) { return OpcionModal<
 long Caja::onCmdTipoPromocion(FXObject*, FXSelector, void*) {
   return OpcionHija<TipoPromocion_Window>("0420", 91);
 }
-long Caja::onCmdTasa(FXObject*, FXSelector, void*) { return OpcionPendiente("0424"); }
+long Caja::onCmdTasa(FXObject*, FXSelector, void*) { return OpcionHija<Tasa_Window>("0424", 94); }
 long Caja::onCmdInpc(FXObject*, FXSelector, void*) { return OpcionHija<Inpc_Window>("0428", 98); }
 long Caja::onCmdUdis(FXObject*, FXSelector, void*) { return OpcionHija<Udis_Window>("0427", 97); }
 long Caja::onCmdRecargos(FXObject*, FXSelector, void*) { return OpcionHija<Recargos_Window>("0429", 99); }
@@ -104,5 +107,7 @@ long Caja::onCmdOcupaciones(FXObject*, FXSelector, void*) { return OpcionHija<Oc
 long Caja::onCmdConceptoScoring(FXObject*, FXSelector, void*) {
   return OpcionModal<ConceptoScoring_Window>("0452");
 }
-long Caja::onCmdTasaInteres(FXObject*, FXSelector, void*) { return OpcionPendiente("0217"); }
-long Caja::onCmdTipoTasaInteres(FXObject*, FXSelector, void*) { return OpcionPendiente("0217"); }
+long Caja::onCmdTasaInteres(FXObject*, FXSelector, void*) { return OpcionModal<TasaInteres_Window>("0217"); }
+long Caja::onCmdTipoTasaInteres(FXObject*, FXSelector, void*) {
+  return OpcionModal<TipoTasaInteres_Window>("0217");
+}

@@ -63,12 +63,14 @@ void Carga(Contenedor& contenedor, const char* sql) {
   LiberaResultado();
 }
 
-/// A load inside a transaction; throws `mensaje`, the container already empty, when "BEGIN;" fails.
+/// A load inside a transaction; throws `mensaje`, the container already empty, when "BEGIN;" fails. The rows
+/// can come by way of another connection; the transaction is always the session's.
 template <class Contenedor>
-void CargaEnTransaccion(Contenedor& contenedor, const char* sql, const char* mensaje) {
+void CargaEnTransaccion(Contenedor& contenedor, const char* sql, const char* mensaje,
+                        PGconn* conexion = conn) {
   Vacia(contenedor);
   AbreTransaccion(mensaje);
-  Ejecuta(sql);
+  EjecutaEn(conexion, sql);
   TomaFilas(contenedor);
   Ejecuta("COMMIT;");
   LiberaResultado();

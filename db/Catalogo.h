@@ -17,10 +17,12 @@
 #include "catalogs/finance/cInabil.h"
 #include "catalogs/finance/cInpc.h"
 #include "catalogs/finance/cRecargos.h"
+#include "catalogs/finance/cTasaInteres.h"
 #include "catalogs/finance/cTipoInversion.h"
 #include "catalogs/finance/cTipoMovimiento.h"
 #include "catalogs/finance/cTipoPrestamo.h"
 #include "catalogs/finance/cTipoPromocion.h"
+#include "catalogs/finance/cTipoTasaInteres.h"
 #include "catalogs/finance/cUdis.h"
 #include "catalogs/people/cCiudadMex.h"
 #include "catalogs/people/cColonia.h"
@@ -90,6 +92,13 @@ class Catalogo {
   void LoadGrupos();
   void LoadOcupaciones();
   void LoadConceptosScoring();
+  // Those of the variable rates take the whole statement, as a format that nothing follows. The login gives
+  // them the word "null", which the server refuses: they stay empty until their forms open.
+  void LoadTipoTasa(const char* sql);
+  void LoadTipoTasa() { LoadTipoTasa("null"); }
+  /// Traced.
+  void LoadTasas(const char* sql);
+  void LoadTasas() { LoadTasas("null"); }
   /// Only if the newest member is newer than at the last load.
   void LoadSociosCaja();
   /// The members that the server finds for `filtro`, in place of all others.
@@ -152,6 +161,8 @@ class Catalogo {
   static std::map<int, cTipoAsentamiento> TipoAsentamientos;
   static std::map<int, cInabil> Inabiles;
   static std::map<int, cConceptoScoring> ConceptosScoring;
+  static std::map<int, cTipoTasaInteres> TipoTasaInteres;
+  static std::map<int, cTasaInteres> TasaInteres;
 
   static bool bLoad;  // true once Load has run to its end
 

@@ -36,6 +36,8 @@ std::map<int, cRecargos> Catalogo::Recargos;
 std::map<int, cTipoAsentamiento> Catalogo::TipoAsentamientos;
 std::map<int, cInabil> Catalogo::Inabiles;
 std::map<int, cConceptoScoring> Catalogo::ConceptosScoring;
+std::map<int, cTipoTasaInteres> Catalogo::TipoTasaInteres;
+std::map<int, cTasaInteres> Catalogo::TasaInteres;
 bool Catalogo::bLoad = false;
 
 namespace {
@@ -82,8 +84,8 @@ const Paso pasos[] = {
     {"32     ", &Catalogo::LoadGrupos},
     {"33     ", &Catalogo::LoadOcupaciones},
     {"34     ", &Catalogo::LoadConceptosScoring},
-    {"36     ", nullptr},
-    {"37     ", nullptr},
+    {"36     ", &Catalogo::LoadTipoTasa},
+    {"37     ", &Catalogo::LoadTasas},
     {"38      ", nullptr},
 };
 
@@ -224,6 +226,16 @@ void Catalogo::LoadGrupos() { Carga(Grupos, Trazada("SELECT * FROM spsgrupo(0);"
 void Catalogo::LoadOcupaciones() { Carga(Ocupaciones, Trazada("SELECT * FROM spsocupacion(0);")); }
 
 void Catalogo::LoadConceptosScoring() { Carga(ConceptosScoring, "SELECT * FROM spsconceptoscoring(0);"); }
+
+void Catalogo::LoadTipoTasa(const char* sql) {
+  CargaEnTransaccion(TipoTasaInteres, Sentencia::SinArgumentos(sql),
+                     "Error al cargar catalogo de tipo tasas.", ConexionDeLectura());
+}
+
+void Catalogo::LoadTasas(const char* sql) {
+  CargaEnTransaccion(TasaInteres, Trazada(Sentencia::SinArgumentos(sql)),
+                     "Error al cargar catalogo de tasas.", ConexionDeLectura());
+}
 
 void Catalogo::LoadSociosCaja() {
   Ejecuta("select trunc(extract(epoch from max(fechaalta))) from socio;");

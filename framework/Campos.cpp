@@ -72,8 +72,8 @@ void campoCodigo(FXComposite* padre, const char* etiqueta, int columnas, DatoTex
   Renglon<CampoCodigo>(padre, etiqueta, columnas, dato, JUSTIFY_LEFT);
 }
 
-void campoReal(FXComposite* padre, const char* etiqueta, int columnas, DatoReal& dato) {
-  Renglon<CampoReal>(padre, etiqueta, columnas, dato, JUSTIFY_RIGHT | TEXTFIELD_REAL);
+void campoReal(FXComposite* padre, const char* etiqueta, int columnas, DatoReal& dato, FXuint opciones) {
+  Renglon<CampoReal>(padre, etiqueta, columnas, dato, JUSTIFY_RIGHT | TEXTFIELD_REAL | opciones);
 }
 
 void campoEntero(FXComposite* padre, const char* etiqueta, int columnas, DatoEntero& dato, FXuint filtro) {

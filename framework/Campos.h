@@ -153,7 +153,7 @@ void campoTexto(FXComposite* padre, const char* etiqueta, int columnas, DatoText
 /// The same for a code of few letters.
 void campoCodigo(FXComposite* padre, const char* etiqueta, int columnas, DatoTexto& dato);
 /// Takes real numbers only, right-justified.
-void campoReal(FXComposite* padre, const char* etiqueta, int columnas, DatoReal& dato);
+void campoReal(FXComposite* padre, const char* etiqueta, int columnas, DatoReal& dato, FXuint opciones = 0);
 /// Takes what `filtro` lets through, right-justified; the whole number at its start counts.
 void campoEntero(FXComposite* padre, const char* etiqueta, int columnas, DatoEntero& dato,
                  FXuint filtro = TEXTFIELD_INTEGER);

@@ -15,3 +15,12 @@ Sentencia::Sentencia(const char* formato, ...) {
   }
   va_end(argumentos);
 }
+
+Sentencia Sentencia::SinArgumentos(const char* texto) {
+  Sentencia sentencia;
+  for (; *texto != '\0'; ++texto) {
+    sentencia.texto += *texto;
+    if (texto[0] == '%' && texto[1] == '%') ++texto;
+  }
+  return sentencia;
+}

@@ -45,7 +45,7 @@ SELECT is(como('adriana', 'norte', replace(sentencia, '{id}', :'id')),
     ($$SELECT sputasa(0,'ORD','','','2020-02-01','2020-02-02',1,1)$$, 'La tasa número 0 no existe'),
     ($$SELECT spdtasa({id})$$, ''),
     ($$SELECT spdtasa({id})$$, 'La tasa número {id} no existe'),
-    ($$SELECT array_agg(tasaid) = array_agg(tasaid ORDER BY tasaid) AND count(*) > 60 FROM spstasa(0)$$, 'true')
+    ($$SELECT count(*) FROM spstasa(0)$$, '0')
   ) AS paso (sentencia, esperado);
 
 -- The names of the series; every call answers the whole catalogue, here the first of it.

@@ -90,6 +90,7 @@ LANGUAGE sql SET search_path FROM CURRENT AS $$
      AND t.fechafinal IS NULL AND t.fechainicial < nueva.fechainicial
 $$;
 
+-- 0 is no rate: the client's entry form, opened without one, would otherwise offer to delete the first.
 CREATE FUNCTION spstasa(clave bigint)
 RETURNS TABLE (tasaid bigint, tipoprestamoid character(3), tipoinversionid character(3),
                tipomovimientoid character(2), fechainicial date, fechafinal date, tasanormal numeric,
@@ -99,8 +100,7 @@ BEGIN ATOMIC
   SELECT t.tasaid, coalesce(t.tipoprestamoid, ''::character(3)), coalesce(t.tipoinversionid, ''::character(3)),
          coalesce(t.tipomovimientoid, ''::character(2)), t.fechainicial, t.fechafinal, t.tasanormal, t.tasamoratorio
     FROM tasa t
-   WHERE coalesce(clave, 0) = 0 OR t.tasaid = clave
-   ORDER BY t.tasaid;
+   WHERE t.tasaid = clave;
 END;
 
 CREATE FUNCTION spitasa(prestamo text, inversion text, movimiento text, inicial text, final text, normal numeric,

@@ -5,6 +5,7 @@
 
 #include "tests/app/ConCaja.h"
 #include "tests/support/Espia.h"
+#include "tests/support/Registros.h"
 
 namespace pruebas {
 namespace {
@@ -51,10 +52,8 @@ const struct Renglon {
 
 /// The forms that do not exist yet: their options ask the permission and open nothing.
 const std::set<std::string> Pendientes = {
-    "Banco_Window",           "Usuario_Window", "EstadoMex_Window", "CiudadMex_Window",
-    "TipoPromocion_Window",   "Tasa_Window",    "Inpc_Window",      "Udis_Window",
-    "Recargos_Window",        "Sujeto_Window",  "Inabil_Window",    "TasaInteres_Window",
-    "TipoTasaInteres_Window",
+    "Banco_Window", "Usuario_Window", "EstadoMex_Window", "CiudadMex_Window", "TipoPromocion_Window",
+    "Inpc_Window",  "Udis_Window",    "Recargos_Window",  "Sujeto_Window",    "Inabil_Window",
 };
 
 bool Existe(const Renglon& opcion) { return Pendientes.count(opcion.forma) == 0; }
@@ -248,6 +247,22 @@ TEST_F(OpcionesTest, UnDialogoSeAbreEnMedioDeLaPantalla) {
     Pulsa(Boton(dialogo, "&Cerrar"));
   });
   Manda(De("TipoSocio_Window").mensaje);
+}
+
+TEST_F(OpcionesTest, LoQueUnDialogoNoAtrapaAtraviesaElCicloDeEventosYLoCierra) {
+  const Sesion sesion(*base_);
+  Espia espia;
+  Guion guion;
+  guion.Con([&](FXDialogBox* dialogo) {
+    espia.Cuando("BEGIN;", falla::Error("No"));
+    Pulsa(Boton(dialogo, "&Borrar"));
+  });
+  guion.Responde(Respuesta::Si);
+  const auto lanzado = Lanzado([&] { Manda(De("TasaInteres_Window").mensaje); });
+  EXPECT_EQ(lanzado, "Error al cargar catalogo de tipo tasas.");
+  EXPECT_EQ(App().getModalWindow(), nullptr);
+  for (const FXDialogBox* dialogo : Todos<FXDialogBox>(App().getRootWindow()))
+    EXPECT_STRNE(dialogo->getClassName(), "TasaInteres_Window");
 }
 
 // The slots.

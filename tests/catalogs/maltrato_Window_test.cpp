@@ -5,8 +5,12 @@
 #include "catalogs/assets/Activo_Window.h"
 #include "catalogs/assets/TipoDepreciaciones_Window.h"
 #include "catalogs/finance/Calculo_Window.h"
+#include "catalogs/finance/NuevoTasa_Window.h"
+#include "catalogs/finance/TasaInteres_Window.h"
+#include "catalogs/finance/Tasa_Window.h"
 #include "catalogs/finance/TipoInversion_Window.h"
 #include "catalogs/finance/TipoMovimiento_Window.h"
+#include "catalogs/finance/TipoTasaInteres_Window.h"
 #include "catalogs/simple/Asesor_Window.h"
 #include "catalogs/simple/ClasificacionCredito_Window.h"
 #include "catalogs/simple/ConceptoScoring_Window.h"
@@ -33,11 +37,12 @@ namespace {
 struct Ventana {
   const char* nombre;
   FXWindow* (*abre)(Area& area);
+  const char* lanza;  ///< without a connection; null for a form that shows its failures
 };
 
 template <class V>
-Ventana De(const char* nombre) {
-  return {nombre, [](Area& area) -> FXWindow* { return area.Abre<V>(); }};
+Ventana De(const char* nombre, const char* lanza = nullptr) {
+  return {nombre, [](Area& area) -> FXWindow* { return area.Abre<V>(); }, lanza};
 }
 #define VENTANA(V) De<V>(#V)
 
@@ -61,6 +66,8 @@ const Ventana ventanas[] = {
     VENTANA(TipoInversion_Window),
     VENTANA(TipoDepreciaciones_Window),
     VENTANA(Activo_Window),
+    VENTANA(TipoTasaInteres_Window),
+    De<TasaInteres_Window>("TasaInteres_Window", "Error al cargar catalogo de tipo tasas."),
 };
 
 class Maltratadas : public ConSucursal, public testing::WithParamInterface<Ventana> {
@@ -83,6 +90,7 @@ INSTANTIATE_TEST_SUITE_P(, Maltratadas, testing::ValuesIn(ventanas),
                          [](const auto& info) { return info.param.nombre; });
 
 TEST_P(Maltratadas, AguantaYSigueSirviendo) {
+  Pulsa(Boton(ventana_, "&Nuevo"));
   const std::string vacia = Contenido();
   EXPECT_FALSE(Maltrata(ventana_).empty());
   EXPECT_EQ(Profundidad(), 0);
@@ -97,8 +105,39 @@ TEST_P(Maltratadas, AguantaYSigueSirviendo) {
 TEST_P(Maltratadas, AguantaSinConexion) {
   PQfinish(conn);
   conn = nullptr;
-  EXPECT_FALSE(Maltrata(ventana_).empty());
+  const auto lanzado = Lanzado([&] { EXPECT_FALSE(Maltrata(ventana_).empty()); });
+  EXPECT_EQ(lanzado.value_or(""), GetParam().lanza != nullptr ? GetParam().lanza : "");
   EXPECT_EQ(Profundidad(), 0);
+}
+
+/// The history of rates and its entry forms list nothing, and hardly say anything.
+class TasasMaltratadas : public ConSucursal {
+ protected:
+  /// Of every entry form that was opened on the way, too.
+  void Maltrata(FXWindow* historia) {
+    pruebas::Maltrata(historia);
+    const std::vector<NuevoTasa_Window*> entradas = Todos<NuevoTasa_Window>(historia->getParent());
+    ASSERT_FALSE(entradas.empty());
+    pruebas::Maltrata(entradas.front());
+    EXPECT_EQ(Profundidad(), 0);
+  }
+
+  Salida salida_;
+  Area area_;
+  Tasa_Window* historia_ = area_.Abre<Tasa_Window>();
+};
+
+TEST_F(TasasMaltratadas, AguantanSinGuardarNada) {
+  const char* const cuantas = "select count(*) from norte.tasa";
+  const std::string antes = base_.Valor(cuantas);
+  Maltrata(historia_);
+  EXPECT_EQ(base_.Valor(cuantas), antes);
+}
+
+TEST_F(TasasMaltratadas, AguantanSinConexion) {
+  PQfinish(conn);
+  conn = nullptr;
+  Maltrata(historia_);
 }
 
 }  // namespace

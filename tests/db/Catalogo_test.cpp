@@ -105,6 +105,14 @@ const CargaDelCache cargas[] = {
      false, Cuantas(Catalogo::ConceptosScoring), "conceptoscoring"},
 };
 
+/// Those that the login gives a word for a select.
+const CargaDelCache cargasSinTexto[] = {
+    {"TipoTasa", &Catalogo::LoadTipoTasa, "null", "Error al cargar catalogo de tipo tasas.", false,
+     Cuantas(Catalogo::TipoTasaInteres), nullptr},
+    {"Tasas", &Catalogo::LoadTasas, "null", "Error al cargar catalogo de tasas.", true,
+     Cuantas(Catalogo::TasaInteres), nullptr},
+};
+
 /// What a load traces: its select and, for the kinds of borrowers, a mark for each row.
 std::string TrazaDe(const CargaDelCache& carga, size_t filas) {
   std::string traza = carga.traza ? carga.sql + "\n" : "";
@@ -423,12 +431,14 @@ const struct {
     {"32     ", "Grupos"},
     {"33     ", "Ocupaciones"},
     {"34     ", "ConceptosScoring"},
-    {"36     ", nullptr},
-    {"37     ", nullptr},
+    {"36     ", "TipoTasa"},
+    {"37     ", "Tasas"},
     {"38      ", nullptr},
 };
 
 const CargaDelCache& Llamada(const std::string& nombre) {
+  for (const CargaDelCache& carga : cargasSinTexto)
+    if (carga.nombre == nombre) return carga;
   return *std::find_if(std::begin(cargas), std::end(cargas),
                        [&](const auto& c) { return c.nombre == nombre; });
 }
@@ -462,6 +472,8 @@ TEST_F(CatalogoTest, LoadCargaTodoEnSuOrdenYTrazaCadaPaso) {
   EXPECT_EQ(salida.Texto(), TrazasDeTodosLosPasos());
   EXPECT_EQ(espia.Sentencias(), SentenciasDeTodosLosPasos());
   EXPECT_FALSE(Catalogo::Monedas.empty());
+  EXPECT_TRUE(Catalogo::TipoTasaInteres.empty());
+  EXPECT_TRUE(Catalogo::TasaInteres.empty());
   EXPECT_TRUE(Catalogo::bLoad);
 }
 

@@ -35,6 +35,23 @@ TEST(Sentencia, NingunLargoSeCorta) {
   }
 }
 
+TEST(Sentencia, UnTextoComoFormatoSinArgumentosNoLeeNinguno) {
+  const std::pair<std::string, std::string> tabla[] = {
+      {"", ""},
+      {"COMMIT;", "COMMIT;"},
+      {"100%%", "100%"},
+      {"%%%%", "%%"},
+      {"%%%", "%%"},
+      {"%%s", "%s"},
+      {"5% de", "5% de"},
+      {"%s%n%d%99999d%*d%", "%s%n%d%99999d%*d%"},
+      {"%1$s %lc ñ%ñ", "%1$s %lc ñ%ñ"},
+      {std::string(100'000, '%'), std::string(50'000, '%')},
+      {std::string(99'999, '%'), std::string(50'000, '%')},
+  };
+  for (const auto& [texto, queda] : tabla) EXPECT_EQ(Texto(Sentencia::SinArgumentos(texto.c_str())), queda);
+}
+
 TEST(Sentencia, SeCopiaConSuTexto) {
   const Sentencia original("f(%i)", 1);
   const Sentencia copia = original;

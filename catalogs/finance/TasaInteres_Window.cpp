@@ -1,0 +1,89 @@
+#include "catalogs/finance/TasaInteres_Window.h"
+
+MAPA_FORMA(TasaInteres_Window, onCmdTasaInteres)
+
+cTipoTasaInteres tasas;
+char Buffers[200];
+FXString tasa;
+FXString des;
+FXString neww;
+bool flag;
+
+TasaInteres_Window::TasaInteres_Window(FXWindow* duenio) : Forma(duenio, "Tipo Tasa Variables") {
+  ArmaLista("Tasa Interes");
+  FXMatrix* matriz = ArmaGrupo("Parametros");
+  campoClave(matriz, "TipoTasaVariable:", 4, nombre);
+  matriz = ArmaGrupo("Observaciones");
+  matriz->setNumColumns(1);
+  campoParrafo(matriz, "Descripcion:", 2, 40, descripcion);
+  ArmaBotones();
+  Load();
+  Read(0);
+}
+
+void TasaInteres_Window::Read(int fila) {
+  if (!CopiaFila(Filas(), fila, tasas)) return;
+  anterior = tasas.getTipotasa();
+  nombre.Pon(lstFilas->getItemText(fila));
+  descripcion.Pon(tasas.getDescripcion());
+}
+
+void TasaInteres_Window::Update() {
+  tasa = nombre.Valor();
+  des = descripcion.Valor();
+  neww = anterior;
+}
+
+void TasaInteres_Window::Clear() {
+  nombre.Pon({});
+  descripcion.Pon({});
+}
+
+/// Is there no description? Then says so.
+bool TasaInteres_Window::EstaVacia(const char* aviso) {
+  if (!des.empty()) return false;
+  cajaInformacion(this, "Mensaje", aviso);
+  return true;
+}
+
+void TasaInteres_Window::Manda(const Sentencia& sql) {
+  CopiaTexto(Buffers, sql);
+  std::cout << sql << std::endl;
+  catalogo.LoadTipoTasa(sql);
+}
+
+long TasaInteres_Window::onCmdAgregar(FXObject*, FXSelector, void*) {
+  Update();
+  if (EstaVacia("Los  campos estan vacios ")) return 1;
+  if (flag) {
+    Manda(Sentencia("SELECT * FROM subtipotasa('b','%s','%s','null');", tasa.text(), des.text()));
+    cajaInformacion(this, "Mensaje", "Se ha insertado la tasa correctamente ");
+  } else if (cajaPregunta(this, "Modifica tasa", "Esta seguro que quiere modificar la tasa")) {
+    Manda(Sentencia("SELECT * FROM subtipotasa('d','%s','%s','%s');", tasa.text(), des.text(), neww.text()));
+  }
+  Load();
+  Clear();
+  flag = false;
+  return 1;
+}
+
+long TasaInteres_Window::onCmdClear(FXObject*, FXSelector, void*) {
+  Clear();
+  flag = true;
+  return 1;
+}
+
+long TasaInteres_Window::onCmdBorrar(FXObject*, FXSelector, void*) {
+  Update();
+  if (EstaVacia("No hay nada que borrar ")) return 1;
+  if (cajaPregunta(this, "Elimina tasa", "Esta seguro de eliminar la tasa"))
+    Manda(Sentencia("SELECT * FROM subtipotasa('c','%s','%s','null');", tasa.text(), des.text()));
+  Load();
+  Clear();
+  return 1;
+}
+
+long TasaInteres_Window::onCmdTasaInteres(FXObject*, FXSelector, void*) {
+  Read(lstFilas->getCurrentItem());
+  return 0;
+}

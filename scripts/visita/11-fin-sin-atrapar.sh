@@ -1,0 +1,25 @@
+# A load that cannot be begun in the form of the names of the series, which catches nothing: the program says so on its
+# standard output and ends in good order.
+paso 'Se pierde la conexión con las series abiertas'
+abre_cliente
+espera_ventana 'Login'
+teclea shift+Tab
+llena "$usuario"
+escribe "$(clave_de "$usuario")"
+teclea Return
+responde 'Validando usuario' Return bienvenida-antes-del-fin
+espera_ventana "$principal"
+elige 6 6
+espera_ventana 'Tipo Tasa Variables'
+captura series
+exige_dato "SELECT count(pg_terminate_backend(pid)) FROM pg_stat_activity WHERE usename = '$usuario'" 1
+
+paso 'Borrar una lo dice y termina el programa'
+teclea alt+b
+espera_ventana 'Elimina tasa'
+captura serie-que-no-se-borra
+teclea alt+s
+espera_fin
+exige_traza 'Error al cargar catalogo de tipo tasas.'
+[[ $(tail -n 1 "$salida/traza.txt") == 'Error al cargar catalogo de tipo tasas.' ]] ||
+  no_paso 'la traza sigue después del texto'
