@@ -4,7 +4,7 @@
 #include "icons/iconos.h"
 #include "widgets/cFecha.h"
 
-void campoFecha(FXMatrix* matriz, const char* etiqueta, DatoFecha& dato, FXObject* destino,
+void campoFecha(FXMatrix* matriz, const char* etiqueta, DatoTexto& dato, FXObject* destino,
                 FXSelector mensaje) {
   FXComposite* renglon = campoRenglon(matriz, etiqueta);
   dato.campo = new cFecha(destino, renglon, 10, &dato.destino, FXDataTarget::ID_VALUE,

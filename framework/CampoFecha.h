@@ -28,7 +28,20 @@ struct DatoFecha : DatoTexto {
   }
 };
 
+/// The same for a form that writes day and month without zeros: what is typed is read between its slashes.
+/// Nothing typed is the date of a blank record.
+struct DatoFechaCorta : DatoTexto {
+  void Pon(const std::optional<date>& nueva) {
+    DatoTexto::Pon(nueva ? TextoDeFecha(*nueva, FormatoFecha::Corto) : FXString::null);
+  }
+  date Valor() const { return valor.empty() ? date() : FechaDeTexto(valor); }
+  long Elige(FXWindow* duenio) {
+    DatoTexto::Pon(EligeFecha(duenio, valor, FormatoFecha::Corto));
+    return 1;
+  }
+};
+
 /// The row of a date: a field of 10 columns, and a button with the calendar that sends `mensaje` to
 /// `destino`. A null label makes the field and its button alone.
-void campoFecha(FXMatrix* matriz, const char* etiqueta, DatoFecha& dato, FXObject* destino,
+void campoFecha(FXMatrix* matriz, const char* etiqueta, DatoTexto& dato, FXObject* destino,
                 FXSelector mensaje);

@@ -11,3 +11,24 @@ int FindTipoMovimiento(const char* tipoMovimientoID) {
 int FindFinalidad(const char* claveFinalidad) {
   return PosicionDe(Catalogo::Finalidades, &cFinalidades::getClaveFinalidad, claveFinalidad);
 }
+
+int FindEstado(int estadoMexID) {
+  return PosicionDe(Catalogo::EstadosMex, &cEstadoMex::getEstadoMexID, estadoMexID);
+}
+
+int FindCiudad(int ciudadMexID) {
+  return PosicionDe(Catalogo::CiudadesMex, &cCiudadMex::getCiudadMexID, ciudadMexID);
+}
+
+int FindTipoUsuario(const char* tipoUsuarioID) {
+  return PosicionDe(Catalogo::TiposUsuarios, &cTipoUsuario::getTipoUsuarioID, tipoUsuarioID);
+}
+
+int FindUsuario(const char* usuarioID) {
+  int lugar = 1;
+  for (const auto& [fila, usuario] : Catalogo::Usuarios) {
+    if (MismaClave(usuario.getUsuarioID(), usuarioID)) return lugar;
+    ++lugar;
+  }
+  return 0;
+}

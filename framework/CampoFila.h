@@ -24,6 +24,11 @@
 int FindCalculo(long numero);
 int FindTipoMovimiento(const char* tipoMovimientoID);
 int FindFinalidad(const char* claveFinalidad);
+int FindEstado(int estadoMexID);
+int FindCiudad(int ciudadMexID);
+int FindTipoUsuario(const char* tipoUsuarioID);
+/// The same among the users, counted from 1; 0, the place of "Ninguno", if there is none.
+int FindUsuario(const char* usuarioID);
 
 /// `filas` is a map of the cache, `clave` the getter of the key, and `Find` the position of a key.
 template <const auto& filas, auto clave, auto Find>
@@ -36,6 +41,14 @@ class DatoFila {
   template <class Renglon>
   void Llena(Renglon renglon) {
     for (const auto& [numero, fila] : filas) combo->appendItem(std::invoke(renglon, fila));
+  }
+
+  /// Offers the rows anew, none of them chosen; the key stays.
+  template <class Renglon>
+  void Renueva(Renglon renglon) {
+    combo->clearItems();
+    Llena(renglon);
+    combo->setCurrentItem(-1);
   }
 
   /// Stores a key and shows its row. Nothing, which is what `Pon({})` passes, empties both.

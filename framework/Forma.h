@@ -6,13 +6,14 @@
 //   auto& Actual()          the global record on which the form works
 //   auto& Filas()           the cached container that the list shows: a map keyed by row, or a `lista`
 //   void Relee()            the load of that catalogue
+//   void Prepara()          the loads that its combo boxes need, if any, and what they offer then
 //   auto Datos()            std::tuple of Liga(member, getter, setter) for every field in the order of the
 //                           screen, the key first
 //
 // A form without &Buscar names SinBuscar as the third argument. A form that differs in a step defines that
 // step itself under the same name: calls go down to the form. Its constructor builds in this order:
-// ArmaLista, ArmaGrupo with its rows (as often as there are groups), ArmaBotones, and Abre (a child form) or
-// Comienza (a dialog). catalogs/simple/Monedas_Window.cpp is the model of a child form,
+// ArmaLista (or ArmaSinLista), ArmaGrupo with its rows (as often as there are groups), ArmaBotones, and Abre
+// (a child form) or Comienza (a dialog). catalogs/simple/Monedas_Window.cpp is the model of a child form,
 // Tipo_Garantia_Window.cpp of a dialog.
 #pragma once
 
@@ -106,6 +107,11 @@ class Forma : public Base {
 
   /// The frame of the form with the list of rows on its left, `ancho` points wide.
   void ArmaLista(const char* titulo, FXint ancho = 150);
+  /// The frame of a form that lists no rows.
+  void ArmaSinLista();
+  /// The frame of a form that lists its rows in its own way: what it gives is on the left, `ancho` points
+  /// wide, and takes the list.
+  FXVerticalFrame* ArmaConMarco(FXint ancho);
   /// A box in the middle; the rows of fields go into the matrix that it gives.
   FXMatrix* ArmaGrupo(const char* titulo);
   /// A book of pages below the boxes in the middle, which sends `mensaje` when another page comes up.
@@ -116,10 +122,18 @@ class Forma : public Base {
   static FXMatrix* ArmaMatriz(FXComposite* padre, FXint columnas = 2,
                               FXuint opciones = LAYOUT_FILL_X | LAYOUT_FILL_Y);
   /// The column of buttons on the right.
-  void ArmaBotones();
+  FXGroupBox* ArmaBotones();
+  /// The same without any button yet.
+  FXGroupBox* ArmaColumna();
+  /// &Cerrar, at the bottom of the column.
+  FXButton* ArmaCerrar(FXComposite* columna);
+  FXButton* Boton(FXComposite* padre, const char* texto, const unsigned char* dibujo, FXSelector mensaje,
+                  FXuint opciones);
   /// Lists the catalogue and blanks the form for a new record. A load that fails is shown and leaves an empty
   /// list.
   void Comienza();
+  /// What a form loads when it opens, ahead of its own catalogue; may throw what a load throws.
+  void Prepara() {}
   /// The last steps of a child form: Comienza, its line on standard output, its slot of mdiArray, which the
   /// form frees when it closes.
   void Abre(const char* traza, int ranura);
@@ -142,6 +156,21 @@ class Forma : public Base {
   /// with false.
   static constexpr bool eligeHallado = true;
 
+  /// The getter of the key by which a saved row is found again in the list: that of the key's field, unless a
+  /// form whose key has no field says another.
+  auto GetClave() { return Clave().get; }
+  /// Shows what `registro` holds, and passes what the fields hold to it.
+  template <class Registro>
+  void Muestra(const Registro& registro) {
+    CadaDato([&](const auto& campo) { campo.dato.Pon((registro.*campo.get)()); });
+  }
+  template <class Registro>
+  void Recoge(Registro& registro) {
+    CadaDato([&](const auto& campo) { Pasa(registro, campo.set, campo.dato.Valor()); });
+  }
+  /// Rolls back and shows a text that was thrown.
+  void Falla(const char* texto);
+
   FXList* lstFilas = nullptr;
 
  private:
@@ -151,12 +180,11 @@ class Forma : public Base {
   void CadaDato(Accion accion) {
     std::apply([&](const auto&... ligado) { (accion(ligado), ...); }, Yo().Datos());
   }
-  FXButton* Boton(FXComposite* padre, const char* texto, const unsigned char* dibujo, FXSelector mensaje,
-                  FXuint opciones);
+  void ArmaCuerpo();
+  void ArmaMedio();
   void TomaClave();
   void MuestraFilaDelRegistro();
   void MuestraFila(int fila);
-  void Falla(const char* texto);
 
   FXHorizontalFrame* cuerpo = nullptr;
   FXVerticalFrame* grupos = nullptr;
@@ -169,18 +197,43 @@ Forma<Ventana, Base, busqueda>::~Forma() {
 }
 
 template <class Ventana, class Base, Busqueda busqueda>
-void Forma<Ventana, Base, busqueda>::ArmaLista(const char* titulo, FXint ancho) {
+void Forma<Ventana, Base, busqueda>::ArmaCuerpo() {
   // A child form keeps the keys of its buttons to itself: in the main window's table they would take those of
   // the menu away when the form closes.
   if constexpr (std::is_base_of_v<FXMDIChild, Base>) this->setAccelTable(new FXAccelTable);
   cuerpo = new FXHorizontalFrame(this, LAYOUT_FILL_X | LAYOUT_FILL_Y);
+}
+
+template <class Ventana, class Base, Busqueda busqueda>
+void Forma<Ventana, Base, busqueda>::ArmaMedio() {
+  grupos = new FXVerticalFrame(cuerpo, LAYOUT_FILL_X | LAYOUT_FILL_Y, 0, 0, 0, 0, 0, 0, 0, 0);
+}
+
+template <class Ventana, class Base, Busqueda busqueda>
+void Forma<Ventana, Base, busqueda>::ArmaSinLista() {
+  ArmaCuerpo();
+  ArmaMedio();
+}
+
+template <class Ventana, class Base, Busqueda busqueda>
+FXVerticalFrame* Forma<Ventana, Base, busqueda>::ArmaConMarco(FXint ancho) {
+  ArmaCuerpo();
+  auto* marco = new FXVerticalFrame(cuerpo, FRAME_SUNKEN | FRAME_THICK | LAYOUT_FIX_WIDTH | LAYOUT_FILL_Y, 0,
+                                    0, ancho, 0, 0, 0, 0, 0);
+  ArmaMedio();
+  return marco;
+}
+
+template <class Ventana, class Base, Busqueda busqueda>
+void Forma<Ventana, Base, busqueda>::ArmaLista(const char* titulo, FXint ancho) {
+  ArmaCuerpo();
   // List and buttons keep their width; the fields have what is left.
   auto* grupo = new FXGroupBox(cuerpo, titulo, FRAME_GROOVE | LAYOUT_FILL_Y);
   auto* marco = new FXVerticalFrame(grupo, FRAME_SUNKEN | FRAME_THICK | LAYOUT_FILL_X | LAYOUT_FILL_Y, 0, 0,
                                     0, 0, 0, 0, 0, 0);
   lstFilas = new FXList(marco, this, ID_LISTA,
                         LIST_BROWSESELECT | HSCROLLER_NEVER | LAYOUT_FIX_WIDTH | LAYOUT_FILL_Y, 0, 0, ancho);
-  grupos = new FXVerticalFrame(cuerpo, LAYOUT_FILL_X | LAYOUT_FILL_Y, 0, 0, 0, 0, 0, 0, 0, 0);
+  ArmaMedio();
 }
 
 template <class Ventana, class Base, Busqueda busqueda>
@@ -205,15 +258,26 @@ FXMatrix* Forma<Ventana, Base, busqueda>::ArmaMatriz(FXComposite* padre, FXint c
 }
 
 template <class Ventana, class Base, Busqueda busqueda>
-void Forma<Ventana, Base, busqueda>::ArmaBotones() {
-  auto* columna = new FXGroupBox(cuerpo, "", LAYOUT_FILL_Y, 0, 0, 0, 0, 4, 4, 0, 0);
+FXGroupBox* Forma<Ventana, Base, busqueda>::ArmaColumna() {
+  return new FXGroupBox(cuerpo, "", LAYOUT_FILL_Y, 0, 0, 0, 0, 4, 4, 0, 0);
+}
+
+template <class Ventana, class Base, Busqueda busqueda>
+FXButton* Forma<Ventana, Base, busqueda>::ArmaCerrar(FXComposite* columna) {
+  constexpr FXSelector cierre = std::is_base_of_v<FXMDIChild, Base> ? FXSelector(FXWindow::ID_MDI_CLOSE)
+                                                                    : FXSelector(FXDialogBox::ID_CANCEL);
+  return Boton(columna, "&Cerrar", iconos::cerrar_icon, cierre, LAYOUT_SIDE_BOTTOM);
+}
+
+template <class Ventana, class Base, Busqueda busqueda>
+FXGroupBox* Forma<Ventana, Base, busqueda>::ArmaBotones() {
+  FXGroupBox* columna = ArmaColumna();
   Boton(columna, "&Nuevo", iconos::nuevo_icon, ID_CLEAR, BUTTON_DEFAULT);
   if constexpr (busqueda == ConBuscar) Boton(columna, "&Buscar", iconos::find_icon, ID_FIND, BUTTON_DEFAULT);
   Boton(columna, "&Borrar", iconos::borrar_icon, ID_BORRAR, BUTTON_DEFAULT);
-  constexpr FXSelector cierre = std::is_base_of_v<FXMDIChild, Base> ? FXSelector(FXWindow::ID_MDI_CLOSE)
-                                                                    : FXSelector(FXDialogBox::ID_CANCEL);
-  Boton(columna, "&Cerrar", iconos::cerrar_icon, cierre, LAYOUT_SIDE_BOTTOM);
+  ArmaCerrar(columna);
   Boton(columna, "&Aceptar", iconos::ok_icon, ID_AGREGAR, BUTTON_DEFAULT | LAYOUT_SIDE_BOTTOM);
+  return columna;
 }
 
 template <class Ventana, class Base, Busqueda busqueda>
@@ -227,6 +291,7 @@ FXButton* Forma<Ventana, Base, busqueda>::Boton(FXComposite* padre, const char* 
 template <class Ventana, class Base, Busqueda busqueda>
 void Forma<Ventana, Base, busqueda>::Comienza() {
   try {
+    Yo().Prepara();
     Yo().Load();
   } catch (char* texto) {
     Falla(texto);
@@ -255,12 +320,12 @@ long Forma<Ventana, Base, busqueda>::Load() {
 
 template <class Ventana, class Base, Busqueda busqueda>
 void Forma<Ventana, Base, busqueda>::Read() {
-  CadaDato([this](const auto& campo) { campo.dato.Pon((Yo().Actual().*campo.get)()); });
+  Muestra(Yo().Actual());
 }
 
 template <class Ventana, class Base, Busqueda busqueda>
 void Forma<Ventana, Base, busqueda>::Update() {
-  CadaDato([this](const auto& campo) { Pasa(Yo().Actual(), campo.set, campo.dato.Valor()); });
+  Recoge(Yo().Actual());
 }
 
 template <class Ventana, class Base, Busqueda busqueda>
@@ -356,7 +421,7 @@ void Forma<Ventana, Base, busqueda>::TomaClave() {
 template <class Ventana, class Base, Busqueda busqueda>
 void Forma<Ventana, Base, busqueda>::MuestraFilaDelRegistro() {
   int suya = -1;
-  CadaFila(Yo().Filas(), [&, get = Clave().get](int posicion, const auto& fila) {
+  CadaFila(Yo().Filas(), [&, get = Yo().GetClave()](int posicion, const auto& fila) {
     if (suya < 0 && MismaClave((fila.*get)(), (Yo().Actual().*get)())) suya = posicion;
   });
   MuestraFila(suya);
@@ -369,7 +434,6 @@ void Forma<Ventana, Base, busqueda>::MuestraFila(int fila) {
   lstFilas->makeItemVisible(fila);
 }
 
-/// Rolls back and shows a text that was thrown.
 template <class Ventana, class Base, Busqueda busqueda>
 void Forma<Ventana, Base, busqueda>::Falla(const char* texto) {
   Yo().Actual().RollBackTransaction();

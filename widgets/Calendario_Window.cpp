@@ -42,20 +42,29 @@ long Calendario_Window::onCmdAceptar(FXObject*, FXSelector, void*) {
   return handle(this, FXSEL(SEL_COMMAND, ID_ACCEPT), nullptr);
 }
 
-FXString EligeFecha(FXWindow* owner, const FXString& texto, FormatoFecha formato) {
+date FechaDeTexto(const FXString& texto) {
   const FXString mesYAnio = texto.after('/');
   date fecha;
   fecha.set_day(FXIntVal(texto.before('/')));
   fecha.set_month(FXIntVal(mesYAnio.before('/')));
   fecha.set_year(FXIntVal(mesYAnio.after('/')));
-  gFecha = fecha;
-  Calendario_Window(owner, gFecha).execute(PLACEMENT_CURSOR);
+  date renovada;
+  return renovada = fecha;  // with the texts of what was set
+}
+
+FXString TextoDeFecha(const date& fecha, FormatoFecha formato) {
   switch (formato) {
     case FormatoFecha::Blancos:
-      return FXStringFormat("%2d/%2d/%4d", gFecha.day(), gFecha.month(), gFecha.year());
+      return FXStringFormat("%2d/%2d/%4d", fecha.day(), fecha.month(), fecha.year());
     case FormatoFecha::Corto:
-      return FXStringFormat("%d/%d/%d", gFecha.day(), gFecha.month(), gFecha.year());
+      return FXStringFormat("%d/%d/%d", fecha.day(), fecha.month(), fecha.year());
     default:
-      return FXStringFormat("%02d/%02d/%04d", gFecha.day(), gFecha.month(), gFecha.year());
+      return FXStringFormat("%02d/%02d/%04d", fecha.day(), fecha.month(), fecha.year());
   }
+}
+
+FXString EligeFecha(FXWindow* owner, const FXString& texto, FormatoFecha formato) {
+  gFecha = FechaDeTexto(texto);
+  Calendario_Window(owner, gFecha).execute(PLACEMENT_CURSOR);
+  return TextoDeFecha(gFecha, formato);
 }

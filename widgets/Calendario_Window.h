@@ -43,6 +43,10 @@ class Calendario_Window : public FXDialogBox {
 /// How a date goes back into its field: with zeros (dd/mm/yyyy), with blanks ( d/ m/yyyy) or neither.
 enum class FormatoFecha { Ceros, Blancos, Corto };
 
+/// Day, month and year of a field's text, between its slashes; pieces that are missing are 0.
+date FechaDeTexto(const FXString& texto);
+FXString TextoDeFecha(const date& fecha, FormatoFecha formato);
+
 /// What the calendar button of a date field does: takes the field's text, day, month and year between
 /// slashes, as gFecha, runs the dialog at the cursor, and answers gFecha in `formato`. A dialog that is
 /// cancelled answers the field's own date; pieces that are missing are 0.
