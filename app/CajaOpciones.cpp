@@ -15,6 +15,9 @@
 #include "catalogs/finance/TipoPromocion_Window.h"
 #include "catalogs/finance/TipoTasaInteres_Window.h"
 #include "catalogs/finance/Udis_Window.h"
+#include "catalogs/people/CiudadMex_Window.h"
+#include "catalogs/people/EstadoMex_Window.h"
+#include "catalogs/people/Usuario_Window.h"
 #include "catalogs/people/cPermisosModulos.h"
 #include "catalogs/simple/ConceptoScoring_Window.h"
 #include "catalogs/simple/Estados_Credito_Window.h"
@@ -66,7 +69,7 @@ long Caja::OpcionPendiente(const char* modulo) {
 
 long Caja::onCmdMonedas(FXObject*, FXSelector, void*) { return OpcionHija<Monedas_Window>("0203", 1); }
 long Caja::onCmdBancos(FXObject*, FXSelector, void*) { return OpcionHija<Banco_Window>("0204", 2); }
-long Caja::onCmdUsuarios(FXObject*, FXSelector, void*) { return OpcionPendiente("0206"); }
+long Caja::onCmdUsuarios(FXObject*, FXSelector, void*) { return OpcionHija<Usuario_Window>("0206", 4); }
 long Caja::onCmdTipoMovimiento(FXObject*, FXSelector, void*) {
   return OpcionHija<TipoMovimiento_Window>("0207", 5);
 }
@@ -86,8 +89,8 @@ long Caja::onCmdTipoMoviBancos(FXObject*, FXSelector, void*) {
 long Caja::onCmdTipoInversion(FXObject*, FXSelector, void*) {
   return OpcionHija<TipoInversion_Window>("0212", 10);
 }
-long Caja::onCmdEstadosMex(FXObject*, FXSelector, void*) { return OpcionPendiente("0213"); }
-long Caja::onCmdCiudadesMex(FXObject*, FXSelector, void*) { return OpcionPendiente("0214"); }
+long Caja::onCmdEstadosMex(FXObject*, FXSelector, void*) { return OpcionModal<EstadoMex_Window>("0213"); }
+long Caja::onCmdCiudadesMex(FXObject*, FXSelector, void*) { return OpcionModal<CiudadMex_Window>("0214"); }
 long Caja::onCmdModulos(FXObject*, FXSelector, void*) { return OpcionModal<Modulo_Window>("0215"); }
 long Caja::onCmdTipoSocios(FXObject*, FXSelector, void*) { return OpcionModal<TipoSocio_Window>("0217"); }
 long Caja::onCmdCalculos(FXObject*, FXSelector, void*) { return OpcionModal<Calculo_Window>("0218"); }

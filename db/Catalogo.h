@@ -29,6 +29,7 @@
 #include "catalogs/people/cEstadoMex.h"
 #include "catalogs/people/cSocioCaja.h"
 #include "catalogs/people/cSujeto.h"
+#include "catalogs/people/cUsuario.h"
 #include "catalogs/simple/cAsesor.h"
 #include "catalogs/simple/cClasificacionCredito.h"
 #include "catalogs/simple/cConceptoScoring.h"
@@ -77,6 +78,7 @@ class Catalogo {
   void LoadTiposUsuarios();
   void LoadTiposSocios();
   void LoadModulos();
+  void LoadUsuarios();
   void LoadCalculos();
   void LoadTipoPromociones();
   void LoadAsesor();
@@ -151,6 +153,7 @@ class Catalogo {
   static std::map<int, cTipoUsuario> TiposUsuarios;
   static std::map<int, cTipoSocio> TiposSocios;
   static std::map<int, cModulo> Modulos;
+  static std::map<int, cUsuario> Usuarios;
   static std::map<int, cSocioCaja> SociosCaja;
   static std::map<int, cCalculo> Calculos;
   static std::map<int, cSujeto> Sujetos;

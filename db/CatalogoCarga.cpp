@@ -26,6 +26,7 @@ std::map<int, cCiudadMex> Catalogo::CiudadesMex;
 std::map<int, cTipoUsuario> Catalogo::TiposUsuarios;
 std::map<int, cTipoSocio> Catalogo::TiposSocios;
 std::map<int, cModulo> Catalogo::Modulos;
+std::map<int, cUsuario> Catalogo::Usuarios;
 std::map<int, cSocioCaja> Catalogo::SociosCaja;
 std::map<int, cCalculo> Catalogo::Calculos;
 std::map<int, cSujeto> Catalogo::Sujetos;
@@ -67,7 +68,7 @@ const Paso pasos[] = {
     {"14     \n", &Catalogo::LoadTiposUsuarios},
     {"15     \n", &Catalogo::LoadTiposSocios},
     {"16     \n", &Catalogo::LoadModulos},
-    {"17     \n", nullptr},
+    {"17     \n", &Catalogo::LoadUsuarios},
     {"18     \n", &Catalogo::LoadCalculos},
     {"19     \n", &Catalogo::LoadTipoPromociones},
     {"21     ", &Catalogo::LoadAsesor},
@@ -181,6 +182,10 @@ void Catalogo::LoadTiposSocios() {
 
 void Catalogo::LoadModulos() {
   CargaEnTransaccion(Modulos, "SELECT * FROM spsmodulo('  ');", "Error al cargar catalogo de modulos.");
+}
+
+void Catalogo::LoadUsuarios() {
+  CargaEnTransaccion(Usuarios, "SELECT * FROM spsusuario('  ');", "Error al cargar catalogo de usuarios.");
 }
 
 void Catalogo::LoadCalculos() {

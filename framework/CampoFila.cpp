@@ -26,3 +26,24 @@ const char* RenglonDeMovimiento(const cTipoMovimiento& tipo) {
   FormateaTexto(sCuenta, "%s %s", tipo.getTipoMovimientoID(), tipo.getDescTipoMovimiento());
   return sCuenta;
 }
+
+int FindEstado(int estadoMexID) {
+  return PosicionDe(Catalogo::EstadosMex, &cEstadoMex::getEstadoMexID, estadoMexID);
+}
+
+int FindCiudad(int ciudadMexID) {
+  return PosicionDe(Catalogo::CiudadesMex, &cCiudadMex::getCiudadMexID, ciudadMexID);
+}
+
+int FindTipoUsuario(const char* tipoUsuarioID) {
+  return PosicionDe(Catalogo::TiposUsuarios, &cTipoUsuario::getTipoUsuarioID, tipoUsuarioID);
+}
+
+int FindUsuario(const char* usuarioID) {
+  int lugar = 1;
+  for (const auto& [fila, usuario] : Catalogo::Usuarios) {
+    if (MismaClave(usuario.getUsuarioID(), usuarioID)) return lugar;
+    ++lugar;
+  }
+  return 0;
+}

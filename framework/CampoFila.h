@@ -26,6 +26,11 @@ int FindTipoMovimiento(const char* tipoMovimientoID);
 int FindFinalidad(const char* claveFinalidad);
 int FindMoneda(const char* monedaID);
 int FindDepreciacion(long numero);
+int FindEstado(int estadoMexID);
+int FindCiudad(int ciudadMexID);
+int FindTipoUsuario(const char* tipoUsuarioID);
+/// The same among the users, counted from 1; 0, the place of "Ninguno", if there is none.
+int FindUsuario(const char* usuarioID);
 
 /// A movement type as a combo box shows it where its key is of use: key and description. Stays until the next
 /// call.
@@ -42,6 +47,14 @@ class DatoFila {
   template <class Renglon>
   void Llena(Renglon renglon) {
     for (const auto& [numero, fila] : filas) combo->appendItem(std::invoke(renglon, fila));
+  }
+
+  /// Offers the rows anew, none of them chosen; the key stays.
+  template <class Renglon>
+  void Renueva(Renglon renglon) {
+    combo->clearItems();
+    Llena(renglon);
+    combo->setCurrentItem(-1);
   }
 
   /// Stores a key and shows its row. Nothing, which is what `Pon({})` passes, empties both.

@@ -110,6 +110,9 @@ class Forma : public Base {
   void ArmaLista(const char* titulo, FXint ancho = 150);
   /// The frame of a form that lists no rows.
   void ArmaSinLista();
+  /// The frame of a form that lists its rows in its own way: what it gives is on the left, `ancho` points
+  /// wide, and takes the list.
+  FXVerticalFrame* ArmaConMarco(FXint ancho);
   /// A box in the middle; the rows of fields go into the matrix that it gives.
   FXMatrix* ArmaGrupo(const char* titulo);
   /// A book of pages below the boxes in the middle, which sends `mensaje` when another page comes up.
@@ -120,7 +123,7 @@ class Forma : public Base {
   static FXMatrix* ArmaMatriz(FXComposite* padre, FXint columnas = 2,
                               FXuint opciones = LAYOUT_FILL_X | LAYOUT_FILL_Y);
   /// The column of buttons on the right.
-  void ArmaBotones();
+  FXGroupBox* ArmaBotones();
   /// The same without any button yet.
   FXGroupBox* ArmaColumna();
   /// &Cerrar, at the bottom of the column.
@@ -231,6 +234,15 @@ void Forma<Ventana, Base, busqueda>::ArmaSinLista() {
 }
 
 template <class Ventana, class Base, Busqueda busqueda>
+FXVerticalFrame* Forma<Ventana, Base, busqueda>::ArmaConMarco(FXint ancho) {
+  ArmaCuerpo();
+  auto* marco = new FXVerticalFrame(cuerpo, FRAME_SUNKEN | FRAME_THICK | LAYOUT_FIX_WIDTH | LAYOUT_FILL_Y, 0,
+                                    0, ancho, 0, 0, 0, 0, 0);
+  ArmaMedio();
+  return marco;
+}
+
+template <class Ventana, class Base, Busqueda busqueda>
 void Forma<Ventana, Base, busqueda>::ArmaLista(const char* titulo, FXint ancho) {
   ArmaCuerpo();
   // List and buttons keep their width; the fields have what is left.
@@ -276,13 +288,14 @@ FXButton* Forma<Ventana, Base, busqueda>::ArmaCerrar(FXComposite* columna) {
 }
 
 template <class Ventana, class Base, Busqueda busqueda>
-void Forma<Ventana, Base, busqueda>::ArmaBotones() {
+FXGroupBox* Forma<Ventana, Base, busqueda>::ArmaBotones() {
   FXGroupBox* columna = ArmaColumna();
   Boton(columna, "&Nuevo", iconos::nuevo_icon, ID_CLEAR, BUTTON_DEFAULT);
   if constexpr (busqueda == ConBuscar) Boton(columna, "&Buscar", iconos::find_icon, ID_FIND, BUTTON_DEFAULT);
   Boton(columna, "&Borrar", iconos::borrar_icon, ID_BORRAR, BUTTON_DEFAULT);
   ArmaCerrar(columna);
   Boton(columna, "&Aceptar", iconos::ok_icon, ID_AGREGAR, BUTTON_DEFAULT | LAYOUT_SIDE_BOTTOM);
+  return columna;
 }
 
 template <class Ventana, class Base, Busqueda busqueda>

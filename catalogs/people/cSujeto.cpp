@@ -49,8 +49,7 @@ void cSujeto::Delete() {
 
 void cSujeto::Find() {
   if (SujetoID == 0 || !Busca(SqlFind(), false, ConexionDeLectura())) return;
-  cDomicilio::setSujetoID(SujetoID);
-  FindDomicilioSujeto();
+  LeeDomicilio();
   LeeBienes();
 }
 
@@ -85,6 +84,15 @@ void cSujeto::CambioDeLoSuyo() {
       bien.Update();
     }
   }
+}
+
+/// One that is not found is blank and unchanged but for its owner: what an earlier person left there is not
+/// this one's, and only what the user types makes it a change.
+void cSujeto::LeeDomicilio() {
+  cDomicilio::Clear();
+  cDomicilio::setSujetoID(SujetoID);
+  FindDomicilioSujeto();
+  cDomicilio::setDataChanged(false);
 }
 
 void cSujeto::LeeBienes() {

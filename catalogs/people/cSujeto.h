@@ -63,7 +63,8 @@ class cSujeto : public Registro<cSujeto, cDomicilio> {
   /// As in every record, but a refusal passes in silence. Address and goods are the server's business.
   void Delete();
   /// Reads the person with the present key, if it is not 0, then its address and its goods. No row: isNew
-  /// true and the rest as it was. A person without an address has isNew true in that half alone.
+  /// true and the rest as it was. A person without an address has a blank one, with isNew true in that half
+  /// alone and nothing changed.
   void Find();
 
  private:
@@ -76,6 +77,7 @@ class cSujeto : public Registro<cSujeto, cDomicilio> {
 
   void AltaDeLoSuyo();
   void CambioDeLoSuyo();
+  void LeeDomicilio();
   void LeeBienes();
 
   Sentencia SqlAddNew() const;

@@ -58,6 +58,13 @@ void EligeEnTodo(FXWindow* ventana, bool primero) {
   for (FXList* lista : Alcanzables<FXList>(ventana)) {
     if (lista->getNumItems() > 0) EligeRenglon(lista, primero ? 0 : lista->getNumItems() - 1);
   }
+  for (FXFoldingList* arbol : Alcanzables<FXFoldingList>(ventana)) {
+    if (FXFoldingItem* raiz = arbol->getFirstItem())
+      EligeRenglon(arbol, primero || raiz->getLast() == nullptr ? raiz : raiz->getLast());
+  }
+  for (FXTable* tabla : Alcanzables<FXTable>(ventana)) {
+    if (tabla->getNumRows() > 0) PulsaDosVeces(tabla, primero ? 0 : tabla->getNumRows() - 1, 0);
+  }
   for (FXCheckButton* casilla : Alcanzables<FXCheckButton>(ventana)) Pulsa(casilla);
 }
 

@@ -65,9 +65,10 @@ void ExigeUsable(FXWindow* pieza) {
     throw std::runtime_error(std::string("un usuario no alcanza este ") + pieza->getClassName());
 }
 
-void Clic(FXWindow* pieza, FXint x, FXint y) {
+void Clic(FXWindow* pieza, FXint x, FXint y, FXint veces = 1) {
   Suceso baja(SEL_LEFTBUTTONPRESS, x, y);
   Suceso sube(SEL_LEFTBUTTONRELEASE, x, y);
+  baja.click_count = sube.click_count = veces;
   pieza->handle(&App(), FXSEL(SEL_LEFTBUTTONPRESS, 0), &baja);
   pieza->handle(&App(), FXSEL(SEL_LEFTBUTTONRELEASE, 0), &sube);
   Refresca();
@@ -199,6 +200,34 @@ void EligeRenglon(FXList* lista, FXint renglon) {
   for (FXint i = 0; i < renglon; ++i) y += lista->getItemHeight(i);
   Clic(lista, 1, y + lista->getItemHeight(renglon) / 2);
   if (!lista->isItemCurrent(renglon)) throw std::runtime_error("el clic no llegó al renglón");
+}
+
+void EligeRenglon(FXFoldingList* lista, FXFoldingItem* renglon) {
+  ExigeUsable(lista);
+  lista->makeItemVisible(renglon);
+  FXint y = lista->getYPosition() + lista->getHeader()->getHeight();
+  for (FXFoldingItem* item = lista->getFirstItem(); item != renglon && item != nullptr;
+       item = item->getBelow())
+    y += lista->getItemHeight(item);
+  Clic(lista, lista->getWidth() / 2, y + lista->getItemHeight(renglon) / 2);
+  if (!lista->isItemCurrent(renglon)) throw std::runtime_error("el clic no llegó al renglón");
+}
+
+void PulsaDosVeces(FXTable* tabla, FXint renglon, FXint columna) {
+  ExigeUsable(tabla);
+  tabla->makePositionVisible(renglon, columna);
+  FXint x = 0;
+  FXint y = 0;
+  while (x < tabla->getWidth() && tabla->colAtX(x) != columna) ++x;
+  while (y < tabla->getHeight() && tabla->rowAtY(y) != renglon) ++y;
+  Clic(tabla, x + 2, y + 2);
+  Clic(tabla, x + 2, y + 2, 2);
+  if (!tabla->isItemCurrent(renglon, columna)) throw std::runtime_error("el clic no llegó a la celda");
+}
+
+void Hojea(FXWindow* raiz, FXint pagina) {
+  Todos<FXTabBook>(raiz).at(0)->setCurrent(pagina, TRUE);
+  Bombea();
 }
 
 void EligeOpcion(FXComboBox* combo, FXint opcion) {

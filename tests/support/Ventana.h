@@ -49,6 +49,9 @@ FXList* Lista(FXWindow* raiz, size_t cual = 0);
 /// The entry of a menu pane that belongs to `duena`, cascades included.
 FXMenuCommand* Opcion(FXWindow* duena, const std::string& rotulo);
 
+/// Brings up a page of a book by its number; the pieces of the others are out of a user's reach.
+void Hojea(FXWindow* raiz, FXint pagina);
+
 /// The widget right after the label "etiqueta" in its matrix, or inside that widget. Number `cual` of those
 /// whose label reads so.
 FXWindow* PiezaJuntoA(FXWindow* raiz, const std::string& etiqueta, size_t cual = 0);
@@ -83,6 +86,10 @@ void Escribe(FXWindow* raiz, const std::string& etiqueta, const std::string& tex
 void Tecla(FXWindow* pieza, FXuint codigo, FXuint estado = 0, const std::string& texto = "");
 /// A click on a row of a list.
 void EligeRenglon(FXList* lista, FXint renglon);
+/// A click on an item of a folding list that is unfolded.
+void EligeRenglon(FXFoldingList* lista, FXFoldingItem* renglon);
+/// A double click on a cell of a table.
+void PulsaDosVeces(FXTable* tabla, FXint renglon, FXint columna);
 /// A choice in a combo box; tells its target.
 void EligeOpcion(FXComboBox* combo, FXint opcion);
 
