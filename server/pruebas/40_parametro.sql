@@ -33,7 +33,11 @@ SELECT is(como(usuario, 'norte', sentencia), esperado, usuario || ': ' || senten
      'No tiene permiso para la opción Usuarios y accesos (módulo 0206)'),
     ('adriana', $$SELECT spdparametro('braulio')$$, ''),
     ('adriana', $$SELECT spdparametro('braulio')$$, 'El usuario braulio no tiene parámetros'),
-    ('adriana', $$SELECT spuparametro('braulio','BB','','','',0,'')$$, 'El usuario braulio no tiene parámetros'),
+    -- who has none gets them with the update
+    ('adriana', $$SELECT spuparametro('nadie','Z','','','',0,'')$$, 'El usuario nadie no existe'),
+    ('adriana', $$SELECT spuparametro('braulio','BB','','','',0,'')$$, ''),
+    ('adriana', $$SELECT serieuser || '|' || reporteslaser FROM spsparametro('braulio')$$, 'BB|0'),
+    ('adriana', $$SELECT spdparametro('braulio')$$, ''),
     ('adriana', $$SELECT spiparametro('braulio','BB','','','',1,'')$$, ''),
     ('adriana', $$SELECT spiparametro(NULL,NULL,NULL,NULL,NULL,NULL,NULL)$$, 'Falta el usuario'),
     ('camila', $$SELECT serverdate(to_char(current_date, 'YYYY-MM-DD'))$$, '1'),

@@ -48,7 +48,19 @@ SELECT is(como('adriana', 'norte', comun.rellena(sentencia, to_jsonb(clave))), c
          numero_int || '|' || colonia || '|' || codpostal || '|' || comunidad || '|' || teldomicilio || '|' || coloniaid
          FROM spsdomiciliosujeto({p});$$, '{d}|1|{p}|Calle Uno|10|B|Centro|20000|Pueblo|555|1'),
     ($$SELECT spidomicilio(1,{p},'Calle Dos','','','',0,'','',0);$$, 'La persona {p} ya tiene domicilio'),
-    ($$SELECT spudomicilio(0,1,{p},'Calle Dos','','','',0,'','',0);$$, 'La persona {p} ya tiene domicilio'),
+    -- number 0 stands for the address that the person has by now
+    ($$SELECT spudomicilio(0,1,{p},'Calle Cero','','','',0,'','',0);$$, ''),
+    ($$SELECT string_agg(domicilioid || calle, ',') FROM spsdomiciliosujeto({p})$$, '{d}Calle Cero'),
+    ($$SELECT spudomicilio(0,9999,{p},'','','','',0,'','',0);$$, 'El municipio 9999 no existe'),
+    ($$SELECT spudomicilio(0,1,999999,'','','','',0,'','',0);$$, 'La persona 999999 no existe'),
+    -- an address never changes hands, whether the new owner has one or not
+    ($$SELECT spudomicilio({d},1,1,'Calle Ajena','','','',0,'','',0);$$, 'El domicilio {d} es de otra persona'),
+    ($$SELECT spisujeto('Prueba','','Sin','','',0,'','') > {p};$$, 'true'),
+    ($$SELECT spudomicilio({d},1,(SELECT max(sujetoid) FROM sujeto),'Calle Ajena','','','',0,'','',0);$$,
+     'El domicilio {d} es de otra persona'),
+    ($$SELECT sujetoid || calle FROM spsdomicilio({d})$$, '{p}Calle Cero'),
+    ($$SELECT count(*) FROM spsdomiciliosujeto((SELECT max(sujetoid) FROM sujeto))$$, '0'),
+    ($$SELECT spsujeto((SELECT max(sujetoid) FROM sujeto));$$, ''),
     ($$SELECT spudomicilio({d},0,{p},'Calle Dos','','','',0,'','',0);$$, ''),
     ($$SELECT calle || '|' || ciudadmexid || '|' || coloniaid FROM spsdomicilio({d})$$, 'Calle Dos|0|0'),
     ($$SELECT spudomicilio({d},1,999999,'','','','',0,'','',0);$$, 'La persona 999999 no existe'),

@@ -76,5 +76,13 @@ INSERT INTO norte.usuario (usuarioid, tipousuarioid) VALUES ('directo', 'CON');
 SELECT is((SELECT paterno || '|' || nombre FROM norte.sujeto JOIN norte.usuario USING (sujetoid)
             WHERE usuarioid = 'directo'), 'directo|directo', 'un usuario es siempre una persona');
 
+-- And can be edited like any other: what he lacks is made by the update that the client sends.
+SELECT is(como('adriana', 'norte', sentencia), '', sentencia)
+  FROM (VALUES
+    ($$select spusujeto((SELECT sujetoid FROM usuario WHERE usuarioid = 'directo'),'Recto','','Di','','',0,'','');$$),
+    ($$SELECT spudomicilio(0,1,(SELECT sujetoid FROM usuario WHERE usuarioid = 'directo'),'C','','','',0,'','',0);$$),
+    ($$select spuparametro('directo','DD','','','',0,'');$$)
+  ) AS paso (sentencia);
+
 SELECT * FROM finish();
 ROLLBACK;

@@ -71,6 +71,7 @@ BEGIN
   END IF;
 END $$;
 
+-- A user who has none yet, because he was not made by the client, gets them: the client has no other way to it.
 CREATE FUNCTION spuparametro(login text, serie text, cuenta text, caja text, reporte text, laser integer, socio text)
 RETURNS void
 LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
@@ -85,7 +86,7 @@ BEGIN
          clavesocioint = fila.clavesocioint
    WHERE usuarioid = fila.usuarioid;
   IF NOT FOUND THEN
-    RAISE EXCEPTION 'El usuario % no tiene parámetros', fila.usuarioid USING ERRCODE = 'no_data_found';
+    PERFORM spiparametro(login, serie, cuenta, caja, reporte, laser, socio);
   END IF;
 END $$;
 

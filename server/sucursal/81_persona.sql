@@ -202,27 +202,30 @@ BEGIN
   RETURN id;
 END $$;
 
--- The client sends number 0 for the address of a person who had none when he was read, and would have it stored.
+-- Number 0 is the address of whoever had none when the client read him, and keeps being so until he is read again: it is
+-- stored, and from then on rewritten. An address never changes hands.
 CREATE FUNCTION spudomicilio(id bigint, ciudad integer, persona bigint, via text, exterior text, interior text,
                              barrio text, codigo bigint, pueblo text, telefono text, asentamiento bigint) RETURNS void
 LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
+DECLARE
+  numero bigint := CASE WHEN id <> 0 THEN id ELSE (SELECT domicilioid FROM domicilio WHERE sujetoid = persona) END;
+  fila domicilio;
 BEGIN
   PERFORM exige_permiso('0206');
-  IF id = 0 THEN
+  IF numero IS NULL THEN
     PERFORM spidomicilio(ciudad, persona, via, exterior, interior, barrio, codigo, pueblo, telefono, asentamiento);
     RETURN;
   END IF;
+  fila := domicilio_valido(numero, ciudad, persona, via, exterior, interior, barrio, codigo, pueblo, telefono,
+                           asentamiento);
   UPDATE domicilio
      SET (domicilioid, ciudadmexid, sujetoid, calle, numero_ext, numero_int, colonia, codpostal, comunidad,
-          teldomicilio, coloniaid) =
-         (SELECT * FROM domicilio_valido(id, ciudad, persona, via, exterior, interior, barrio, codigo, pueblo,
-                                         telefono, asentamiento))
-   WHERE domicilioid = id;
+          teldomicilio, coloniaid) = (SELECT fila.*)
+   WHERE domicilioid = numero AND sujetoid = persona;
   IF NOT FOUND THEN
-    RAISE EXCEPTION 'El domicilio % no existe', id USING ERRCODE = 'no_data_found';
+    PERFORM exige_existe(EXISTS (SELECT FROM domicilio WHERE domicilioid = numero), format('El domicilio %s', numero));
+    RAISE EXCEPTION 'El domicilio % es de otra persona', numero USING ERRCODE = 'integrity_constraint_violation';
   END IF;
-EXCEPTION WHEN unique_violation THEN
-  RAISE EXCEPTION 'La persona % ya tiene domicilio', persona USING ERRCODE = 'unique_violation';
 END $$;
 
 -- Deletes an address. The name lacks the pattern's d.

@@ -2,25 +2,27 @@
 -- date, two characters that tell namesakes apart, check digit. And the population key (CURP) as far as the same data
 -- go.
 
--- Capitals without accents; hyphens part words, every other sign falls away.
+-- Capitals without accents, in which Ñ is a letter of its own; signs fall away.
 CREATE FUNCTION letras_rfc(valor text) RETURNS text
 LANGUAGE sql IMMUTABLE
-RETURN btrim(regexp_replace(regexp_replace(upper(translate(coalesce(valor, ''),
-         'áéíóúàèìòùäëïöüâêîôûÁÉÍÓÚÀÈÌÒÙÄËÏÖÜÂÊÎÔÛñ-', 'AEIOUAEIOUAEIOUAEIOUAEIOUAEIOUAEIOUAEIOUÑ ')),
-         '[^A-ZÑ& ]', '', 'g'), ' +', ' ', 'g'));
+RETURN btrim(regexp_replace(regexp_replace(regexp_replace(regexp_replace(
+         upper(translate(regexp_replace(normalize(coalesce(valor, ''), NFD), '[nN]\u0303', 'Ñ', 'g'),
+                         'øØłŁđĐ', 'OOLLDD')),
+         'ß', 'SS', 'g'), '[æÆ]', 'AE', 'g'), '[^A-ZÑ& ]', '', 'g'), ' +', ' ', 'g'));
 
--- The word of a name that counts: the first one that is no particle, and in given names (`de_pila`) not the María or
--- José of a compound. '' when there is none.
+-- The word of a name that counts: the first one that is no particle, and in given names (`de_pila`) the one behind it if
+-- that is María or José. A hyphen parts words. '' when there is none.
 CREATE FUNCTION palabra_rfc(valor text, de_pila boolean) RETURNS text
 LANGUAGE sql IMMUTABLE
-RETURN coalesce((
-  SELECT p.palabra
-    FROM unnest(string_to_array(letras_rfc(valor), ' ')) WITH ORDINALITY AS p (palabra, lugar)
-   ORDER BY p.palabra IN ('DA', 'DAS', 'DE', 'DEL', 'DER', 'DI', 'DIE', 'DD', 'EL', 'LA', 'LAS', 'LE', 'LES', 'LOS',
-                          'MAC', 'MC', 'VAN', 'VON', 'Y'),
-            de_pila AND p.palabra IN ('MARIA', 'MA', 'M', 'JOSE', 'J'),
-            p.lugar
-   LIMIT 1), '');
+RETURN (
+  SELECT coalesce(CASE WHEN de_pila AND cuentan[1] IN ('MARIA', 'MA', 'M', 'JOSE', 'J') THEN cuentan[2] END,
+                  cuentan[1], todas[1], '')
+    FROM (SELECT array_agg(palabra ORDER BY lugar) AS todas,
+                 array_agg(palabra ORDER BY lugar)
+                   FILTER (WHERE palabra NOT IN ('DA', 'DAS', 'DE', 'DEL', 'DER', 'DI', 'DIE', 'DD', 'EL', 'LA', 'LAS',
+                                                 'LE', 'LES', 'LOS', 'MAC', 'MC', 'VAN', 'VON', 'Y')) AS cuentan
+            FROM unnest(string_to_array(letras_rfc(replace(valor, '-', ' ')), ' '))
+                 WITH ORDINALITY AS p (palabra, lugar)) AS palabras);
 
 -- The two characters for namesakes, from surnames and given names together: each letter is a pair of figures; every
 -- two neighbouring figures, read as a number, are multiplied by the second of them and summed; the last three figures
