@@ -19,6 +19,7 @@
 #include "catalogs/simple/TipoSocio_Window.h"
 #include "catalogs/simple/TipoUsuario_Window.h"
 #include "catalogs/simple/Tipo_Garantia_Window.h"
+#include "reports/Sujeto_Window.h"
 #include "widgets/cajas.h"
 
 /// May the user use the module? If not, says so.
@@ -89,7 +90,7 @@ long Caja::onCmdInpc(FXObject*, FXSelector, void*) { return OpcionPendiente("042
 long Caja::onCmdUdis(FXObject*, FXSelector, void*) { return OpcionPendiente("0427"); }
 long Caja::onCmdRecargos(FXObject*, FXSelector, void*) { return OpcionPendiente("0429"); }
 long Caja::onCmdMotivoBaja(FXObject*, FXSelector, void*) { return AbreHija<MotivoBaja_Window>(80); }
-long Caja::onCmdSujeto(FXObject*, FXSelector, void*) { return OpcionPendiente("0442"); }
+long Caja::onCmdSujeto(FXObject*, FXSelector, void*) { return OpcionModal<Sujeto_Window>("0442"); }
 long Caja::onCmdInabiles(FXObject*, FXSelector, void*) { return OpcionPendiente("0448"); }
 long Caja::onCmdGrupos(FXObject*, FXSelector, void*) { return OpcionHija<Grupo_Window>("0449", 98); }
 long Caja::onCmdOcupaciones(FXObject*, FXSelector, void*) { return OpcionHija<Ocupacion_Window>("0450", 98); }

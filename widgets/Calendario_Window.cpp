@@ -42,13 +42,17 @@ long Calendario_Window::onCmdAceptar(FXObject*, FXSelector, void*) {
   return handle(this, FXSEL(SEL_COMMAND, ID_ACCEPT), nullptr);
 }
 
-FXString EligeFecha(FXWindow* owner, const FXString& texto, FormatoFecha formato) {
+date PiezasDeFecha(const FXString& texto) {
   const FXString mesYAnio = texto.after('/');
   date fecha;
   fecha.set_day(FXIntVal(texto.before('/')));
   fecha.set_month(FXIntVal(mesYAnio.before('/')));
   fecha.set_year(FXIntVal(mesYAnio.after('/')));
-  gFecha = fecha;
+  return fecha;
+}
+
+FXString EligeFecha(FXWindow* owner, const FXString& texto, FormatoFecha formato) {
+  gFecha = PiezasDeFecha(texto);
   Calendario_Window(owner, gFecha).execute(PLACEMENT_CURSOR);
   switch (formato) {
     case FormatoFecha::Blancos:

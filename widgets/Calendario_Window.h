@@ -40,6 +40,10 @@ class Calendario_Window : public FXDialogBox {
   FXButton* btnCerrar = nullptr;
 };
 
+/// Day, month and year between the slashes of what a date field holds; pieces that are missing are 0. The
+/// texts of the date are not those of its pieces.
+date PiezasDeFecha(const FXString& texto);
+
 /// How a date goes back into its field: with zeros (dd/mm/yyyy), with blanks ( d/ m/yyyy) or neither.
 enum class FormatoFecha { Ceros, Blancos, Corto };
 

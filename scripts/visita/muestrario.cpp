@@ -14,6 +14,8 @@
 #include "framework/Busqueda_Window.h"
 #include "framework/Iconos.h"
 #include "icons/iconos.h"
+#include "reports/PreCierre_Window.h"
+#include "reports/Sujeto_Window.h"
 #include "widgets/Calendario_Window.h"
 #include "widgets/cFecha.h"
 
@@ -86,7 +88,7 @@ class Muestrario : public Caja {
   static const struct Muestra {
     const char* etiqueta;
     void (*abre)(Muestrario* principal);
-  } muestras[7];
+  } muestras[9];
 
   FXMenuPane* panel = nullptr;
 };
@@ -99,11 +101,13 @@ const Muestrario::Muestra Muestrario::muestras[] = {
     {"&Fecha", Muestrario::Dialogo<Fecha_Window>},
     {"&Grupos", Muestrario::Hija<Grupo_Window>},
     {"C&uentas", Muestrario::Dialogo<Busqueda_Window>},
+    {"P&re-cierre", Muestrario::Dialogo<PreCierre_Window>},
+    {"Repor&te de personas", Muestrario::Dialogo<Sujeto_Window>},
 };
 
 FXDEFMAP(Muestrario)
 MuestrarioMap[] = {
-    FXMAPFUNCS(SEL_COMMAND, Muestrario::ID_MUESTRA, Muestrario::ID_MUESTRA + 6, Muestrario::onCmdMuestra),
+    FXMAPFUNCS(SEL_COMMAND, Muestrario::ID_MUESTRA, Muestrario::ID_MUESTRA + 8, Muestrario::onCmdMuestra),
 };
 FXIMPLEMENT(Muestrario, Caja, MuestrarioMap, ARRAYNUMBER(MuestrarioMap))
 
