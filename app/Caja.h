@@ -112,7 +112,6 @@ class Caja : public FXMainWindow {
   long OpcionHija(const char* modulo, int ranura);
   template <class Ventana>
   long OpcionModal(const char* modulo);
-  long OpcionPendiente(const char* modulo);
 
   FXMDIClient* mdiClient = nullptr;
   FXMDIMenu* mdiMenu = nullptr;

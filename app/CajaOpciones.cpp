@@ -31,6 +31,7 @@
 #include "catalogs/simple/TipoSocio_Window.h"
 #include "catalogs/simple/TipoUsuario_Window.h"
 #include "catalogs/simple/Tipo_Garantia_Window.h"
+#include "reports/Sujeto_Window.h"
 #include "widgets/cajas.h"
 
 /// May the user use the module? If not, says so.
@@ -58,12 +59,6 @@ long Caja::OpcionHija(const char* modulo, int ranura) {
 template <class Ventana>
 long Caja::OpcionModal(const char* modulo) {
   if (TieneAcceso(modulo)) Ventana(this).execute(PLACEMENT_SCREEN);
-  return 1;
-}
-
-/// An option whose form does not exist yet.
-long Caja::OpcionPendiente(const char* modulo) {
-  TieneAcceso(modulo);
   return 1;
 }
 
@@ -103,7 +98,7 @@ long Caja::onCmdInpc(FXObject*, FXSelector, void*) { return OpcionHija<Inpc_Wind
 long Caja::onCmdUdis(FXObject*, FXSelector, void*) { return OpcionHija<Udis_Window>("0427", 97); }
 long Caja::onCmdRecargos(FXObject*, FXSelector, void*) { return OpcionHija<Recargos_Window>("0429", 99); }
 long Caja::onCmdMotivoBaja(FXObject*, FXSelector, void*) { return AbreHija<MotivoBaja_Window>(80); }
-long Caja::onCmdSujeto(FXObject*, FXSelector, void*) { return OpcionPendiente("0442"); }
+long Caja::onCmdSujeto(FXObject*, FXSelector, void*) { return OpcionModal<Sujeto_Window>("0442"); }
 long Caja::onCmdInabiles(FXObject*, FXSelector, void*) { return OpcionHija<Inabil_Window>("0448", 98); }
 long Caja::onCmdGrupos(FXObject*, FXSelector, void*) { return OpcionHija<Grupo_Window>("0449", 98); }
 long Caja::onCmdOcupaciones(FXObject*, FXSelector, void*) { return OpcionHija<Ocupacion_Window>("0450", 98); }

@@ -16,6 +16,8 @@
 #include "framework/Busqueda_Window.h"
 #include "framework/Iconos.h"
 #include "icons/iconos.h"
+#include "reports/PreCierre_Window.h"
+#include "reports/Sujeto_Window.h"
 #include "widgets/Calendario_Window.h"
 #include "widgets/cFecha.h"
 
@@ -60,6 +62,7 @@ class Muestrario : public Caja {
   FXDECLARE(Muestrario)
  public:
   enum { ID_MUESTRA = Caja::ID_CLOCK + 1 };
+  static constexpr int NumMuestras = 11;
 
   explicit Muestrario(FXApp* app);
   ~Muestrario() override { delete panel; }
@@ -88,7 +91,7 @@ class Muestrario : public Caja {
   static const struct Muestra {
     const char* etiqueta;
     void (*abre)(Muestrario* principal);
-  } muestras[9];
+  } muestras[NumMuestras];
 
   FXMenuPane* panel = nullptr;
 };
@@ -103,11 +106,14 @@ const Muestrario::Muestra Muestrario::muestras[] = {
     {"C&uentas", Muestrario::Dialogo<Busqueda_Window>},
     {"&Depreciaciones", Muestrario::Dialogo<TipoDepreciaciones_Window>},
     {"Ac&tivos", Muestrario::Dialogo<Activo_Window>},
+    {"P&re-cierre", Muestrario::Dialogo<PreCierre_Window>},
+    {"Repor&te de personas", Muestrario::Dialogo<Sujeto_Window>},
 };
 
 FXDEFMAP(Muestrario)
 MuestrarioMap[] = {
-    FXMAPFUNCS(SEL_COMMAND, Muestrario::ID_MUESTRA, Muestrario::ID_MUESTRA + 8, Muestrario::onCmdMuestra),
+    FXMAPFUNCS(SEL_COMMAND, Muestrario::ID_MUESTRA, Muestrario::ID_MUESTRA + Muestrario::NumMuestras - 1,
+               Muestrario::onCmdMuestra),
 };
 FXIMPLEMENT(Muestrario, Caja, MuestrarioMap, ARRAYNUMBER(MuestrarioMap))
 

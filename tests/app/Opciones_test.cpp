@@ -1,7 +1,6 @@
 // The options of the menu: whose permission each one asks, which form it opens, and which slots are in its
 // way.
 #include <algorithm>
-#include <set>
 
 #include "tests/app/ConCaja.h"
 #include "tests/support/Espia.h"
@@ -50,12 +49,6 @@ const struct Renglon {
     {99, "0217", "TipoTasaInteres_Window", Modal, Modal},
 };
 
-/// The forms that do not exist yet: their options ask the permission and open nothing.
-const std::set<std::string> Pendientes = {
-    "Sujeto_Window",
-};
-
-bool Existe(const Renglon& opcion) { return Pendientes.count(opcion.forma) == 0; }
 bool EsHija(const Renglon& opcion) { return opcion.prueba != Modal; }
 
 std::vector<Renglon> Las(const std::function<bool(const Renglon&)>& cuales) {
@@ -68,9 +61,9 @@ std::vector<Renglon> Las(const std::function<bool(const Renglon&)>& cuales) {
 std::vector<Renglon> Guardadas() {
   return Las([](const Renglon& opcion) { return opcion.modulo != nullptr; });
 }
-/// The options whose form exists and opens as a child.
+/// The options whose form opens as a child.
 std::vector<Renglon> Hijas() {
-  return Las([](const Renglon& opcion) { return Existe(opcion) && EsHija(opcion); });
+  return Las([](const Renglon& opcion) { return EsHija(opcion); });
 }
 
 class OpcionesTest : public ConCaja {
@@ -80,7 +73,7 @@ class OpcionesTest : public ConCaja {
   /// The same for an option that shows no box; a dialog is closed.
   void Abre(const Renglon& opcion) {
     Guion guion;
-    if (Existe(opcion) && !EsHija(opcion))
+    if (!EsHija(opcion))
       guion.Con([&](FXDialogBox* ventana) {
         EXPECT_STREQ(ventana->getClassName(), opcion.forma);
         EXPECT_EQ(ventana->getOwner(), caja_.get());
@@ -120,9 +113,9 @@ class OpcionesTest : public ConCaja {
   }
 };
 
-TEST_F(OpcionesTest, LasFormasQueFaltanSonLasDichas) {
+TEST_F(OpcionesTest, NoFaltaLaFormaDeNinguna) {
   for (const Renglon& opcion : Opciones)
-    EXPECT_EQ(FXMetaClass::getMetaClassFromName(opcion.forma) != nullptr, Existe(opcion)) << opcion.forma;
+    EXPECT_NE(FXMetaClass::getMetaClassFromName(opcion.forma), nullptr) << opcion.forma;
 }
 
 TEST_F(OpcionesTest, CadaUnaPreguntaPorSuModuloYAbreSuForma) {
@@ -137,7 +130,7 @@ TEST_F(OpcionesTest, CadaUnaPreguntaPorSuModuloYAbreSuForma) {
       EXPECT_EQ(salida.Lineas().at(0), Pregunta(opcion));
     }
     EXPECT_EQ(espia.Cuantas("permiso"), opcion.modulo ? 1u : 0u);
-    EXPECT_EQ(Abiertas(), Existe(opcion) && EsHija(opcion) ? Textos{opcion.forma} : Textos{});
+    EXPECT_EQ(Abiertas(), EsHija(opcion) ? Textos{opcion.forma} : Textos{});
     CierraTodas();
   }
 }
@@ -157,7 +150,7 @@ TEST_F(OpcionesTest, MotivosBajaNoPreguntaANadie) {
   const Espia espia;
   Abre(De("MotivoBaja_Window"));
   EXPECT_EQ(espia.Cuantas("permiso"), 0u);
-  EXPECT_EQ(Abiertas().size(), Existe(De("MotivoBaja_Window")) ? 1u : 0u);
+  EXPECT_EQ(Abiertas().size(), 1u);
 }
 
 TEST_F(OpcionesTest, UnModuloQueNoExisteSeNiega) {
@@ -335,7 +328,6 @@ TEST_F(OpcionesTest, UnaFormaAbiertaCierraLaOpcionDeOtra) {
   };
   const Sesion sesion(*base_);
   for (const auto& [abierta, otra, abre] : casos) {
-    if (!Existe(De(abierta)) || !Existe(De(otra))) continue;
     SCOPED_TRACE(std::string(abierta) + ", " + otra);
     Abre(De(abierta));
     Abre(De(otra));
