@@ -494,6 +494,11 @@ class LoginReglaTest : public LoginTest {
     EXPECT_FALSE(IsConectado);
   }
 
+  std::string SesionesDeAdriana() {
+    return base_.Valor(
+        "select count(*) from pg_stat_activity where usename = 'adriana' and datname = current_database()");
+  }
+
   BaseDatos base_;
   Textos mensajes_;
 };
@@ -573,14 +578,11 @@ TEST_F(LoginReglaTest, LoLanzadoCuentaComoIntento) {
 
 TEST_F(LoginReglaTest, MientrasLaCajaDelBloqueoEsperaNoQuedaNingunaSesion) {
   base_.Ejecuta("revoke select on norte.empresa from sucursal_norte");
-  const auto sesiones = [this] {
-    return base_.Valor("select count(*) from pg_stat_activity where usename = 'adriana'");
-  };
   Guion guion;
   for (int vez = 0; vez < 4; ++vez) {
     guion.Con(Entra());
     guion.Con([&](FXDialogBox* caja) {
-      EXPECT_NE(sesiones(), "0");  // refused by the branch, not by the server
+      EXPECT_NE(SesionesDeAdriana(), "0");  // refused by the branch, not by the server
       Pulsa(Boton(caja, "&Aceptar"));
     });
   }
@@ -588,7 +590,7 @@ TEST_F(LoginReglaTest, MientrasLaCajaDelBloqueoEsperaNoQuedaNingunaSesion) {
   guion.Con([&](FXDialogBox* caja) {
     EXPECT_EQ(guion.Ultimo().texto, Bloqueada);
     EXPECT_EQ(conn, nullptr);
-    EXPECT_TRUE(BombeaHasta([&] { return sesiones() == "0"; }, 5000));
+    EXPECT_TRUE(BombeaHasta([&] { return SesionesDeAdriana() == "0"; }, 5000));
     Pulsa(Boton(caja, "&Aceptar"));
   });
   Corre();
@@ -606,7 +608,7 @@ TEST_F(LoginReglaTest, ElBloqueoDejaLaSesionQueSeAbrioAntes) {
   }
   Corre();
   EXPECT_EQ(guion.Ultimo().texto, Bloqueada);
-  EXPECT_EQ(base_.Valor("select count(*) from pg_stat_activity where usename = 'adriana'"), "1");
+  EXPECT_EQ(SesionesDeAdriana(), "1");
 }
 
 // Bad branches.
