@@ -12,12 +12,14 @@ PGconn* connR = nullptr;
 bool bLocal = true;
 PGresult* res = nullptr;
 
-// Built ahead of main in this order.
-date gFecha;
-Catalogo catalogo;
-date gFechaCobroIVA;
-cPermisosModulos permite;
-Engine engine;
+// Built ahead of main in this order, and ahead of the class records of the windows: the linker would place
+// those first.
+constexpr int antesQueLasVentanas = 1000;
+[[gnu::init_priority(antesQueLasVentanas)]] date gFecha;
+[[gnu::init_priority(antesQueLasVentanas)]] Catalogo catalogo;
+[[gnu::init_priority(antesQueLasVentanas)]] date gFechaCobroIVA;
+[[gnu::init_priority(antesQueLasVentanas)]] cPermisosModulos permite;
+[[gnu::init_priority(antesQueLasVentanas)]] Engine engine;
 
 bool IsConectado = false;
 bool IsEditable = false;

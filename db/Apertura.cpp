@@ -112,12 +112,18 @@ std::string SelectDeEmpresa() {
   return sql + "from empresa where empresaid=1;";
 }
 
-/// Lets go of a former handle. An open session stays open until the process ends: a further login does not
+/// Connections that a further login has left open. They outlive every other static object.
+std::vector<PGconn*>& Abiertas(bool sesion) {
+  static auto& sesiones = *new std::vector<PGconn*>;
+  static auto& intentos = *new std::vector<PGconn*>;  // connected, and refused afterwards
+  return sesion ? sesiones : intentos;
+}
+
+/// Lets go of a former handle. An open connection stays open until the process ends: a further login does not
 /// close it.
 void Abandona(PGconn* anterior) {
-  static auto& abiertas = *new std::vector<PGconn*>;  // outlives every other static object
   if (PQstatus(anterior) == CONNECTION_OK) {
-    abiertas.push_back(anterior);
+    Abiertas(IsConectado).push_back(anterior);
   } else {
     PQfinish(anterior);
   }
@@ -139,6 +145,12 @@ namespace apertura {
 void Cierra() {
   PQfinish(conn);
   conn = nullptr;
+}
+
+void CierraIntentos() {
+  Cierra();
+  for (PGconn* intento : Abiertas(false)) PQfinish(intento);
+  Abiertas(false).clear();
 }
 
 bool Conecta(const char* servidor, const char* puerto, const char* db, const char* usuario,

@@ -8,6 +8,8 @@ namespace apertura {
 
 /// Closes the session's connection. A closed connection is null, on which every later statement simply fails.
 void Cierra();
+/// Closes it together with those of the attempts before it that connected and came to no session.
+void CierraIntentos();
 
 /// Connects as the user: the server's own accounts are the system's. The texts travel in UTF-8 and a server
 /// that is away is given up after 10 seconds, unless the environment says otherwise. The handle is left in

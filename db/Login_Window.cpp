@@ -148,9 +148,11 @@ long Login_Window::onCmdQuit(FXObject*, FXSelector, void*) {
 
 long Login_Window::onCmdAceptar(FXObject*, FXSelector, void*) {
   if (intentos > intentosPermitidos) {
-    Rechaza("CUENTA BLOQUEDA",
-            "El sistema ha bloqueado la cuenta\n"
-            "Por que se ha introducido erroneamenta la contraseña mas de 3 veces");
+    apertura::CierraIntentos();  // ahead of the box: while it stands the server shows no session
+    IsConectado = false;
+    cajaError(this, "CUENTA BLOQUEDA",
+              "El sistema ha bloqueado la cuenta\n"
+              "Por que se ha introducido erroneamenta la contraseña mas de 3 veces");
     handle(this, FXSEL(SEL_COMMAND, ID_ACCEPT), nullptr);
     return 1;
   }
@@ -184,16 +186,15 @@ bool Login_Window::AbreSesion() {
   writeRegistry();
   apertura::LeeEmpresa();
   if (apertura::SesionesAbiertas() > gNconcurrencias) {
-    Rechaza(tituloDeError, "Tu usuario ya esta conectado ");
+    Rechaza("Tu usuario ya esta conectado ");
     return false;
   }
   if (strcmp(gVersion, Version) != 0) {
-    Rechaza(tituloDeError,
-            "La Version de la BD es diferente a tu Versión del Programa\n\n"
-            "Favor de Actualizar tu Versión del Programa");
+    Rechaza(
+        "La Version de la BD es diferente a tu Versión del Programa\n\n"
+        "Favor de Actualizar tu Versión del Programa");
   }
-  if (!apertura::FechaCoincide())
-    Rechaza(tituloDeError, "La fecha de TU computadora NO COINCIDE con la del SERVIDOR");
+  if (!apertura::FechaCoincide()) Rechaza("La fecha de TU computadora NO COINCIDE con la del SERVIDOR");
   const std::string caducidad = apertura::Caducidad();
   cajaInformacion(this, "Validando usuario",
                   Sentencia("Bienvenido %s tu contraseña es valida hasta el %s ", glogin, caducidad.c_str()));
@@ -215,8 +216,8 @@ bool Login_Window::AbreSesion() {
 }
 
 /// Shows why there is no session and closes the connection.
-void Login_Window::Rechaza(const char* titulo, const char* texto) {
-  cajaError(this, titulo, texto);
+void Login_Window::Rechaza(const char* texto) {
+  cajaError(this, tituloDeError, texto);
   apertura::Cierra();
   IsConectado = false;
 }

@@ -44,7 +44,7 @@ class Login_Window : public FXDialogBox {
   void ArmaCampos(FXComposite* padre);
   void ArmaBotones(FXComposite* padre);
   bool AbreSesion();
-  void Rechaza(const char* titulo, const char* texto);
+  void Rechaza(const char* texto);
 
   FXMatrix* matrizLogin = nullptr;
   FXMatrix* matrizOpciones = nullptr;

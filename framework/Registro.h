@@ -22,6 +22,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <tuple>
+#include <type_traits>
 #include <utility>
 
 #include "app/sesion.h"
@@ -65,13 +66,13 @@ class LectorDeFila {
 };
 
 /// Stores `valor` in a column as it stands; a text is cut to its width, a number narrows to the column.
-template <size_t N>
-void GuardaColumna(char (&columna)[N], const char* valor) {
-  CopiaTexto(columna, valor);
-}
 template <class T, class Valor>
 void GuardaColumna(T& columna, const Valor& valor) {
-  columna = static_cast<T>(valor);
+  if constexpr (std::is_array_v<T>) {
+    CopiaTexto(columna, valor);
+  } else {
+    columna = static_cast<T>(valor);
+  }
 }
 
 /// Empties a text, zeroes a number.

@@ -1,12 +1,20 @@
 #include "widgets/cajas.h"
 
-#include "widgets/TextoAcotado.h"
+#include <fxkeys.h>
+
+#include <optional>
+
+namespace FX {
+// The pictures of the toolkit's own boxes: in its library, though in none of its headers.
+extern const unsigned char erroricon[];
+extern const unsigned char infoicon[];
+extern const unsigned char questionicon[];
+}  // namespace FX
 
 namespace {
 
 // A box must fit on the screen.
-constexpr int largoDelTexto = 2000;  // bytes
-constexpr int anchoDeLinea = 90;     // characters
+constexpr int anchoDeLinea = 90;  // characters
 constexpr int lineasDeCaja = 30;
 
 /// Where the line that begins at `inicio` ends: at its line end, or behind the last blank that still fits, or
@@ -21,37 +29,107 @@ FXint FinDeLinea(const FXString& texto, FXint inicio) {
   return texto.length();
 }
 
-FXString EnLineas(const FXString& texto) {
+/// The lines of a box; nothing when `texto` has more of them than a box holds.
+std::optional<FXString> EnLineas(const FXString& texto) {
   FXString lineas;
   FXint inicio = 0;
   for (int i = 0; i < lineasDeCaja; ++i) {
     const FXint fin = FinDeLinea(texto, inicio);
     if (i > 0) lineas += '\n';
     lineas += texto.mid(inicio, fin - inicio);
-    if (fin == texto.length()) break;
+    if (fin == texto.length()) return lineas;
     inicio = texto[fin] == '\n' ? fin + 1 : fin;
   }
-  return lineas;
+  return std::nullopt;
 }
 
-/// `texto` as the box shows it.
-FXString Visible(const char* texto) {
-  if (*texto == '\0') return "No hay conexión con el servidor.";
-  FXString visible(texto, static_cast<FXint>(LargoUtf8(texto, largoDelTexto)));
-  return EnLineas(visible.substitute("%%", "%"));
+/// A box as the toolkit's, but for its text, which is scrolled.
+class CajaLarga : public FXMessageBox {
+  FXDECLARE(CajaLarga)
+ public:
+  CajaLarga(FXWindow* duenio, const FXString& titulo, const FXString& todo, FXIcon* dibujo, FXuint opciones);
+
+  /// The keys that move in a text scroll it, wherever the focus is; Enter and Tab stay those of the box.
+  long onKeyPress(FXObject*, FXSelector, void* evento);
+
+ protected:
+  CajaLarga() {}
+
+ private:
+  FXText* texto = nullptr;
+};
+
+FXDEFMAP(CajaLarga)
+CajaLargaMap[] = {
+    FXMAPFUNC(SEL_KEYPRESS, 0, CajaLarga::onKeyPress),
+};
+
+FXIMPLEMENT(CajaLarga, FXMessageBox, CajaLargaMap, ARRAYNUMBER(CajaLargaMap))
+
+CajaLarga::CajaLarga(FXWindow* duenio, const FXString& titulo, const FXString& todo, FXIcon* dibujo,
+                     FXuint opciones)
+    : FXMessageBox(duenio, titulo, FXString::null, dibujo, opciones) {
+  FXWindow* const renglon = getFirst()->getFirst();  // the picture, and the label of the text
+  delete renglon->getLast();
+  auto* const marco = new FXHorizontalFrame(static_cast<FXComposite*>(renglon),
+                                            FRAME_SUNKEN | FRAME_THICK | LAYOUT_FILL_X | LAYOUT_FILL_Y, 0, 0,
+                                            0, 0, 0, 0, 0, 0);
+  texto = new FXText(marco, nullptr, 0, TEXT_READONLY | TEXT_WORDWRAP | LAYOUT_FILL_X | LAYOUT_FILL_Y);
+  texto->setVisibleColumns(anchoDeLinea);
+  texto->setVisibleRows(lineasDeCaja);
+  texto->setText(todo);
+}
+
+long CajaLarga::onKeyPress(FXObject* emisor, FXSelector sel, void* evento) {
+  constexpr struct {
+    FXint tecla, delTeclado;
+    FXSelector mensaje;
+  } pasos[] = {
+      {KEY_Up, KEY_KP_Up, FXText::ID_SCROLL_UP},
+      {KEY_Down, KEY_KP_Down, FXText::ID_SCROLL_DOWN},
+      {KEY_Page_Up, KEY_KP_Page_Up, FXText::ID_CURSOR_PAGEUP},
+      {KEY_Page_Down, KEY_KP_Page_Down, FXText::ID_CURSOR_PAGEDOWN},
+      {KEY_Home, KEY_KP_Home, FXText::ID_CURSOR_TOP},
+      {KEY_End, KEY_KP_End, FXText::ID_CURSOR_BOTTOM},
+  };
+  const auto* const pulsada = static_cast<FXEvent*>(evento);
+  for (const auto& [tecla, delTeclado, mensaje] : pasos)
+    if (pulsada->code == tecla || pulsada->code == delTeclado)
+      return texto->handle(this, FXSEL(SEL_COMMAND, mensaje), nullptr);
+  if (texto->getParent()->getFocus() == texto) {
+    for (const FXint tecla : {KEY_Tab, KEY_KP_Tab, KEY_ISO_Left_Tab})
+      if (pulsada->code == tecla) return getFirst()->handle(this, FXSEL(SEL_FOCUS_NEXT, 0), evento);
+    for (const FXint tecla : {KEY_Return, KEY_KP_Enter})
+      if (pulsada->code == tecla) texto->killFocus();
+  }
+  return FXMessageBox::onKeyPress(emisor, sel, evento);
+}
+
+/// Shows a box and answers what was clicked in it.
+FXuint Muestra(FXWindow* duenio, const unsigned char* dibujo, FXuint botones, const FXString& titulo,
+               const char* texto) {
+  FXString visible = *texto == '\0' ? "No hay conexión con el servidor." : texto;
+  visible.substitute("%%", "%");
+  FXGIFIcon icono(duenio->getApp(), dibujo);
+  const FXuint opciones = botones | DECOR_TITLE | DECOR_BORDER;
+  if (std::optional<FXString> lineas = EnLineas(visible)) {
+    // A label takes the one for the sign of a key, and the other for its own end.
+    lineas->substitute("&", "&&").substitute("\t", "    ");
+    return FXMessageBox(duenio, titulo, *lineas, &icono, opciones).execute(PLACEMENT_OWNER);
+  }
+  return CajaLarga(duenio, titulo, visible, &icono, opciones).execute(PLACEMENT_OWNER);
 }
 
 }  // namespace
 
 void cajaError(FXWindow* duenio, const FXString& titulo, const char* texto) {
-  FXMessageBox::error(duenio, MBOX_OK, titulo.text(), "%s", Visible(texto).text());
+  Muestra(duenio, FX::erroricon, MBOX_OK, titulo, texto);
 }
 
 void cajaInformacion(FXWindow* duenio, const FXString& titulo, const char* texto) {
-  FXMessageBox::information(duenio, MBOX_OK, titulo.text(), "%s", Visible(texto).text());
+  Muestra(duenio, FX::infoicon, MBOX_OK, titulo, texto);
 }
 
 bool cajaPregunta(FXWindow* duenio, const FXString& titulo, const char* texto) {
-  return FXMessageBox::question(duenio, MBOX_YES_NO, titulo.text(), "%s", Visible(texto).text()) ==
-         MBOX_CLICKED_YES;
+  return Muestra(duenio, FX::questionicon, MBOX_YES_NO, titulo, texto) == MBOX_CLICKED_YES;
 }

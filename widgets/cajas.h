@@ -2,8 +2,8 @@
 //
 // `texto` has the shape of a printf format without arguments: "%%" shows as "%", and a directive shows as it
 // stands. An empty text, which is what a closed connection leaves, shows as a sentence that says so. Lines
-// wider than 110 characters are broken and no more than 2,000 bytes are shown, so that a box always fits on
-// the screen.
+// wider than 90 characters are broken. A text of more than 30 lines is shown whole in an area that scrolls by
+// the wheel, its bar and the keys that move in a text, so that a box always fits on the screen.
 #pragma once
 
 #include <fx.h>

@@ -53,6 +53,7 @@ void TipoInversion_Window::ArmaLimites(FXMatrix* matriz) {
   campoReal(campos, "Monto Maximo:", 12, montoMax);
   for (int resto = 0; resto < 2; ++resto) new FXFrame(campos, FRAME_NONE);  // of the five places of the row
   campoEntero(campos, nullptr, 3, plazo);
+  plazo.campo->setLayoutHints(LAYOUT_NORMAL);
   campoEntero(campos, "Plazo Maximo:", 5, plazoMax, TEXTFIELD_REAL);
 }
 

@@ -1,5 +1,12 @@
 #include "catalogs/people/cBien.h"
 
+namespace {
+
+// Place of the date in the server's answer.
+constexpr int ColumnaFechaAdjudicado = 12;
+
+}  // namespace
+
 cBien::cBien(long id, long sujetoID, const char* propietario, const char* descri, const char* caracteristicas,
              const char* registroPublico, float valorComercial, float valorFiscal, float valorCatastro,
              const char* datosHipoteca, float relacionGarantia, const char* adjudicado,
@@ -11,6 +18,7 @@ cBien::cBien(long id, long sujetoID, const char* propietario, const char* descri
 
 void cBien::Fill(int fila) {
   Registro::Fill(fila);
+  if (Celda(fila, ColumnaFechaAdjudicado)[0] == '\0') FechaAdjudicado = date();
   deleted = false;
 }
 

@@ -47,9 +47,10 @@ class cBien : public Registro<cBien, EngineVirtual> {
   const date& getFechaAdjudicado() const { return FechaAdjudicado; }
   bool Deleted() const { return deleted; }
 
-  /// As in every record; also the row is not to be deleted.
+  /// As in every record; a date that the server does not have is the default one, and the row is not to be
+  /// deleted.
   void Fill(int fila);
-  /// The same.
+  /// As in every record; also the row is not to be deleted.
   void Clear();
   /// True, or throws the message of the first rule that is broken.
   bool Check();

@@ -2,6 +2,13 @@
 
 #include <iostream>
 
+cParametro::cParametro(long id, const char* usuarioID, const char* serieUser, const char* cuentaCaja,
+                       const char* impresoraCaja, const char* impresoraReporte, int reportesLaser,
+                       const char* claveSocioInt, bool cambiado, bool nuevo) {
+  Toma(cambiado, nuevo, id, usuarioID, serieUser, cuentaCaja, impresoraCaja, impresoraReporte, reportesLaser,
+       claveSocioInt);
+}
+
 void cParametro::Fill(int fila) {
   Registro::Fill(fila);
   std::cout << "leyendo parametros" << std::endl << SerieUser << std::endl << CuentaCaja << std::endl;

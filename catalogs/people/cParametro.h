@@ -7,6 +7,10 @@
 class cParametro : public Registro<cParametro, EngineVirtual> {
  public:
   cParametro() { Clear(); }
+  /// Stores each argument as it stands.
+  cParametro(long id, const char* usuarioID, const char* serieUser, const char* cuentaCaja,
+             const char* impresoraCaja, const char* impresoraReporte, int reportesLaser,
+             const char* claveSocioInt, bool dataChanged, bool isNew);
 
   void setParametroID(long valor) { Pon(ParametroID, valor); }
   void setUsuarioID(const char* valor) { Pon(UsuarioID, valor); }

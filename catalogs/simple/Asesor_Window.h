@@ -20,6 +20,8 @@ class Asesor_Window : public Forma<Asesor_Window, FXMDIChild> {
 
  private:
   friend Forma;
+  static constexpr bool trazaErrores = true;
+
   cAsesor& Actual() { return asesor; }
   auto& Filas() { return Catalogo::Asesores; }
   void Relee() { catalogo.LoadAsesor(); }

@@ -21,8 +21,8 @@ class TipoMoviBanco_Window : public Forma<TipoMoviBanco_Window, FXMDIChild> {
   /// The operation is what the user checks, and nothing until he does.
   long onCmdOperacionSumaResta(FXObject*, FXSelector, void*);
 
-  /// Shows the operation of the record in the check button and leaves that of the form alone: each record has
-  /// to be checked, or checked off, to be saved.
+  /// Shows the operation of the record in the check button and leaves that of the form alone: what is saved
+  /// is the operation that was pressed last since Clear, be it for another record.
   void Read();
   void Update();
   void Clear();

@@ -1,6 +1,7 @@
 // The main window: what it is made of, its clock and session text, how a session opens and closes.
 #include <algorithm>
 #include <ctime>
+#include <functional>
 
 #include "framework/Iconos.h"
 #include "icons/iconos.h"
@@ -289,6 +290,45 @@ TEST(CajaFin, DevuelveALaAplicacionLaLetraQueTenia) {
     EXPECT_NE(App().getNormalFont(), anterior);
   }
   EXPECT_EQ(App().getNormalFont(), anterior);
+}
+
+/// A piece that says when it goes, together with the widget that it stands in.
+class Testigo : public FXFrame {
+ public:
+  Testigo(FXComposite* padre, std::function<void()> alMorir)
+      : FXFrame(padre, FRAME_NONE), alMorir_(std::move(alMorir)) {}
+  ~Testigo() override { alMorir_(); }
+
+ private:
+  std::function<void()> alMorir_;
+};
+
+TEST(CajaFin, CallaElRelojYBorraSusPiezasEnOrden) {
+  Textos idas;
+  {
+    const Principal caja;
+    caja->onClock(nullptr, 0, nullptr);
+    FXMenuBar* const barra = Unico<FXMenuBar>(caja.get());
+    FXStatusBar* const estado = Unico<FXStatusBar>(caja.get());
+    const std::vector<FXMenuTitle*> titulos = Todos<FXMenuTitle>(barra);
+    const std::pair<const char*, FXComposite*> piezas[] = {
+        {"dragShellMenu", dynamic_cast<FXComposite*>(barra->getDryDock())},
+        {"statusBar", estado},
+        {"menuBar", barra},
+        {"menuCatalogos", titulos.at(1)->getMenu()},
+        {"menuInicio", titulos.at(0)->getMenu()},
+    };
+    EXPECT_EQ(Rotulo(titulos[0]), "&Inicio");
+    EXPECT_EQ(Rotulo(titulos[1]), "C&atalogos");
+    for (const auto& [nombre, pieza] : piezas) {
+      ASSERT_NE(pieza, nullptr) << nombre;
+      new Testigo(pieza, [&idas, nombre = nombre, caja = caja.get()] {
+        EXPECT_FALSE(App().hasTimeout(caja, Caja::ID_CLOCK));
+        idas.push_back(nombre);
+      });
+    }
+  }
+  EXPECT_EQ(idas, (Textos{"menuInicio", "menuCatalogos", "menuBar", "statusBar", "dragShellMenu"}));
 }
 
 TEST_F(CajaConServidorTest, SeDejaDestruirConFormasAbiertas) {

@@ -5,7 +5,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <type_traits>
 
+#include "app/Caja.h"
 #include "tests/support/Registros.h"
 #include "tests/support/Salida.h"
 
@@ -82,6 +84,25 @@ std::string FallasAlArrancar() {
        {std::pair("gFecha", &gFecha), std::pair("gFechaCobroIVA", &gFechaCobroIVA)})
     exige(strcmp(fecha->AsChar(), "1900-01-01") == 0 && strcmp(fecha->AsDMY(), "01/01/1900") == 0, nombre);
   return fallas;
+}
+
+static_assert(std::is_same_v<decltype(sleft), char*>);
+
+/// What was there when only the objects with a priority had been built.
+struct Vistazo {
+  Vistazo()
+      : fechas(strcmp(gFecha.AsChar(), "1900-01-01") == 0 &&
+               strcmp(gFechaCobroIVA.AsChar(), "1900-01-01") == 0),
+        ventanas(FXMetaClass::getMetaClassFromName("Caja") != nullptr) {}
+  bool fechas;
+  bool ventanas;
+};
+[[gnu::init_priority(65000)]] const Vistazo alComienzo;
+
+TEST(sesion, SusObjetosSeConstruyenAntesQueLosRegistrosDeLasVentanas) {
+  EXPECT_TRUE(alComienzo.fechas);
+  EXPECT_FALSE(alComienzo.ventanas);
+  EXPECT_EQ(FXMetaClass::getMetaClassFromName("Caja"), &Caja::metaClass);
 }
 
 // In a process of its own: here other tests may have opened a session already.

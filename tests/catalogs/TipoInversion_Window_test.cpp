@@ -141,6 +141,9 @@ TEST_F(TipoInversionVentana, LosMontosYPlazosVanEnSusMatrices) {
   EXPECT_EQ(lugar(Texto("MontoMax")), std::pair(0, 2));
   EXPECT_EQ(lugar(Texto("Plazo")), std::pair(1, 0));
   EXPECT_EQ(lugar(Texto("PlazoMax")), std::pair(1, 2));
+  EXPECT_EQ(Texto("Plazo")->getLayoutHints(), FXuint{LAYOUT_NORMAL});
+  for (const char* columna : {"MontoMin", "MontoMax", "PlazoMax"})
+    EXPECT_NE(Texto(columna)->getLayoutHints(), FXuint{LAYOUT_NORMAL}) << columna;
   FXMatrix* const etiquetas = dynamic_cast<FXMatrix*>(campos->getPrev());
   EXPECT_EQ(etiquetas->getNumColumns(), 1);
   EXPECT_EQ(Etiquetas(etiquetas), (Textos{"Monto Minimo:", "Plazo Minimo:"}));

@@ -146,7 +146,7 @@ TEST_F(cBienTest, LaVidaDeUnBienMandaSoloSusSentenciasSinTraza) {
     std::string cola;   // of the statement
     std::string fecha;  // as the server keeps it
     std::string leida;  // and as it comes back
-  } tabla[] = {{"S", "S','2006-03-05');", "2006-03-05", "2006-03-05"}, {"N", "N',NULL);", "", "0000-00-00"}};
+  } tabla[] = {{"S", "S','2006-03-05');", "2006-03-05", "2006-03-05"}, {"N", "N',NULL);", "", "1900-01-01"}};
   Salida salida;
   for (const auto& fila : tabla) {
     SCOPED_TRACE(fila.adjudicado);
@@ -187,6 +187,19 @@ TEST_F(cBienTest, LaVidaDeUnBienMandaSoloSusSentenciasSinTraza) {
     EXPECT_TRUE(bien.IsNew());
   }
   EXPECT_EQ(salida.Texto(), "");
+}
+
+TEST_F(cBienTest, LeidoSinFechaNoSeAdjudicaSinDarsela) {
+  B bien = Lleno("N");
+  bien.AddNew();
+  bien.Find();
+  EXPECT_STREQ(bien.getFechaAdjudicado().AsChar(), "1900-01-01");
+  bien.setAdjudicado("S");
+  Espia espia;
+  EXPECT_EQ(Lanzado([&] { bien.Update(); }), "No ha especificado la fecha de adjudicación");
+  EXPECT_TRUE(espia.Sentencias().empty());
+  bien.setFechaAdjudicado(date(5, 3, 2006));
+  EXPECT_EQ(Lanzado([&] { bien.Update(); }), std::nullopt);
 }
 
 TEST_F(cBienTest, UnValorDeSimplePrecisionViajaConSuRuido) {
@@ -230,7 +243,7 @@ TEST_F(cBienTest, UnaRespuestaCualquieraSeEntiende) {
   const std::string ceros = "|0.000000|0.000000|0.000000";
   const std::pair<Falla, std::string> tabla[] = {
       {falla::Recortada(2), "1000000001|"},
-      {falla::ConNulos(), "0|0||||" + ceros + "||0.000000||0000-00-00"},
+      {falla::ConNulos(), "0|0||||" + ceros + "||0.000000||1900-01-01"},
       {falla::ConTextos(5000),
        "0|0" + x(60) + x(60) + x(254) + x(254) + ceros + x(255) + "|0.000000" + x(3) + "|0000-00-00"},
   };

@@ -33,6 +33,17 @@ cParametro Lleno() {
 
 TEST(cParametro, RecienHechoEstaVacioYNoEsNuevo) { EXPECT_EQ(Estado(cParametro()), "0||||||0|"); }
 
+TEST(cParametro, ElConstructorCompletoGuardaTodoTalCual) {
+  EXPECT_EQ(Estado(cParametro(9, "braulio", "B", "1101-01", "caja 1", "reporte 1", 1, "K7", true, false)),
+            Estado(Lleno()));
+  EXPECT_EQ(Estado(cParametro(0, "", "", "", "", "", 0, "", false, true)), "0||||||0| nuevo");
+  const std::string largo(200, 'x');
+  const char* const x = largo.c_str();
+  EXPECT_EQ(Estado(cParametro(70'000'000'000, x, x, x, x, x, -1, x, false, false)),
+            "70000000000|" + std::string(20, 'x') + "|xx|" + std::string(24, 'x') + "|" +
+                std::string(50, 'x') + "|" + std::string(51, 'x') + "|-1|" + std::string(15, 'x'));
+}
+
 TEST(cParametro, CadaColumnaSigueLaReglaDelCambio) {
   const ColumnaDeTexto<cParametro> tabla[] = {
       {"UsuarioID", &cParametro::setUsuarioID, &cParametro::getUsuarioID, 20},

@@ -153,6 +153,17 @@ TEST(cTipoInversion, ElConstructorCompletoGuardaTodoTalCualEnElOrdenDeLosMiembro
   EXPECT_FALSE(Valida().IsNew());
 }
 
+TEST(cTipoInversion, ElConstructorTomaLoQueSeConvierte) {
+  char clave[] = "Q";
+  const T t(clave, clave, "c", 4L, "e", "f", "g", "h", "i", 12.5, 5, 2, 13.0, 14, "S", 16, 17, "r", clave, 0,
+            1, 0);
+  EXPECT_EQ(Columnas(t, campos),
+            (Textos{"Q",        "Q",        "c",  "4",  "e", "f",  "g",  "h", "i", "12.500000",
+                    "5.000000", "2.000000", "13", "14", "S", "16", "17", "r", "Q", "0"}));
+  EXPECT_TRUE(t.getDataChanged());
+  EXPECT_FALSE(t.IsNew());
+}
+
 TEST(cTipoInversion, CheckTrazaLosMontosEnCuantoLlegaAEllos) {
   const char* const traza = "fMontoMax: 1e+06, fMontoMin: 0.25\n";
   const struct {

@@ -139,6 +139,17 @@ TEST(cTipoMovimiento, ElConstructorCompletoGuardaTodoTalCualEnElOrdenDeLosMiembr
   EXPECT_FALSE(t.IsNew());
 }
 
+TEST(cTipoMovimiento, ElConstructorTomaLoQueSeConvierte) {
+  char cuenta[] = "d";
+  const T t("a", "b", "c", cuenta, "e", "f", "g", "h", "i", "j", "k", "l", 5, "n", "o", "p", "q", 12.5, 5, 2L,
+            "u", cuenta, 1.0, false, true);
+  EXPECT_EQ(Columnas(t, campos),
+            (Textos{"a",        "b", "c", "d", "e", "f",         "g",        "h",        "i", "j", "k", "l",
+                    "5.000000", "n", "o", "p", "q", "12.500000", "5.000000", "2.000000", "u", "d", "1"}));
+  EXPECT_FALSE(t.getDataChanged());
+  EXPECT_TRUE(t.IsNew());
+}
+
 TEST(cTipoMovimiento, SinCuentasDeOrdenPasaAunqueSeManejen) {
   T t("Q", "b", "S", "d", "e", "f", "g", "h", "i", "D", "S", "S", 0.0, "", "", "S", "q", 0.0f, 0.0f, 0.0f,
       "u", "v", 1, true, false);

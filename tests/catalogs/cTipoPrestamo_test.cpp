@@ -279,6 +279,22 @@ TEST(cTipoPrestamo, ElConstructorCompletoGuardaTodoTalCualEnElOrdenDeLosMiembros
   EXPECT_FALSE(tipo.IsNew());
 }
 
+TEST(cTipoPrestamo, ElConstructorTomaLoQueSeConvierte) {
+  char cuenta[] = "7";
+  const T tipo("1", "2", 3L, 12.5, 5, "6", cuenta, "8", "9", "10", "11", "12", "13", "14", "15", "16", "17",
+               "R", 19, "20", "21", "22", "23", "24", "25", "26", "27", "28", "29", 30, 31, "32", "33", "34",
+               "35", "36", cuenta, 5, 39L, 40, 41, 42, 43, 44.5f, 5, "46", "47", 48, 49, 50, "51", 0, 1);
+  EXPECT_EQ(Columnas(tipo, campos),
+            (Textos{"1",  "2",        "3",  "12.500000", "5.000000", "6",  "7",  "8",         "9",
+                    "10", "11",       "12", "13",        "14",       "15", "16", "17",        "R",
+                    "19", "20",       "21", "22",        "23",       "24", "25", "26",        "27",
+                    "28", "29",       "30", "31",        "32",       "33", "34", "35",        "36",
+                    "7",  "5.000000", "39", "40.000000", "41",       "42", "43", "44.500000", "5.000000",
+                    "46", "47",       "48", "49.000000", "50",       "51"}));
+  EXPECT_FALSE(tipo.getDataChanged());
+  EXPECT_TRUE(tipo.IsNew());
+}
+
 class cTipoPrestamoTest : public ConSucursal {};
 
 TEST_F(cTipoPrestamoTest, SinNadaDeLoOpcionalSeGuarda) {

@@ -737,11 +737,18 @@ TEST_P(FormasSimples, LoQueNoHayNiSeHallaNiSeBorra) {
 TEST_P(FormasSimples, LoQueElServidorRechazaSePuedeRepetir) {
   const Caso& caso = GetParam();
   Llena(caso.alta);
-  const auto rechaza = [this](const char* boton, const char* sentencia) {
+  const bool deMonedas = caso.modelo.meta == &Monedas_Window::metaClass;
+  const bool trazaErrores = deMonedas || caso.modelo.meta == &Asesor_Window::metaClass;
+  const auto rechaza = [&](const char* boton, const char* sentencia) {
     const Textos antes = Renglones();
     const Textos pantalla = Pantalla();
     espia_.Cuando(sentencia, falla::Error("hoy no"));
+    const Salida salida;
     EXPECT_EQ(Rechazo(boton), "ERROR:  hoy no\n");
+    const Textos lineas = salida.Lineas();
+    const bool delRegistro = deMonedas && sentencia == caso.sqlCambio;
+    EXPECT_EQ(std::count(lineas.begin(), lineas.end(), "entrando a error"),
+              delRegistro + (trazaErrores && sentencia != caso.sqlBorrado));
     EXPECT_EQ(espia_.Sentencias().back(), "ROLLBACK;");
     EXPECT_EQ(Renglones(), antes);
     EXPECT_EQ(Pantalla(), pantalla);

@@ -308,6 +308,14 @@ TEST_F(LoginTest, EnterEnLaContrasenaAcepta) {
   EXPECT_TRUE(Corre());
 }
 
+TEST_F(LoginTest, EscapeEsCerrar) {
+  Guion guion;
+  guion.Con([](FXDialogBox* login) { Tecla(CampoJuntoA(login, "Password:"), KEY_Escape); });
+  EXPECT_FALSE(Corre());
+  EXPECT_FALSE(IsConectado);
+  EXPECT_EQ(salida_.Texto(), "");
+}
+
 TEST_F(LoginTest, ValeLoEscritoEnTodosLosCampos) {
   SinAjustes();
   Guion guion;
@@ -486,6 +494,11 @@ class LoginReglaTest : public LoginTest {
     EXPECT_FALSE(IsConectado);
   }
 
+  std::string SesionesDeAdriana() {
+    return base_.Valor(
+        "select count(*) from pg_stat_activity where usename = 'adriana' and datname = current_database()");
+  }
+
   BaseDatos base_;
   Textos mensajes_;
 };
@@ -561,6 +574,41 @@ TEST_F(LoginReglaTest, LoLanzadoCuentaComoIntento) {
   Repite(4, 1, true);
   for (size_t vez = 0; vez < 4; ++vez)
     EXPECT_EQ(mensajes_.at(vez), "ERROR:  permission denied for table empresa\n");
+}
+
+TEST_F(LoginReglaTest, MientrasLaCajaDelBloqueoEsperaNoQuedaNingunaSesion) {
+  base_.Ejecuta("revoke select on norte.empresa from sucursal_norte");
+  Guion guion;
+  for (int vez = 0; vez < 4; ++vez) {
+    guion.Con(Entra());
+    guion.Con([&](FXDialogBox* caja) {
+      EXPECT_NE(SesionesDeAdriana(), "0");  // refused by the branch, not by the server
+      Pulsa(Boton(caja, "&Aceptar"));
+    });
+  }
+  guion.Con(Entra());
+  guion.Con([&](FXDialogBox* caja) {
+    EXPECT_EQ(guion.Ultimo().texto, Bloqueada);
+    EXPECT_EQ(conn, nullptr);
+    EXPECT_TRUE(BombeaHasta([&] { return SesionesDeAdriana() == "0"; }, 5000));
+    Pulsa(Boton(caja, "&Aceptar"));
+  });
+  Corre();
+}
+
+TEST_F(LoginReglaTest, ElBloqueoDejaLaSesionQueSeAbrioAntes) {
+  ASSERT_TRUE(Pasa());
+  Guion guion;
+  for (int vez = 0; vez < 5; ++vez) {
+    guion.Con(Entra("mala clave"));
+    guion.Con([&, vez](FXDialogBox* caja) {
+      EXPECT_EQ(IsConectado, vez < 4);  // cleared ahead of the last box
+      Pulsa(Boton(caja, "&Aceptar"));
+    });
+  }
+  Corre();
+  EXPECT_EQ(guion.Ultimo().texto, Bloqueada);
+  EXPECT_EQ(SesionesDeAdriana(), "1");
 }
 
 // Bad branches.

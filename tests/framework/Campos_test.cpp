@@ -272,10 +272,15 @@ TEST_F(CamposTest, UnaCasillaValeLoQueMuestra) {
     texto.Pon(leido);
     EXPECT_EQ(texto.Valor(), vale) << leido;
   }
-  for (const auto& [leido, vale] : {std::pair(1, 1), {0, 0}, {2, 0}}) {
+  FXCheckButton* const llana = campoCasilla(matriz_, "Llana:");
+  for (const int leido : {1, 0, 2, 3, -1, 256, 0}) {
     numero.Pon(leido);
-    EXPECT_EQ(numero.Valor(), vale);
+    llana->setCheck(static_cast<FXbool>(leido));
+    EXPECT_EQ(numero.boton->getCheck(), llana->getCheck()) << leido;
+    EXPECT_EQ(numero.Valor(), llana->getCheck() ? 1 : 0) << leido;
   }
+  numero.Pon(2);
+  EXPECT_EQ(numero.boton->getCheck(), MAYBE);
   texto.Pon("S");
   numero.Pon(1);
   texto.Pon({});

@@ -26,6 +26,7 @@ class cPieza : public Registro<cPieza> {
   void setLargo(long valor) { Pon(Largo, valor); }
   void setFlotante(float valor) { Pon(Flotante, valor); }
   void setDoble(double valor) { Pon(Doble, valor); }
+  void setDia(const date& valor) { Pon(Dia, valor); }
 
   int getPiezaID() const { return PiezaID; }
   const char* getNombre() const { return Nombre; }
@@ -152,6 +153,30 @@ TEST(Registro, ElFormatoDeUnTextoSeAplicaTrasCompararloComoSeDio) {
   pieza.setDataChanged(false);
   pieza.setLimitada("abcdef");
   EXPECT_TRUE(pieza.getDataChanged());
+}
+
+TEST(Registro, UnaFechaCambiaConSusTresNumeros) {
+  const date fechas[] = {date(),
+                         date(15, 3, 2006),
+                         date(14, 3, 2006),
+                         date(15, 4, 2006),
+                         date(15, 3, 2007),
+                         date(31, 2, 2026),
+                         date(30, 2, 2026),
+                         date(""),
+                         date("xx"),
+                         date(0, 13, -5)};
+  for (const date& antes : fechas) {
+    for (const date& nueva : fechas) {
+      SCOPED_TRACE(std::string(antes.AsChar()) + " -> " + nueva.AsChar());
+      cPieza pieza;
+      pieza.setDia(antes);
+      pieza.setDataChanged(false);
+      pieza.setDia(nueva);
+      EXPECT_EQ(pieza.getDataChanged(), std::string(antes.AsChar()) != nueva.AsChar());
+      EXPECT_STREQ(pieza.getDia().AsChar(), nueva.AsChar());
+    }
+  }
 }
 
 TEST(Registro, EnUnaListaSoloCuentaLaClave) {
@@ -356,6 +381,13 @@ class EscrituraDobleTest : public ConBaseVacia {};
 TEST(Registro, ElConstructorPuedeSeguirElOrdenDeLosMiembros) {
   EXPECT_EQ(cDoble("C", "L", 1.5f, true, false).Estado(), "C|L|1.500000 cambiada");
   EXPECT_EQ(cDoble("C", "L", 1.5f, false, true).Estado(), "C|L|1.500000 nueva");
+}
+
+TEST(Registro, ElConstructorTomaLoQueSeConvierte) {
+  char clave[] = "CLAVE", letra[] = "ñ";
+  EXPECT_EQ(cDoble(clave, letra, 12.5, true, false).Estado(), "CLA||12.500000 cambiada");
+  EXPECT_EQ(cDoble("C", letra + 2, 5, 0, 1).Estado(), "C||5.000000 nueva");
+  EXPECT_EQ(cDoble("C", "L", 7L, false, false).Estado(), "C|L|7.000000");
 }
 
 TEST_F(EscrituraDobleTest, LaSegundaSentenciaVaEnLaMismaTransaccionConSuPropiaTraza) {

@@ -82,6 +82,7 @@ Cuadro Retrato(FXDialogBox* ventana) {
   for (const FXLabel* pieza : Todos<FXLabel>(ventana)) {
     if (pieza->getIcon()) cuadro.clase = ClaseDe(pieza->getIcon());
   }
+  for (const FXText* largo : Todos<FXText>(ventana)) cuadro.texto += largo->getText().text();
   return cuadro;
 }
 

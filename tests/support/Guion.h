@@ -37,7 +37,8 @@ enum class Clase { Dialogo, Error, Aviso, Pregunta, Informacion };
 struct Cuadro {
   Clase clase = Clase::Dialogo;
   std::string titulo;
-  std::string texto;  ///< its labels, but for those of buttons and empty ones, a line end between two
+  std::string texto;  ///< its labels, but for those of buttons and empty ones, a line end between two; of a
+                      ///< message box also the text that it scrolls
   Textos botones;     ///< labels in order, with their "&"
 };
 

@@ -1,9 +1,11 @@
 // The boxes: their kinds, their answers, and texts that a format would trip over.
 #include "widgets/cajas.h"
 
+#include <fxkeys.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 
 #include "tests/support/Guion.h"
 #include "tests/support/Pantalla.h"
@@ -126,34 +128,183 @@ TEST_F(CajasTest, UnaPalabraSinFinSeParteTrasNoventaLetras) {
   EXPECT_EQ(Visto(Repetida("x", 90)), Repetida("x", 90));
 }
 
-TEST_F(CajasTest, NoMuestraMasDeTreintaRenglones) {
-  EXPECT_EQ(EnLineas(Visto(Repetida("a\n", 100))).size(), 30u);
-}
-
 TEST_F(CajasTest, LosRenglonesPropiosSeConservan) {
   const std::string texto = "\nFATAL:  uno\n\n" + Repetida("y ", 40) + "\ndos\n";
   EXPECT_EQ(Visto(texto), texto);
 }
 
-TEST_F(CajasTest, NoMuestraMasDeDosMilBytesNiMediaLetra) {
-  for (const std::string& letra : Textos{"x", "ñ", "€", "😀"}) {
-    for (const std::string& antes : Textos{"", "a", "ab"}) {
-      const size_t caben = (2000 - antes.size()) / letra.size();
-      EXPECT_EQ(SinSaltos(Visto(antes + Repetida(letra, 5000))), antes + Repetida(letra, caben));
-    }
-  }
+TEST_F(CajasTest, LasSenalesDelMenuYLosTabuladoresNoSePierden) {
+  Guion guion;
+  guion.Con([](FXDialogBox* caja) {
+    EXPECT_STREQ(Todos<FXLabel>(caja).at(1)->getText().text(), "R&D && 1    2    \\t");
+    Pulsa(Boton(caja, "&Aceptar"));
+  });
+  cajaError(duenio_, "Error", "R&D && 1\t2\t\\t");
 }
 
-TEST_F(CajasTest, UnaCajaLlenaCabeEnLaPantalla) {
-  for (const std::string& texto : Textos{Repetida("o", 5000), Repetida("palabra ", 1000)}) {
+TEST_F(CajasTest, UnaCajaComunCabeEnLaPantalla) {
+  for (const std::string& texto :
+       Textos{Repetida("o", 2600), Repetida("palabra ", 330), Repetida("W\n", 29)}) {
     Guion guion;
     guion.Con([](FXDialogBox* caja) {
+      EXPECT_TRUE(Todos<FXText>(caja).empty());
       EXPECT_LE(caja->getWidth(), App().getRootWindow()->getWidth());
       EXPECT_LE(caja->getHeight(), App().getRootWindow()->getHeight());
-      Pulsa(Todos<FXButton>(caja).at(0));
+      Pulsa(Boton(caja, "&Aceptar"));
     });
     cajaError(duenio_, "Error", texto.c_str());
   }
+}
+
+// Texts of more than thirty lines.
+
+/// The numbers from 1 to `hasta`, a line each.
+std::string Renglones(int hasta) {
+  std::string texto;
+  for (int i = 1; i <= hasta; ++i) texto += (i > 1 ? "\nrenglón " : "renglón ") + std::to_string(i);
+  return texto;
+}
+
+class CajaLargaTest : public CajasTest {
+ protected:
+  /// Does something in an error box with that text, which has to close it.
+  void Con(const std::string& texto, const std::function<void(FXDialogBox*, FXText*)>& accion) {
+    Guion guion;
+    guion.Con([&](FXDialogBox* caja) {
+      const std::vector<FXText*> textos = Todos<FXText>(caja);
+      ASSERT_EQ(textos.size(), 1u);
+      accion(caja, textos[0]);
+    });
+    cajaError(duenio_, "Error", texto.c_str());
+  }
+  static FXint Fondo(FXText* texto) { return texto->getViewportHeight() - texto->getContentHeight(); }
+};
+
+TEST_F(CajaLargaTest, EmpiezaTrasTreintaRenglones) {
+  Guion guion;
+  for (const bool larga : {false, true}) {
+    guion.Con([larga](FXDialogBox* caja) {
+      EXPECT_EQ(Todos<FXText>(caja).size(), larga);
+      EXPECT_EQ(Todos<FXLabel>(caja).size(), larga ? 2u : 3u);  // picture, text, button
+      Pulsa(Boton(caja, "&Aceptar"));
+    });
+    cajaError(duenio_, "Error", Renglones(larga ? 31 : 30).c_str());
+    EXPECT_EQ(guion.Ultimo().texto, Renglones(larga ? 31 : 30));
+  }
+}
+
+TEST_F(CajaLargaTest, MuestraElTextoEntero) {
+  const std::pair<std::string, std::string> textos[] = {
+      {Repetida("palabra ", 1000), Repetida("palabra ", 1000)},
+      {Repetida("a\n", 100), Repetida("a\n", 100)},
+      {Repetida("100%% %s %n &R\t&&\n", 40), Repetida("100% %s %n &R\t&&\n", 40)},
+      {Repetida("x", 5000), Repetida("x", 5000)},
+      {Repetida("ñ", 5000), Repetida("ñ", 5000)},
+      {Repetida("€", 5000), Repetida("€", 5000)},
+      {Repetida("😀", 5000), Repetida("😀", 5000)},
+      {Repetida("mucho más ", 20'000), Repetida("mucho más ", 20'000)},
+  };
+  for (const auto& [texto, visto] : textos) {
+    SCOPED_TRACE(texto.substr(0, 20));
+    Con(texto, [&visto = visto](FXDialogBox* caja, FXText* area) {
+      EXPECT_TRUE(visto == area->getText().text());
+      EXPECT_FALSE(area->isEditable());
+      EXPECT_LE(area->getContentWidth(), area->getViewportWidth());  // nothing to the right of what is seen
+      EXPECT_LE(caja->getWidth(), 800);
+      EXPECT_LE(caja->getHeight(), 600);
+      Pulsa(Boton(caja, "&Aceptar"));
+    });
+  }
+}
+
+TEST_F(CajaLargaTest, EsLaCajaDeSiempre) {
+  Guion guion;
+  for (const Respuesta respuesta : {Respuesta::Aceptar, Respuesta::Aceptar, Respuesta::Si, Respuesta::No})
+    guion.Responde(respuesta);
+  const std::string texto = Renglones(100);
+  cajaError(duenio_, "100%", texto.c_str());
+  cajaInformacion(duenio_, "100%", texto.c_str());
+  EXPECT_TRUE(cajaPregunta(duenio_, "100%", texto.c_str()));
+  EXPECT_FALSE(cajaPregunta(duenio_, "100%", texto.c_str()));
+  const Clase clases[] = {Clase::Error, Clase::Informacion, Clase::Pregunta, Clase::Pregunta};
+  ASSERT_EQ(guion.Cuadros().size(), 4u);
+  for (size_t i = 0; i < 4; ++i) {
+    const Cuadro& cuadro = guion.Cuadros()[i];
+    EXPECT_EQ(cuadro.clase, clases[i]);
+    EXPECT_EQ(cuadro.titulo, "100%");
+    EXPECT_EQ(cuadro.texto, texto);
+    EXPECT_EQ(cuadro.botones, i < 2 ? Textos{"&Aceptar"} : (Textos{"&Sí", "&No"}));
+  }
+}
+
+TEST_F(CajaLargaTest, SeRecorreConElTecladoDesdeElBotonYDesdeElTexto) {
+  for (const bool desdeElTexto : {false, true}) {
+    SCOPED_TRACE(desdeElTexto);
+    Con(Renglones(200), [&](FXDialogBox* caja, FXText* texto) {
+      FXWindow* const foco = desdeElTexto ? static_cast<FXWindow*>(texto) : Boton(caja, "&Aceptar");
+      const auto tras = [&](FXuint tecla) {
+        Tecla(foco, tecla);
+        Bombea();
+        EXPECT_EQ(foco->getParent()->getFocus(), foco);
+        return texto->getYPosition();
+      };
+      const FXint renglon = texto->getFont()->getFontHeight();
+      EXPECT_EQ(texto->getYPosition(), 0);
+      ASSERT_LT(Fondo(texto), -10 * renglon);
+      EXPECT_EQ(tras(KEY_Down), -renglon);
+      EXPECT_EQ(tras(KEY_KP_Down), -2 * renglon);
+      EXPECT_EQ(tras(KEY_Up), -renglon);
+      EXPECT_EQ(tras(KEY_KP_Up), 0);
+      EXPECT_EQ(tras(KEY_Up), 0);
+      FXint antes = 0;
+      for (const FXuint tecla : {KEY_Page_Down, KEY_KP_Page_Down}) {
+        const FXint ahora = tras(tecla);
+        EXPECT_LE(ahora, antes - texto->getViewportHeight() / 2);
+        EXPECT_GE(ahora, antes - texto->getViewportHeight());  // no line is skipped
+        antes = ahora;
+      }
+      EXPECT_GT(tras(KEY_Page_Up), antes);
+      EXPECT_EQ(tras(KEY_KP_Page_Up), 0);
+      EXPECT_EQ(tras(KEY_End), Fondo(texto));
+      EXPECT_EQ(tras(KEY_Home), 0);
+      EXPECT_EQ(tras(KEY_KP_End), Fondo(texto));
+      EXPECT_EQ(tras(KEY_KP_Home), 0);
+      Pulsa(Boton(caja, "&Aceptar"));
+    });
+  }
+}
+
+TEST_F(CajaLargaTest, LasPaginasLleganDelPrincipioAlFin) {
+  Con(Renglones(200), [&](FXDialogBox* caja, FXText* texto) {
+    FXint paginas = 0;
+    while (texto->getYPosition() > Fondo(texto) && ++paginas < 50)
+      Tecla(Boton(caja, "&Aceptar"), KEY_Page_Down);
+    EXPECT_EQ(texto->getYPosition(), Fondo(texto));
+    EXPECT_LT(paginas, 20);
+    Pulsa(Boton(caja, "&Aceptar"));
+  });
+}
+
+TEST_F(CajaLargaTest, DesdeElTextoEnterYEscapeCierranYTabSale) {
+  for (const FXuint tecla : {KEY_Return, KEY_KP_Enter, KEY_Escape})
+    Con(Renglones(100), [&](FXDialogBox*, FXText* texto) { Tecla(texto, tecla); });
+  for (const FXuint tecla : {KEY_Tab, KEY_KP_Tab, KEY_ISO_Left_Tab}) {
+    Con(Renglones(100), [&](FXDialogBox* caja, FXText* texto) {
+      Tecla(texto, tecla, tecla == KEY_ISO_Left_Tab ? SHIFTMASK : 0);
+      EXPECT_EQ(Boton(caja, "&Aceptar")->getParent()->getFocus(), Boton(caja, "&Aceptar"));
+      Pulsa(Boton(caja, "&Aceptar"));
+    });
+  }
+}
+
+TEST_F(CajaLargaTest, NadaSeEscribeEnElla) {
+  Con(Renglones(100), [&](FXDialogBox* caja, FXText* texto) {
+    Tecla(texto, KEY_x, 0, "x");
+    Tecla(texto, KEY_Delete);
+    Tecla(texto, KEY_v, CONTROLMASK, "\x16");
+    EXPECT_EQ(texto->getText().text(), Renglones(100));
+    Pulsa(Boton(caja, "&Aceptar"));
+  });
 }
 
 }  // namespace

@@ -174,6 +174,28 @@ TEST(Lista, ItemOutsideTheListIsAnEmptyElementAndTheCursorStays) {
   EXPECT_EQ(lista<Fila>().Item(0), Fila());
 }
 
+// An element that cannot be made from nothing.
+struct Llena {
+  explicit Llena(int clave) : clave(clave) {}
+  int clave;
+  bool operator>(const Llena& otra) const { return clave > otra.clave; }
+  bool operator<=(const Llena& otra) const { return clave <= otra.clave; }
+};
+
+TEST(Lista, AnElementNeedsNoDefaultConstructor) {
+  lista<Llena> filas;
+  for (const int clave : {20, 10, 30}) filas.Insertar(Llena(clave));
+  for (const int i : {0, 1, 2}) EXPECT_EQ(filas.Item(i).clave, 10 * (i + 1));
+  filas.setItem(Llena(25), 1);
+  const lista<Llena> copia(filas);
+  EXPECT_EQ(filas.Item(1).clave, 25);
+  for (const int i : {-1, 3}) EXPECT_THROW(filas.Item(i), std::out_of_range);
+  EXPECT_EQ(filas.Item(1).clave, 25);
+  filas.RemoverTodos();
+  EXPECT_THROW(filas.Item(0), std::out_of_range);
+  EXPECT_EQ(copia.NumElementos(), 3);
+}
+
 TEST(Lista, SetItemReplacesInPlaceWhateverTheKey) {
   lista<Fila> filas = Lista({10, 20, 30});
   filas.setItem({5, 77}, 1);
