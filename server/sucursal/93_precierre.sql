@@ -6,8 +6,9 @@
 --   the loan since its oldest overdue one.
 --   Interest accrues daily on the balance, over the institution's days of the year. The part that accrued since the
 --   loan had `diastraspasoavencida` days of arrears belongs to the overdue portfolio ("mayor"), what went before to
---   the current one ("menor"). Late interest accrues on the overdue capital of each amortisation, parted in the same
---   way; what was paid of it since the arrears began is taken off the older part first.
+--   the current one ("menor"). Late interest accrues on the capital that is still overdue of each amortisation, from the
+--   day that it fell due, and is parted at the same day of the loan; what was paid of it since the arrears began is
+--   taken off the older part first.
 CREATE FUNCTION calcula_precorte(corte date) RETURNS SETOF precorte
 LANGUAGE sql STABLE SET search_path FROM CURRENT AS $$
   WITH mes AS (
@@ -42,12 +43,15 @@ LANGUAGE sql STABLE SET search_path FROM CURRENT AS $$
       FROM cartera c JOIN amortizacion a USING (prestamoid)
     WINDOW lo_anterior AS (PARTITION BY a.prestamoid ORDER BY a.numero)),
   atraso AS (
-    SELECT prestamoid, min(vence) FILTER (WHERE vencida) AS desde, count(*) FILTER (WHERE vencida) AS amortizaciones,
+    SELECT prestamoid, min(desde) AS desde, count(*) FILTER (WHERE vencida) AS amortizaciones,
            sum(capital) FILTER (WHERE vencida) AS capital,
-           sum(capital * least(corte - vence, diastraspasoavencida)) FILTER (WHERE vencida) AS mora_menor,
-           sum(capital * greatest(0, corte - vence - diastraspasoavencida)) FILTER (WHERE vencida) AS mora_mayor,
+           sum(capital * (least(corte, desde + diastraspasoavencida) - least(vence, desde + diastraspasoavencida)))
+             FILTER (WHERE vencida) AS mora_menor,
+           sum(capital * (corte - greatest(vence, least(corte, desde + diastraspasoavencida))))
+             FILTER (WHERE vencida) AS mora_mayor,
            max(vence) FILTER (WHERE capital + interes = 0) AS ultima_pagada
-      FROM (SELECT *, vence < corte AND capital + interes > 0 AS vencida FROM pendiente) AS p
+      FROM (SELECT *, min(vence) FILTER (WHERE vencida) OVER (PARTITION BY prestamoid) AS desde
+              FROM (SELECT *, vence < corte AND capital + interes > 0 AS vencida FROM pendiente) AS p) AS p
      GROUP BY prestamoid),
   devengado AS (
     SELECT c.*, coalesce(corte - a.desde, 0) AS dias, coalesce(a.amortizaciones, 0) AS amortizaciones,
@@ -56,13 +60,19 @@ LANGUAGE sql STABLE SET search_path FROM CURRENT AS $$
                 THEN greatest(0, round(c.tasanormal / mes.base
                                        * (c.montoprestamo * (corte - c.fecha_otorga) - c.capital_por_dias), 2)
                                  - c.interes_pagado) ELSE 0 END AS interes,
-           round(c.saldo * c.tasanormal / mes.base
-                 * greatest(0, coalesce(corte - a.desde, 0) - c.diastraspasoavencida), 2) AS interes_tras_traspaso,
+           round(c.tasanormal / mes.base
+                 * (c.saldo * greatest(0, coalesce(corte - a.desde, 0) - c.diastraspasoavencida)
+                    + coalesce(desde_atraso.capital_por_dias, 0)), 2) AS interes_tras_traspaso,
            round(coalesce(a.mora_menor, 0) * c.tasa_moratoria / mes.base, 2) AS mora_menor,
            round(coalesce(a.mora_mayor, 0) * c.tasa_moratoria / mes.base, 2) AS mora_mayor,
-           coalesce((SELECT sum(g.moratorio + g.bonificacionmoratorio) FROM pago g
-                      WHERE g.prestamoid = c.prestamoid AND g.fecha > a.desde AND g.fecha <= corte), 0) AS mora_pagada
-      FROM mes CROSS JOIN cartera c LEFT JOIN atraso a USING (prestamoid))
+           coalesce(desde_atraso.mora, 0) AS mora_pagada
+      FROM mes CROSS JOIN cartera c LEFT JOIN atraso a USING (prestamoid)
+      LEFT JOIN LATERAL (SELECT sum(g.moratorio + g.bonificacionmoratorio) AS mora,
+                                sum(g.capital * greatest(0, g.fecha - a.desde - c.diastraspasoavencida))
+                                  AS capital_por_dias
+                           FROM pago g
+                          WHERE g.prestamoid = c.prestamoid AND g.fecha > a.desde AND g.fecha <= corte)
+             AS desde_atraso ON true)
   SELECT extract(year FROM corte)::integer, extract(month FROM corte)::integer, d.prestamoid, corte, d.tipoprestamoid,
          d.clavefinalidad, d.montoprestamo, d.fecha_vencimiento, d.saldo, d.diastraspasoavencida, d.dias,
          d.amortizaciones::integer,

@@ -1,4 +1,4 @@
--- Twenty loans at one close, worked out by hand. Every date is told as days before the close (negative: after it).
+-- Twenty-one loans at one close, worked out by hand. Every date is told as days before the close (negative: after it).
 -- Unless its line says otherwise a loan bears 18 % a year and 36 % late, over 360 days: each 1,000.00 of balance earns
 -- 0.50 a day, and each 1,000.00 overdue 1.00 more. ORD passes to the overdue portfolio after 90 days, AGR after 30.
 BEGIN;
@@ -35,7 +35,9 @@ INSERT INTO prestamo VALUES
   (18, 'paga después del cierre', 'ORD', 6000, 45, '{{15,6000,90}}', '{{-2,6000,136,92,0,0}}'),
   (19, 'abonó a los intereses', 'AGR', 6000, 80, '{{50,3000,90},{-40,3000,135}}', '{{20,0,100,70,0,10}}'),
   (20, 'con centavos', 'ORD', 7777.77, 73, '{{43,2592.59,86.42},{13,2592.59,57.61},{-17,2592.59,28.81}}',
-   '{{40,2592.59,86.42,4.43,0,0}}');
+   '{{40,2592.59,86.42,4.43,0,0}}'),
+  (21, 'abonó capital después del traspaso', 'AGR', 9000, 100, '{{70,3000,135},{40,3000,90},{10,3000,45}}',
+   '{{20,2000,0,0,0,0}}');
 UPDATE prestamo SET tasa = 13.3333, mora = 20.5 WHERE numero = 20;
 
 -- The figures, by hand, and how they come about:
@@ -52,6 +54,8 @@ UPDATE prestamo SET tasa = 13.3333, mora = 20.5 WHERE numero = 20;
 --       after the transfer, less 80.00 off the older
 --   20  33 days of 7,777.77 x 13.3333 / 36000 = 2.880648 and 40 of 1.920432, 171.8787 in all, less 86.42; late 13 days of
 --       2,592.59 x 20.5 / 36000 = 1.476336; what was paid late ahead of these arrears is settled
+--   21  80 days of 4.50 and 20 of 3.50; after the transfer 20 of 4.50 and 20 of 3.50; late 70 days of 1.00, of which 30
+--       before the transfer, 40 of 3.00 and 10 of 3.00
 CREATE TEMPORARY TABLE esperado (
   numero integer, dias integer, vencidas bigint, saldo numeric, vencido_menor numeric, vencido_mayor numeric,
   interes_menor numeric, interes_mayor numeric, mora_menor numeric, mora_mayor numeric, porcentaje numeric,
@@ -76,7 +80,8 @@ INSERT INTO esperado VALUES
   (17,   0, 0,     0.00,       0,    0,   0.00,   0.00,    0.00,   0.00,   1,    0.00),
   (18,  15, 1,  6000.00,    6000,    0, 135.00,   0.00,   90.00,   0.00,  15,  900.00),
   (19,  50, 1,  6000.00,       0, 3000,  80.00,  60.00,   10.00,  60.00,  30, 1800.00),
-  (20,  13, 1,  5185.18, 2592.59,    0,  85.46,   0.00,   19.19,   0.00,  15,  777.78);
+  (20,  13, 1,  5185.18, 2592.59,    0,  85.46,   0.00,   19.19,   0.00,  15,  777.78),
+  (21,  70, 3,  7000.00,       0, 7000, 270.00, 160.00,   30.00, 190.00,  50, 3500.00);
 
 INSERT INTO norte.prestamos (referenciaprestamo, socioid, tipoprestamoid, clavefinalidad, montoprestamo, tasanormal,
                              tasa_moratoria, fecha_otorga, fecha_vencimiento, numero_de_amor, condicionid)
