@@ -104,4 +104,12 @@ BEGIN
     USING ERRCODE = 'foreign_key_violation';
 END $$;
 
+-- The institution's day and hour, in the time zone of the server as it was when this ran last, whatever zone a session
+-- may claim to be in.
+CREATE OR REPLACE FUNCTION hoy() RETURNS date
+LANGUAGE sql STABLE SET search_path FROM CURRENT SET timezone FROM CURRENT AS $$ SELECT current_date $$;
+
+CREATE OR REPLACE FUNCTION hora_local(momento timestamptz) RETURNS timestamp
+LANGUAGE sql STABLE SET search_path FROM CURRENT SET timezone FROM CURRENT AS $$ SELECT momento::timestamp $$;
+
 RESET ROLE;

@@ -35,13 +35,34 @@ SELECT is(como(usuario, 'norte', sentencia), esperado, usuario || ': ' || senten
     ('hilda', $$select * from precierre('31/02/2024');$$, 'La fecha "31/02/2024" no existe en el calendario'),
     ('hilda', $$select * from precierre('31/12/2999');$$, 'La fecha de cierre 31/12/2999 está en el futuro'),
     ('hilda', $$select * from precierre('31/12/1899');$$,
-     'Está fuera de rango el ejercicio: 1899 no está entre 1900 y 9999'),
+     'Está fuera de rango el ejercicio: 1899 no está entre 1901 y 2999'),
+    ('hilda', $$select * from precierre('01/01/1900');$$, 'Falta la fecha de cierre'),
+    ('hilda', $$select * from precierre('31/12/1900');$$,
+     'Está fuera de rango el ejercicio: 1900 no está entre 1901 y 2999'),
+    ('hilda', $$select * from precierre(NULL);$$, 'Falta la fecha de cierre'),
+    ('hilda', $$select * from precierre('   ');$$, 'Falta la fecha de cierre'),
+    ('hilda', $$select * from precierre('00/00/0000');$$, 'Falta la fecha de cierre'),
+    ('hilda', $$select * from precierre('mañana');$$, 'La fecha "mañana" no tiene la forma dd/mm/aaaa ni aaaa-mm-dd'),
+    ('hilda', $$select * from precierre('infinity');$$,
+     'La fecha "infinity" no tiene la forma dd/mm/aaaa ni aaaa-mm-dd'),
+    ('hilda', $$select * from precierre('15032024');$$,
+     'La fecha "15032024" no tiene la forma dd/mm/aaaa ni aaaa-mm-dd'),
+    ('hilda', $$select * from precierre('15/13/2024');$$, 'La fecha "15/13/2024" no existe en el calendario'),
     ('hilda', $$select count(*) from cierre$$, 'permission denied for table cierre'),
     ('hilda', $$select * from precierre('15/03/2024');$$, '1'),
     ('hilda', $$select * from precierre('31/03/2024');$$, 'El mes 03/2024 ya está cerrado'),
     ('hilda', $$select * from precierre('2024-03-15');$$, 'El mes 03/2024 ya está cerrado'),
     ('hilda', $$DELETE FROM precorte$$, 'permission denied for table precorte')
   ) AS paso (usuario, sentencia, esperado);
+
+SELECT is((SELECT string_agg(fechacierre::text, ' ') FROM norte.cierre), '2024-03-15', 'lo rechazado no escribe nada');
+SELECT matches(como('hilda', 'norte', format('select * from precierre(%L);', to_char(comun.hoy() + 1, 'DD/MM/YYYY'))),
+               'está en el futuro', 'ni el día de mañana se cierra');
+SET LOCAL timezone = '<+99>-99';
+SELECT ok(current_date > comun.hoy(), 'la sesión dice que ya es mañana');
+SELECT matches(como('hilda', 'norte', format('select * from precierre(%L);', to_char(comun.hoy() + 1, 'DD/MM/YYYY'))),
+               'está en el futuro', 'y no por eso se cierra');
+RESET timezone;
 
 -- By hand, at 15 March 2024, 74 days after the grant; a day of 12,000.00 at 18 % is 6.00.
 --   AL CORRIENTE  14 days of 10,000.00 since the last payment: 70.00; reserve of 1 %

@@ -86,7 +86,7 @@ RETURN (SELECT fechacobroiva FROM empresa WHERE empresaid = 1);
 -- Is this, 'dd/mm/yyyy' or 'yyyy-mm-dd', the server's date? 1 or 0.
 CREATE FUNCTION serverdate(dia text) RETURNS integer
 LANGUAGE sql STABLE SECURITY DEFINER SET search_path FROM CURRENT
-RETURN (fecha_obligatoria(dia, 'la fecha') = current_date)::integer;
+RETURN (fecha_obligatoria(dia, 'la fecha') = hoy())::integer;
 
 GRANT SELECT ON empresa TO :"grupo";
 GRANT EXECUTE ON FUNCTION fechacobroiva, serverdate TO :"grupo";

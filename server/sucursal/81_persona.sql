@@ -56,7 +56,7 @@ BEGIN
   fila.edad := numero(anios, 0, 150, 'la edad');
   fila.fechanacimiento := fecha_opcional(nacimiento);
   fila.razonsocial := rtrim(texto(razon, 60, 'la razón social'));
-  IF fila.fechanacimiento > current_date THEN
+  IF fila.fechanacimiento > hoy() THEN
     RAISE EXCEPTION 'La fecha de nacimiento % está en el futuro', to_char(fila.fechanacimiento, 'DD/MM/YYYY')
       USING ERRCODE = 'datetime_field_overflow';
   END IF;

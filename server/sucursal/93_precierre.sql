@@ -120,13 +120,13 @@ DECLARE
   corte date;
 BEGIN
   PERFORM exige_permiso('0910');
-  corte := fecha_obligatoria(dia, 'la fecha de cierre');
-  IF corte > current_date THEN
+  corte := fecha_dada(dia, 'la fecha de cierre');
+  IF corte > hoy() THEN
     RAISE EXCEPTION 'La fecha de cierre % está en el futuro', to_char(corte, 'DD/MM/YYYY')
       USING ERRCODE = 'datetime_field_overflow';
   END IF;
   INSERT INTO cierre (ejercicio, periodo, fechacierre)
-  VALUES (numero(extract(year FROM corte), 1900, 9999, 'el ejercicio'), extract(month FROM corte), corte)
+  VALUES (numero(extract(year FROM corte), 1901, 2999, 'el ejercicio'), extract(month FROM corte), corte)
   ON CONFLICT DO NOTHING;
   IF NOT FOUND THEN
     RAISE EXCEPTION 'El mes % ya está cerrado', to_char(corte, 'MM/YYYY') USING ERRCODE = 'unique_violation';
