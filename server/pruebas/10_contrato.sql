@@ -64,11 +64,11 @@ SELECT is_empty($$ SELECT relname FROM pg_class WHERE relnamespace = 'norte'::re
                       AND relowner <> 'tolvara_propietario'::regrole $$,
                 'todas las tablas de la sucursal son del propietario');
 SELECT is_empty($$ SELECT relname FROM pg_class c
-                    WHERE relnamespace = 'norte'::regnamespace AND relkind = 'r' AND relname <> 'bitacora'
+                    WHERE relnamespace = 'norte'::regnamespace AND relkind = 'r' AND relname !~ '^bitacora_'
                       AND NOT EXISTS (SELECT FROM pg_trigger t WHERE t.tgrelid = c.oid AND t.tgname = 'bitacora') $$,
                 'todas las tablas anotan sus cambios en la bitácora');
 SELECT is_empty($$ SELECT relname FROM pg_class c
-                    WHERE relnamespace = 'norte'::regnamespace AND relkind = 'r'
+                    WHERE relnamespace = 'norte'::regnamespace AND relkind IN ('r', 'p') AND relname !~ '^bitacora_'
                       AND obj_description(c.oid) !~ '^[^:]+: .+' IS NOT FALSE $$,
                 'el comentario de cada tabla empieza con su nombre en plural y dos puntos');
 SELECT is_empty($$ SELECT nombre FROM funcion WHERE has_function_privilege('public', oid, 'EXECUTE') $$,
