@@ -55,9 +55,11 @@ SELECT is_empty($$ SELECT nombre, argumentos FROM funcion f
                     WHERE has_function_privilege('sucursal_norte', f.oid, 'EXECUTE')
                    EXCEPT SELECT nombre, argumentos FROM contrato $$,
                 'ninguna otra función de la sucursal está al alcance de los usuarios');
-SELECT is_empty($$ SELECT nombre FROM funcion WHERE prosecdef
-                      AND proconfig IS DISTINCT FROM ARRAY['search_path=norte, comun, pg_temp'] $$,
-                'toda función con derechos del dueño tiene fija su ruta, con lo temporal al final');
+SELECT is_empty($$ SELECT nombre FROM funcion
+                    WHERE (prosecdef OR proconfig IS NOT NULL)
+                      AND NOT proconfig @> ARRAY['search_path=norte, comun, pg_temp', 'standard_conforming_strings=on',
+                                                 'DateStyle=ISO, DMY'] $$,
+                'toda función con derechos del dueño tiene fija su ruta, con lo temporal al final, y sus ajustes');
 SELECT is_empty($$ SELECT nombre FROM funcion WHERE proowner <> 'tolvara_propietario'::regrole $$,
                 'todas las funciones de la sucursal son del propietario');
 SELECT is_empty($$ SELECT relname FROM pg_class WHERE relnamespace = 'norte'::regnamespace

@@ -55,7 +55,7 @@ BEGIN
     PERFORM dblink_exec(sesion, sentencia);
   END IF;
   RETURN coalesce(respuesta, '');
-EXCEPTION WHEN OTHERS THEN
+EXCEPTION WHEN OTHERS OR query_canceled THEN
   RETURN SQLERRM;
 END $$;
 
@@ -82,7 +82,7 @@ BEGIN
   SELECT coalesce(valor, '') INTO respuesta FROM dblink_get_result(sesion) AS f (valor text);
   PERFORM * FROM dblink_get_result(sesion) AS f (valor text);
   RETURN coalesce(respuesta, '');
-EXCEPTION WHEN OTHERS THEN
+EXCEPTION WHEN OTHERS OR query_canceled THEN
   respuesta := SQLERRM;
   PERFORM * FROM dblink_get_result(sesion, false) AS f (valor text);
   RETURN respuesta;
