@@ -5,18 +5,45 @@
 --   tolvara_propietario  owns every object; the stored functions run with its rights; nobody logs in as it
 --   tolvara_altas        owns only the functions that make and retire logins (30_logins.sql), and is therefore the
 --                        only role that may create roles: a flaw elsewhere cannot reach that power
+--   tolvara_auditores    reads the log of every branch and nothing else
 SELECT format('CREATE ROLE %I NOLOGIN%s', papel, facultad)
-  FROM (VALUES ('tolvara_usuarios', ''), ('tolvara_propietario', ''), ('tolvara_altas', ' CREATEROLE'))
+  FROM (VALUES ('tolvara_usuarios', ''), ('tolvara_propietario', ''), ('tolvara_altas', ' CREATEROLE'), ('tolvara_auditores', ''))
        AS papeles (papel, facultad)
  WHERE NOT EXISTS (SELECT FROM pg_roles WHERE rolname = papel)
 \gexec
 
 SELECT current_database() AS base \gset
 REVOKE ALL ON DATABASE :"base" FROM PUBLIC;
-GRANT CONNECT ON DATABASE :"base" TO tolvara_usuarios;
+GRANT CONNECT ON DATABASE :"base" TO tolvara_usuarios, tolvara_auditores;
 REVOKE ALL ON SCHEMA public FROM PUBLIC;
+
+-- A retired login's sessions are ended, see 30_logins.sql.
+GRANT pg_signal_backend TO tolvara_altas;
+
+-- Nobody's business is in the other databases of the cluster.
+SELECT format('REVOKE ALL ON DATABASE %I FROM PUBLIC', datname) FROM pg_database WHERE datname IN ('postgres', 'template1')
+\gexec
+
+-- What anybody could fill the server's memory or disk with: locks that belong to no table, large objects, messages in
+-- the write-ahead log.
+SELECT format('REVOKE EXECUTE ON FUNCTION %s FROM PUBLIC', oid::regprocedure)
+  FROM pg_proc
+ WHERE pronamespace = 'pg_catalog'::regnamespace
+   AND (proname ~ '^pg_(try_)?advisory_' OR proname ~ '^lo_' OR proname IN ('loread', 'lowrite', 'pg_logical_emit_message'))
+   AND has_function_privilege('public', oid, 'EXECUTE')
+\gexec
+GRANT EXECUTE ON FUNCTION pg_advisory_xact_lock(bigint) TO tolvara_propietario;
+
+-- No statement reaches the server's log file, since one may hold a password; errors do, without it.
+ALTER DATABASE :"base" SET log_statement = 'none';
+ALTER DATABASE :"base" SET log_min_error_statement = 'panic';
+ALTER DATABASE :"base" SET log_min_duration_statement = -1;
+ALTER DATABASE :"base" SET log_min_duration_sample = -1;
 
 CREATE SCHEMA IF NOT EXISTS comun AUTHORIZATION tolvara_propietario;
 
 -- A function is for its owner until a line of its own file grants it.
 ALTER DEFAULT PRIVILEGES FOR ROLE tolvara_propietario REVOKE EXECUTE ON FUNCTIONS FROM PUBLIC;
+
+-- For the constraint on the periods of rates.
+CREATE EXTENSION IF NOT EXISTS btree_gist SCHEMA comun;

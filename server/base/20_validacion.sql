@@ -3,25 +3,39 @@
 SET LOCAL ROLE tolvara_propietario;
 SET LOCAL search_path TO comun, pg_temp;
 
--- An optional text of at most `ancho` characters, trailing blanks apart; NULL becomes ''.
-CREATE OR REPLACE FUNCTION texto(valor text, ancho integer, campo text) RETURNS text
-LANGUAGE plpgsql IMMUTABLE SET search_path FROM CURRENT AS $$
+-- An optional text of at most `ancho` characters, trailing blanks apart; NULL becomes ''. Only what can be seen and told
+-- apart gets in: Latin letters, figures and common signs, each of them one character. Control, combining and invisible
+-- characters, other blanks than the blank and the letters of other scripts would make two names that look the same, or
+-- a name that writes a line of its own into a report. A paragraph may have ends of line and tabs besides.
+CREATE OR REPLACE FUNCTION texto(valor text, ancho integer, campo text, en_parrafo boolean DEFAULT false) RETURNS text
+LANGUAGE plpgsql IMMUTABLE SET search_path FROM CURRENT SET standard_conforming_strings TO on AS $$
+DECLARE
+  extranio text;
 BEGIN
   IF char_length(rtrim(valor)) > ancho THEN
     RAISE EXCEPTION 'No cabe %: tiene % caracteres y admite %', campo, char_length(rtrim(valor)), ancho
       USING ERRCODE = 'string_data_right_truncation';
   END IF;
+  extranio := substring(rtrim(valor) FROM '[^\u0020-\u007e\u00a1-\u00ac\u00ae-\u024f\u02bc\u1e00-\u1eff\u2010-\u2027\u2030-\u205e\u20a0-\u20c0\u2122]');
+  IF en_parrafo AND extranio IN (E'\t', E'\n', E'\r') THEN
+    extranio := substring(rtrim(valor) FROM '[^\u0009\u000a\u000d\u0020-\u007e\u00a1-\u00ac\u00ae-\u024f\u02bc\u1e00-\u1eff\u2010-\u2027\u2030-\u205e\u20a0-\u20c0\u2122]');
+  END IF;
+  IF extranio IS NOT NULL THEN
+    RAISE EXCEPTION 'No se admite en % el carácter U+%: no se ve o se confunde con otro', campo,
+      lpad(upper(to_hex(ascii(extranio))), 4, '0') USING ERRCODE = 'untranslatable_character';
+  END IF;
   RETURN coalesce(valor, '');
 END $$;
 
 -- A text that must not be blank, otherwise as texto().
-CREATE OR REPLACE FUNCTION obligatorio(valor text, ancho integer, campo text) RETURNS text
+CREATE OR REPLACE FUNCTION obligatorio(valor text, ancho integer, campo text, en_parrafo boolean DEFAULT false)
+RETURNS text
 LANGUAGE plpgsql IMMUTABLE SET search_path FROM CURRENT AS $$
 BEGIN
-  IF coalesce(btrim(valor), '') = '' THEN
+  IF coalesce(btrim(valor, E' \t\r\n'), '') = '' THEN
     RAISE EXCEPTION 'Falta %', campo USING ERRCODE = 'not_null_violation';
   END IF;
-  RETURN texto(valor, ancho, campo);
+  RETURN texto(valor, ancho, campo, en_parrafo);
 END $$;
 
 -- A text that is NULL when blank, as references to another table are; otherwise as texto().
@@ -46,9 +60,9 @@ END $$;
 
 -- A date from 'dd/mm/yyyy' or 'yyyy-mm-dd', whatever the session's DateStyle; '', NULL and the zero date mean none.
 CREATE OR REPLACE FUNCTION fecha(valor text) RETURNS date
-LANGUAGE plpgsql IMMUTABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql IMMUTABLE SET search_path FROM CURRENT SET standard_conforming_strings TO on AS $$
 DECLARE
-  limpio text := coalesce(btrim(valor), '');
+  limpio text := coalesce(btrim(left(valor, 100)), '');
   parte text[];
 BEGIN
   IF limpio IN ('', '0000-00-00', '00/00/0000') THEN
@@ -76,32 +90,48 @@ BEGIN
   RETURN fecha(valor);
 END $$;
 
--- Refuses a deletion because of the rows that point at `fila` ("la moneda MX") of `tabla`, and tells how many of which
--- table. To be called by the handler of foreign_key_violation, which is where the deletion has already been undone.
--- Only single-column references exist. A table is named by its comment up to the colon ('tipos de promoción: ...').
-CREATE OR REPLACE FUNCTION rechaza_uso(tabla regclass, clave text, fila text) RETURNS void
+-- How many rows of which other table point at a row of `tabla`: '2 cuentas, 1 tipos de préstamo', or ''. Only
+-- single-column references exist. A table is named by its comment up to the colon ('tipos de promoción: ...').
+CREATE OR REPLACE FUNCTION usos(tabla regclass, clave text) RETURNS text
 LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
 DECLARE
   ajena record;
   filas bigint;
-  usos text[] := '{}';
+  hallados text[] := '{}';
 BEGIN
   FOR ajena IN
     SELECT c.conrelid::regclass AS tabla, string_agg(format('rtrim(%I::text)', a.attname), ', ') AS columnas,
            split_part(coalesce(obj_description(c.conrelid, 'pg_class'), c.conrelid::regclass::text), ':', 1) AS nombre
       FROM pg_constraint c JOIN pg_attribute a ON a.attrelid = c.conrelid AND a.attnum = c.conkey[1]
-     WHERE c.contype = 'f' AND c.confrelid = rechaza_uso.tabla AND c.confdeltype IN ('a', 'r')
+     WHERE c.contype = 'f' AND c.confrelid = usos.tabla AND c.confdeltype IN ('a', 'r')
      GROUP BY c.conrelid
      ORDER BY nombre
   LOOP
     EXECUTE format('SELECT count(*) FROM %s WHERE rtrim($1) IN (%s)', ajena.tabla, ajena.columnas)
        INTO filas USING clave;
     IF filas > 0 THEN
-      usos := usos || format('%s %s', filas, ajena.nombre);
+      hallados := hallados || format('%s %s', filas, ajena.nombre);
     END IF;
   END LOOP;
-  RAISE EXCEPTION 'No se puede borrar % porque se usa en: %', fila, array_to_string(usos, ', ')
+  RETURN array_to_string(hallados, ', ');
+END $$;
+
+-- Refuses a deletion because of the rows that point at `fila` ("la moneda MX") of `tabla`. To be called by the handler of
+-- foreign_key_violation, which is where the deletion has already been undone.
+CREATE OR REPLACE FUNCTION rechaza_uso(tabla regclass, clave text, fila text) RETURNS void
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
+BEGIN
+  RAISE EXCEPTION 'No se puede borrar % porque se usa en: %', fila,
+    coalesce(nullif(usos(tabla, clave), ''), 'algo que otro usuario acaba de guardar')
     USING ERRCODE = 'foreign_key_violation';
 END $$;
+
+-- The institution's day and hour, in the time zone of the server as it was when this ran last, whatever zone a session
+-- may claim to be in.
+CREATE OR REPLACE FUNCTION hoy() RETURNS date
+LANGUAGE sql STABLE SET search_path FROM CURRENT SET timezone FROM CURRENT AS $$ SELECT current_date $$;
+
+CREATE OR REPLACE FUNCTION hora_local(momento timestamptz) RETURNS timestamp
+LANGUAGE sql STABLE SET search_path FROM CURRENT SET timezone FROM CURRENT AS $$ SELECT momento::timestamp $$;
 
 RESET ROLE;

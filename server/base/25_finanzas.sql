@@ -39,13 +39,15 @@ BEGIN
   RETURN fecha_opcional(valor);
 END $$;
 
--- A key that must stand in a column of another table; NULL stays NULL.
+-- A key that must stand in a column of another table; NULL stays NULL. The row is held until the end of the
+-- transaction, so that nobody deletes it in between.
 CREATE OR REPLACE FUNCTION referencia(clave text, tabla regclass, columna name, campo text) RETURNS text
-LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 DECLARE
   existe boolean;
 BEGIN
-  EXECUTE format('SELECT EXISTS (SELECT FROM %s WHERE %I::text = rtrim($1))', tabla, columna) INTO existe USING clave;
+  EXECUTE format('SELECT EXISTS (SELECT FROM %s WHERE %I::text = rtrim($1) FOR KEY SHARE)', tabla, columna)
+     INTO existe USING clave;
   IF clave IS NOT NULL AND NOT existe THEN
     RAISE EXCEPTION 'No existe %: %', campo, rtrim(clave) USING ERRCODE = 'foreign_key_violation';
   END IF;

@@ -23,10 +23,59 @@ BEGIN
   exterior := xor_bytes(bloque, decode(repeat('5c', 64), 'hex'));
 END $$;
 
+-- How many wrong passwords of a login may be tried: five, and then none until a minute has passed without. Each attempt
+-- is counted ahead of its answer, and in a sequence, because what a sequence counts no cancelling and no rollback takes
+-- back. The value is the second of the last attempt, times eight, plus how many there have been.
+CREATE OR REPLACE FUNCTION prepara_intentos(login text) RETURNS void
+LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT SET client_min_messages = warning AS $$
+BEGIN
+  EXECUTE format('CREATE SEQUENCE IF NOT EXISTS comun.%I', 'intentos_' || login);
+END $$;
+
+-- Counts one, or refuses. The lock lasts no longer than the inner block, whose undoing releases it.
+CREATE OR REPLACE FUNCTION cuenta_intento(login text) RETURNS void
+LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
+DECLARE
+  contador text := format('comun.%I', 'intentos_' || login);
+  segundo bigint := extract(epoch FROM clock_timestamp());
+  ultimo bigint;
+  cuantos bigint;
+BEGIN
+  BEGIN
+    PERFORM pg_advisory_xact_lock(hashtextextended(contador, 0));
+    EXECUTE format('SELECT last_value FROM %s', contador) INTO ultimo;
+    cuantos := CASE WHEN segundo - ultimo / 8 >= 60 THEN 1 ELSE ultimo % 8 + 1 END;
+    IF cuantos <= 5 THEN
+      PERFORM setval(contador, segundo * 8 + cuantos);
+    END IF;
+    RAISE EXCEPTION SQLSTATE 'TV000';
+  EXCEPTION WHEN SQLSTATE 'TV000' THEN
+    NULL;
+  END;
+  IF cuantos > 5 THEN
+    RAISE EXCEPTION 'Demasiados intentos con la contraseña de %: espere un minuto', login
+      USING ERRCODE = 'invalid_password';
+  END IF;
+END $$;
+
+-- A right password was no attempt.
+CREATE OR REPLACE FUNCTION devuelve_intento(login text) RETURNS void
+LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
+DECLARE
+  contador text := format('comun.%I', 'intentos_' || login);
+BEGIN
+  EXECUTE format('SELECT setval(%L, last_value - 1) FROM %s WHERE last_value %% 8 > 0', contador, contador);
+END $$;
+
+ALTER FUNCTION prepara_intentos(text) OWNER TO tolvara_propietario;
+ALTER FUNCTION cuenta_intento(text) OWNER TO tolvara_propietario;
+ALTER FUNCTION devuelve_intento(text) OWNER TO tolvara_propietario;
+REVOKE ALL ON FUNCTION prepara_intentos, cuenta_intento, devuelve_intento FROM PUBLIC;
+
 -- Answers after a second when the password is wrong, expired or of a login that may not connect, so that guessing is no
 -- faster here than at the door.
 CREATE OR REPLACE FUNCTION clave_correcta(login text, clave text) RETURNS boolean
-LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT SET standard_conforming_strings TO on AS $$
 DECLARE
   partes text[];
   llaves record;
@@ -36,7 +85,8 @@ BEGIN
   SELECT regexp_match(rolpassword, '^SCRAM-SHA-256\$(\d+):([^$]+)\$([^:]+):') INTO partes
     FROM pg_authid
    WHERE rolname = login AND rolcanlogin AND coalesce(rolvaliduntil, 'infinity') > now();
-  IF partes IS NOT NULL AND clave <> '' THEN
+  -- A user can give himself a verifier of his own making: one that would keep the server computing is nobody's.
+  IF partes[1] = '4096' AND clave <> '' AND char_length(clave) <= 100 THEN
     SELECT * INTO llaves FROM llaves_hmac(convert_to(normalize(clave, NFKC), 'UTF8'));
     u := decode(partes[2], 'base64') || '\x00000001'::bytea;
     suma := repeat('0', 256)::bit(256);

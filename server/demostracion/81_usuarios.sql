@@ -17,6 +17,8 @@ SELECT alta_login(usuarioid, :'sucursal'), otorga_permisos_de_tipo(usuarioid)
  WHERE parametroid IS NULL
  ORDER BY usuarioid;
 
+SELECT ajusta_sesiones(usuarioid) FROM usuario;
+
 INSERT INTO parametro (usuarioid, serieuser, impresoracaja, impresorareporte, reporteslaser)
 SELECT usuarioid, upper(left(usuarioid, 2)), 'caja', 'reportes', 1 FROM usuario ORDER BY usuarioid
 ON CONFLICT DO NOTHING;

@@ -55,20 +55,22 @@ SELECT is_empty($$ SELECT nombre, argumentos FROM funcion f
                     WHERE has_function_privilege('sucursal_norte', f.oid, 'EXECUTE')
                    EXCEPT SELECT nombre, argumentos FROM contrato $$,
                 'ninguna otra función de la sucursal está al alcance de los usuarios');
-SELECT is_empty($$ SELECT nombre FROM funcion WHERE prosecdef
-                      AND proconfig IS DISTINCT FROM ARRAY['search_path=norte, comun, pg_temp'] $$,
-                'toda función con derechos del dueño tiene fija su ruta, con lo temporal al final');
+SELECT is_empty($$ SELECT nombre FROM funcion
+                    WHERE (prosecdef OR proconfig IS NOT NULL)
+                      AND NOT proconfig @> ARRAY['search_path=norte, comun, pg_temp', 'standard_conforming_strings=on',
+                                                 'DateStyle=ISO, DMY'] $$,
+                'toda función con derechos del dueño tiene fija su ruta, con lo temporal al final, y sus ajustes');
 SELECT is_empty($$ SELECT nombre FROM funcion WHERE proowner <> 'tolvara_propietario'::regrole $$,
                 'todas las funciones de la sucursal son del propietario');
 SELECT is_empty($$ SELECT relname FROM pg_class WHERE relnamespace = 'norte'::regnamespace
                       AND relowner <> 'tolvara_propietario'::regrole $$,
                 'todas las tablas de la sucursal son del propietario');
 SELECT is_empty($$ SELECT relname FROM pg_class c
-                    WHERE relnamespace = 'norte'::regnamespace AND relkind = 'r' AND relname <> 'bitacora'
+                    WHERE relnamespace = 'norte'::regnamespace AND relkind = 'r' AND relname !~ '^bitacora_'
                       AND NOT EXISTS (SELECT FROM pg_trigger t WHERE t.tgrelid = c.oid AND t.tgname = 'bitacora') $$,
                 'todas las tablas anotan sus cambios en la bitácora');
 SELECT is_empty($$ SELECT relname FROM pg_class c
-                    WHERE relnamespace = 'norte'::regnamespace AND relkind = 'r'
+                    WHERE relnamespace = 'norte'::regnamespace AND relkind IN ('r', 'p') AND relname !~ '^bitacora_'
                       AND obj_description(c.oid) !~ '^[^:]+: .+' IS NOT FALSE $$,
                 'el comentario de cada tabla empieza con su nombre en plural y dos puntos');
 SELECT is_empty($$ SELECT nombre FROM funcion WHERE has_function_privilege('public', oid, 'EXECUTE') $$,

@@ -107,7 +107,7 @@ SELECT is(como('adriana', 'norte', replace(sentencia, '{id}', :'id')), replace(e
          FROM spstasavariable(0)$$, 'true')
   ) AS paso (sentencia, esperado);
 SELECT is(como('camila', 'norte', 'delete from tasavariable where tasavariableid=1;'),
-          'No tiene permiso para la opción Tipos de socios y tasas de interés (módulo 0217)',
+          'permission denied for table tasavariable',
           'borrar directamente también pide permiso');
 SELECT is((SELECT usuario FROM norte.bitacora WHERE tabla = 'tasavariable' AND clave = :'id' AND operacion = 'DELETE'),
           'adriana'::name, 'y queda en la bitácora');

@@ -35,7 +35,19 @@ SELECT is(como(usuario, 'norte', sentencia), esperado, usuario || ': ' || senten
     ('hilda', $$select * from precierre('31/02/2024');$$, 'La fecha "31/02/2024" no existe en el calendario'),
     ('hilda', $$select * from precierre('31/12/2999');$$, 'La fecha de cierre 31/12/2999 está en el futuro'),
     ('hilda', $$select * from precierre('31/12/1899');$$,
-     'Está fuera de rango el ejercicio: 1899 no está entre 1900 y 9999'),
+     'Está fuera de rango el ejercicio: 1899 no está entre 1901 y 2999'),
+    ('hilda', $$select * from precierre('01/01/1900');$$, 'Falta la fecha de cierre'),
+    ('hilda', $$select * from precierre('31/12/1900');$$,
+     'Está fuera de rango el ejercicio: 1900 no está entre 1901 y 2999'),
+    ('hilda', $$select * from precierre(NULL);$$, 'Falta la fecha de cierre'),
+    ('hilda', $$select * from precierre('   ');$$, 'Falta la fecha de cierre'),
+    ('hilda', $$select * from precierre('00/00/0000');$$, 'Falta la fecha de cierre'),
+    ('hilda', $$select * from precierre('mañana');$$, 'La fecha "mañana" no tiene la forma dd/mm/aaaa ni aaaa-mm-dd'),
+    ('hilda', $$select * from precierre('infinity');$$,
+     'La fecha "infinity" no tiene la forma dd/mm/aaaa ni aaaa-mm-dd'),
+    ('hilda', $$select * from precierre('15032024');$$,
+     'La fecha "15032024" no tiene la forma dd/mm/aaaa ni aaaa-mm-dd'),
+    ('hilda', $$select * from precierre('15/13/2024');$$, 'La fecha "15/13/2024" no existe en el calendario'),
     ('hilda', $$select count(*) from cierre$$, 'permission denied for table cierre'),
     ('hilda', $$select * from precierre('15/03/2024');$$, '1'),
     ('hilda', $$select * from precierre('31/03/2024');$$, 'El mes 03/2024 ya está cerrado'),
@@ -43,11 +55,20 @@ SELECT is(como(usuario, 'norte', sentencia), esperado, usuario || ': ' || senten
     ('hilda', $$DELETE FROM precorte$$, 'permission denied for table precorte')
   ) AS paso (usuario, sentencia, esperado);
 
+SELECT is((SELECT string_agg(fechacierre::text, ' ') FROM norte.cierre), '2024-03-15', 'lo rechazado no escribe nada');
+SELECT matches(como('hilda', 'norte', format('select * from precierre(%L);', to_char(comun.hoy() + 1, 'DD/MM/YYYY'))),
+               'está en el futuro', 'ni el día de mañana se cierra');
+SET LOCAL timezone = '<+99>-99';
+SELECT ok(current_date > comun.hoy(), 'la sesión dice que ya es mañana');
+SELECT matches(como('hilda', 'norte', format('select * from precierre(%L);', to_char(comun.hoy() + 1, 'DD/MM/YYYY'))),
+               'está en el futuro', 'y no por eso se cierra');
+RESET timezone;
+
 -- By hand, at 15 March 2024, 74 days after the grant; a day of 12,000.00 at 18 % is 6.00.
 --   AL CORRIENTE  14 days of 10,000.00 since the last payment: 70.00; reserve of 1 %
 --   ATRASADO      two overdue, 44 and 14 days: interest 74 x 6.00 = 444.00; late (44 + 14) x 0.75 = 43.50; 30 %
 --   VENCIDO       the same, parted at 30 days: the last 14 days' interest is 84.00, the rest 360.00;
---                 late 30 + 14 days of 0.75 = 33.00 before, 14 days of 0.75 = 10.50 after
+--                 late 30 days of 0.75 = 22.50 before, 14 + 14 days of 0.75 = 21.00 after
 --   PARCIAL       600.00 of the first pending; interest 40 x 6.00 + 34 x 5.80 = 437.20, less 120.00 paid or forgiven;
 --                 late 44 x 0.45 + 14 x 0.75 = 30.30, less 6.00; 30 % of 11,600.00
 --   LIQUIDADO     nothing is left; it is there because it was paid in the month
@@ -59,7 +80,7 @@ SELECT results_eq(
       WHERE ejercicio = 2024 AND periodo = 3 AND fecha_otorga = '2024-01-01' ORDER BY prestamoid $$,
   $$ VALUES ('AL CORRIENTE', 0, 0, 10000.00, 0.00, 0.00, 70.00, 0.00, 0.00, 0.00, 1.0000, 0.010000, 100.00),
             ('ATRASADO', 44, 2, 12000, 2000, 0, 444, 0, 43.5, 0, 30, 0.3, 3600),
-            ('VENCIDO', 44, 2, 12000, 0, 2000, 360, 84, 33, 10.5, 30, 0.3, 3600),
+            ('VENCIDO', 44, 2, 12000, 0, 2000, 360, 84, 22.5, 21, 30, 0.3, 3600),
             ('PARCIAL', 44, 2, 11600, 1600, 0, 317.2, 0, 24.3, 0, 30, 0.3, 3480),
             ('LIQUIDADO EN MES', 0, 0, 0, 0, 0, 0, 0, 0, 0, 1, 0.01, 0) $$,
   'el precierre calcula lo que se calculó a mano');

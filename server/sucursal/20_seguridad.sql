@@ -59,10 +59,15 @@ CREATE TRIGGER bitacora AFTER INSERT OR UPDATE OR DELETE ON permisomodulo
   FOR EACH ROW EXECUTE FUNCTION anota_bitacora('usuarioid', 'clavemodulo');
 
 -- The test at the head of every function that writes. Refuses unless the person who is connected, whoever's rights
--- the function runs with, has the module.
+-- the function runs with, has the module at this moment: a transaction that goes on seeing how things stood when it
+-- began is refused.
 CREATE FUNCTION exige_permiso(modulo_pedido text) RETURNS void
-LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 BEGIN
+  IF current_setting('transaction_isolation') NOT IN ('read committed', 'read uncommitted') THEN
+    RAISE EXCEPTION 'No se puede trabajar en una transacción "%": ábrala "read committed"',
+      current_setting('transaction_isolation') USING ERRCODE = 'active_sql_transaction';
+  END IF;
   IF NOT EXISTS (SELECT FROM permisomodulo p
                   WHERE p.usuarioid = session_user::text AND p.clavemodulo = modulo_pedido::bpchar
                     AND p.permiso <> 'N') THEN
@@ -71,6 +76,56 @@ BEGIN
       USING ERRCODE = 'insufficient_privilege';
   END IF;
 END $$;
+
+-- Waits until no other transaction is at the same matter, and keeps it to the end of this one: for what is looked at
+-- first and written afterwards.
+CREATE FUNCTION por_turno(asunto text) RETURNS void
+LANGUAGE sql SET search_path FROM CURRENT AS $$
+  SELECT pg_advisory_xact_lock(hashtextextended(current_schema() || '.' || asunto, 0))
+$$;
+
+-- The client writes three tables with statements of its own. The right to do so is granted by the row of permission, and
+-- to nobody else: whoever could write a table could also lock it. A login that is still to be made gets it by then.
+CREATE FUNCTION ajusta_escritura(login text, modulo_dado text) RETURNS void
+LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
+DECLARE
+  otorga CONSTANT boolean := EXISTS (SELECT FROM permisomodulo p
+                                      WHERE p.usuarioid = login AND p.clavemodulo = modulo_dado::bpchar
+                                        AND p.permiso <> 'N');
+  derecho record;
+BEGIN
+  IF to_regrole(quote_ident(login)) IS NOT NULL THEN
+    PERFORM FROM modulo WHERE clavemodulo = modulo_dado::bpchar FOR NO KEY UPDATE;  -- one at a time changes a grant
+    FOR derecho IN
+      SELECT * FROM (VALUES
+        ('0448', 'INSERT, UPDATE, DELETE', 'inabil'),
+        ('0217', 'DELETE', 'tasavariable'),
+        ('0208', 'UPDATE (cuentaintnormalresvigente, cuentaordenavalacredor, cuentagarantiadeudor, '
+                 'cuentagarantiaacredor, cuentaprovisioniva, montomaximo, plazomaximo, montominimo, avalesminimos, '
+                 'periododiasdefault, estatus, comision, ivacomision, cuentacomision, cuentaivacomision, '
+                 'nivelautorizacion, reciprocidad, prestamogrupal, clasificacioncontable)', 'tipoprestamo'))
+             AS d (modulo, que, tabla)
+       WHERE d.modulo = modulo_dado
+    LOOP
+      EXECUTE format(CASE WHEN otorga THEN 'GRANT %s ON %I TO %I' ELSE 'REVOKE %s ON %I FROM %I' END, derecho.que,
+                     derecho.tabla, login);
+    END LOOP;
+  END IF;
+END $$;
+
+CREATE FUNCTION ajusta_escritura_por_permiso() RETURNS trigger
+LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
+BEGIN
+  IF TG_OP <> 'INSERT' THEN
+    PERFORM ajusta_escritura(OLD.usuarioid, rtrim(OLD.clavemodulo));
+  END IF;
+  IF TG_OP <> 'DELETE' THEN
+    PERFORM ajusta_escritura(NEW.usuarioid, rtrim(NEW.clavemodulo));
+  END IF;
+  RETURN NULL;
+END $$;
+CREATE TRIGGER escritura AFTER INSERT OR UPDATE OR DELETE ON permisomodulo
+  FOR EACH ROW EXECUTE FUNCTION ajusta_escritura_por_permiso();
 
 -- Gives a new user one row per module: granted what his type has, denied the rest.
 CREATE FUNCTION otorga_permisos_de_tipo(login text) RETURNS void
@@ -92,11 +147,11 @@ BEGIN
 END $$;
 
 CREATE FUNCTION exige_usuario_y_modulo(login text, modulo_pedido text) RETURNS void
-LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 BEGIN
-  IF NOT EXISTS (SELECT FROM usuario WHERE usuarioid = login) THEN
+  IF NOT EXISTS (SELECT FROM usuario WHERE usuarioid = login FOR KEY SHARE) THEN
     RAISE EXCEPTION 'El usuario % no existe', login USING ERRCODE = 'foreign_key_violation';
-  ELSIF NOT EXISTS (SELECT FROM modulo WHERE clavemodulo = modulo_pedido::bpchar) THEN
+  ELSIF NOT EXISTS (SELECT FROM modulo WHERE clavemodulo = modulo_pedido::bpchar FOR KEY SHARE) THEN
     RAISE EXCEPTION 'El módulo % no existe', modulo_pedido USING ERRCODE = 'foreign_key_violation';
   END IF;
 END $$;
@@ -189,6 +244,9 @@ BEGIN
     RAISE EXCEPTION 'El usuario % no existe', left(login, 30) USING ERRCODE = 'no_data_found';
   END IF;
   PERFORM alta_login(rtrim(login), current_schema());
+  PERFORM ajusta_escritura(rtrim(login), clavemodulo) FROM unnest(ARRAY['0208', '0217', '0448']) AS clavemodulo;
+  PERFORM ajusta_sesiones(rtrim(login));
+  PERFORM anota_suceso('ALTA', 'usuario', rtrim(login));
   RETURN 1;
 END $$;
 

@@ -79,6 +79,32 @@ COMMENT ON COLUMN empresa.fechacobroiva IS 'día desde el que los intereses caus
 CREATE TRIGGER bitacora AFTER INSERT OR UPDATE OR DELETE ON empresa
   FOR EACH ROW EXECUTE FUNCTION anota_bitacora('empresaid');
 
+-- A login may have as many sessions as the branch that allows most of them, and some more, so that it is the client that
+-- tells the user and not the server.
+CREATE FUNCTION ajusta_sesiones(login text) RETURNS void
+LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
+DECLARE
+  sucursal name;
+  permitidas integer;
+  maximo integer := 0;
+BEGIN
+  FOR sucursal IN SELECT sucursales() LOOP
+    EXECUTE format('SELECT max(nconcurrencias) FROM %I.empresa, %I.usuario WHERE usuarioid = $1', sucursal, sucursal)
+       INTO permitidas USING login;
+    maximo := greatest(maximo, permitidas);
+  END LOOP;
+  PERFORM limita_sesiones(login, least(maximo, 1000) + 4);
+END $$;
+
+CREATE FUNCTION ajusta_sesiones_de_todos() RETURNS trigger
+LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
+BEGIN
+  PERFORM ajusta_sesiones(usuarioid) FROM usuario;
+  RETURN NULL;
+END $$;
+CREATE TRIGGER sesiones AFTER UPDATE OF nconcurrencias ON empresa
+  FOR EACH ROW WHEN (OLD.nconcurrencias <> NEW.nconcurrencias) EXECUTE FUNCTION ajusta_sesiones_de_todos();
+
 CREATE FUNCTION fechacobroiva() RETURNS date
 LANGUAGE sql STABLE
 RETURN (SELECT fechacobroiva FROM empresa WHERE empresaid = 1);
@@ -86,7 +112,7 @@ RETURN (SELECT fechacobroiva FROM empresa WHERE empresaid = 1);
 -- Is this, 'dd/mm/yyyy' or 'yyyy-mm-dd', the server's date? 1 or 0.
 CREATE FUNCTION serverdate(dia text) RETURNS integer
 LANGUAGE sql STABLE SECURITY DEFINER SET search_path FROM CURRENT
-RETURN (fecha_obligatoria(dia, 'la fecha') = current_date)::integer;
+RETURN (fecha_obligatoria(dia, 'la fecha') = hoy())::integer;
 
 GRANT SELECT ON empresa TO :"grupo";
 GRANT EXECUTE ON FUNCTION fechacobroiva, serverdate TO :"grupo";

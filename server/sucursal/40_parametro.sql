@@ -20,7 +20,7 @@ CREATE TRIGGER bitacora AFTER INSERT OR UPDATE OR DELETE ON parametro
 -- The row's values as they will be stored, or a refusal; shared by insert and update.
 CREATE FUNCTION parametro_valido(login text, serie text, cuenta text, caja text, reporte text, laser integer,
                                  socio text) RETURNS parametro
-LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 DECLARE
   fila parametro;
 BEGIN
@@ -31,7 +31,7 @@ BEGIN
   fila.impresorareporte := texto(reporte, 50, 'la impresora de reportes');
   fila.reporteslaser := numero(laser, 0, 1, 'la marca de reportes láser');
   fila.clavesocioint := texto(socio, 15, 'la clave de socio');
-  IF NOT EXISTS (SELECT FROM usuario u WHERE u.usuarioid = fila.usuarioid) THEN
+  IF NOT EXISTS (SELECT FROM usuario u WHERE u.usuarioid = fila.usuarioid FOR KEY SHARE) THEN
     RAISE EXCEPTION 'El usuario % no existe', fila.usuarioid USING ERRCODE = 'foreign_key_violation';
   ELSIF EXISTS (SELECT FROM parametro p
                  WHERE p.serieuser = fila.serieuser AND p.serieuser <> '' AND p.usuarioid <> fila.usuarioid) THEN
@@ -60,6 +60,7 @@ DECLARE
   fila parametro;
 BEGIN
   PERFORM exige_permiso('0206');
+  PERFORM por_turno('parametro');
   fila := parametro_valido(login, serie, cuenta, caja, reporte, laser, socio);
   INSERT INTO parametro (usuarioid, serieuser, cuentacaja, impresoracaja, impresorareporte, reporteslaser,
                          clavesocioint)
@@ -79,6 +80,7 @@ DECLARE
   fila parametro;
 BEGIN
   PERFORM exige_permiso('0206');
+  PERFORM por_turno('parametro');
   fila := parametro_valido(login, serie, cuenta, caja, reporte, laser, socio);
   UPDATE parametro
      SET serieuser = fila.serieuser, cuentacaja = fila.cuentacaja, impresoracaja = fila.impresoracaja,

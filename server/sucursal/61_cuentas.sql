@@ -28,12 +28,13 @@ CREATE TRIGGER bitacora AFTER INSERT OR UPDATE OR DELETE ON catalogo_ctas
   FOR EACH ROW EXECUTE FUNCTION anota_bitacora('cuentaid');
 
 -- What other catalogues do with an account that they are given, `campo` being its name with the article. Blank is none
--- (NULL), unless it is required.
+-- (NULL), unless it is required. The account is held as it is until the end of the transaction: an afectable one cannot
+-- stop being so, nor any be deleted, by somebody else in between.
 CREATE FUNCTION cuenta_existente(cuenta text, campo text) RETURNS text
-LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 BEGIN
   IF btrim(cuenta) <> ''
-     AND NOT EXISTS (SELECT FROM catalogo_ctas WHERE cuentaid = texto(cuenta, 24, campo)::bpchar) THEN
+     AND NOT EXISTS (SELECT FROM catalogo_ctas WHERE cuentaid = texto(cuenta, 24, campo)::bpchar FOR KEY SHARE) THEN
     RAISE EXCEPTION 'No existe %: % no está en el catálogo de cuentas', campo, rtrim(cuenta)
       USING ERRCODE = 'foreign_key_violation';
   END IF;
@@ -41,9 +42,13 @@ BEGIN
 END $$;
 
 CREATE FUNCTION cuenta_afectable(cuenta text, campo text) RETURNS text
-LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
+DECLARE
+  hallada text := cuenta_existente(cuenta, campo);
+  tipo text;
 BEGIN
-  IF (SELECT tipo_cta FROM catalogo_ctas WHERE cuentaid = cuenta_existente(cuenta, campo)::bpchar) <> 'A' THEN
+  SELECT tipo_cta INTO tipo FROM catalogo_ctas WHERE cuentaid = hallada::bpchar FOR SHARE;
+  IF tipo <> 'A' THEN
     RAISE EXCEPTION 'No es afectable %: % acumula a otras cuentas', campo, rtrim(cuenta)
       USING ERRCODE = 'check_violation';
   END IF;
@@ -51,14 +56,14 @@ BEGIN
 END $$;
 
 CREATE FUNCTION cuenta_requerida(cuenta text, campo text) RETURNS text
-LANGUAGE sql STABLE SET search_path FROM CURRENT
+LANGUAGE sql SET search_path FROM CURRENT
 RETURN cuenta_afectable(obligatorio(cuenta, 24, campo), campo);
 
 -- The row's values as they will be stored, or a refusal; shared by insert and update.
 CREATE FUNCTION cuenta_valida(cuenta text, acumula text, rubro text, nombre text, tipo text, estado text,
                               fecha_del_estado text, ultimo_movimiento text, naturaleza text, digito numeric,
                               saldo numeric, cargos numeric, abonos numeric) RETURNS catalogo_ctas
-LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 DECLARE
   fila catalogo_ctas;
   maximo CONSTANT numeric := 9999999999999999.99;
@@ -93,7 +98,7 @@ END $$;
 
 -- Refuses an account that would accumulate, through those above it, in itself.
 CREATE FUNCTION exige_sin_ciclo(cuenta character, acumula character) RETURNS void
-LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 BEGIN
   IF EXISTS (WITH RECURSIVE arriba AS (
                SELECT acumula AS id
@@ -126,6 +131,7 @@ DECLARE
   fila catalogo_ctas;
 BEGIN
   PERFORM exige_permiso('0901');
+  PERFORM por_turno('catalogo_ctas');
   fila := cuenta_valida(cuenta, acumula, rubro, nombre, tipo, estado, fecha_del_estado, ultimo_movimiento, naturaleza,
                         digito, saldo, cargos, abonos);
   INSERT INTO catalogo_ctas SELECT fila.* ON CONFLICT DO NOTHING;
@@ -140,11 +146,17 @@ CREATE FUNCTION spucatalogo_ctas(cuenta text, acumula text, rubro text, nombre t
 LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
 DECLARE
   fila catalogo_ctas;
+  tipo_anterior text;
 BEGIN
   PERFORM exige_permiso('0901');
+  PERFORM por_turno('catalogo_ctas');
   fila := cuenta_valida(cuenta, acumula, rubro, nombre, tipo, estado, fecha_del_estado, ultimo_movimiento, naturaleza,
                         digito, saldo, cargos, abonos);
-  IF fila.tipo_cta = 'A' AND EXISTS (SELECT FROM catalogo_ctas WHERE cuentaacumula = fila.cuentaid) THEN
+  SELECT tipo_cta INTO tipo_anterior FROM catalogo_ctas WHERE cuentaid = fila.cuentaid FOR NO KEY UPDATE;
+  IF tipo_anterior = 'A' AND fila.tipo_cta = 'C' AND usos('catalogo_ctas', cuenta) <> '' THEN
+    RAISE EXCEPTION 'La cuenta % no puede dejar de ser afectable porque se usa en: %', rtrim(cuenta),
+      usos('catalogo_ctas', cuenta) USING ERRCODE = 'check_violation';
+  ELSIF fila.tipo_cta = 'A' AND EXISTS (SELECT FROM catalogo_ctas WHERE cuentaacumula = fila.cuentaid) THEN
     RAISE EXCEPTION 'La cuenta % no puede ser afectable: otras acumulan en ella', rtrim(cuenta)
       USING ERRCODE = 'check_violation';
   END IF;

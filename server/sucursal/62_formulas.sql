@@ -15,11 +15,11 @@ CREATE TRIGGER bitacora AFTER INSERT OR UPDATE OR DELETE ON calculo
 
 -- What other catalogues do with the number of a formula that they are given; `campo` is its name with the article.
 CREATE FUNCTION formula_existente(id bigint, campo text) RETURNS bigint
-LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 BEGIN
   IF coalesce(id, 0) = 0 THEN
     RAISE EXCEPTION 'Falta %', campo USING ERRCODE = 'not_null_violation';
-  ELSIF NOT EXISTS (SELECT FROM calculo WHERE calculoid = id) THEN
+  ELSIF NOT EXISTS (SELECT FROM calculo WHERE calculoid = id FOR KEY SHARE) THEN
     RAISE EXCEPTION 'No existe %: número %', campo, id USING ERRCODE = 'foreign_key_violation';
   END IF;
   RETURN id;

@@ -38,7 +38,7 @@ CREATE FUNCTION tipomovimiento_valido(
   isr text, poliza text, acepta_deposito text, acepta_retiro text, tasa numeric, orden_acredor text,
   orden_deudor text, maneja_orden text, provision_isr text, cuota numeric, por_comision numeric,
   por_iva_comision numeric, cuenta_comision text, cuenta_iva_comision text, desglosa integer) RETURNS tipomovimiento
-LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 DECLARE
   fila tipomovimiento;
 BEGIN

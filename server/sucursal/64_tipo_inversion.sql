@@ -35,7 +35,7 @@ CREATE FUNCTION tipoinversion_valido(
   iva text, descri text, tasa numeric, plazo_min integer, aplica_iva text, aplica_isr integer, reinvierte integer,
   movimiento text, provision_isr text, clasificacion integer, monto_max numeric, monto_min numeric,
   plazo_max integer) RETURNS tipoinversion
-LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 DECLARE
   fila tipoinversion;
 BEGIN

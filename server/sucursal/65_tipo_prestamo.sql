@@ -84,7 +84,7 @@ CREATE FUNCTION tipoprestamo_valido(
   orden_deudor_bonificado text, orden_acredor_bonificado text, fondo_recuperacion text, gastos_adm text,
   int_normal_res_vencida text, orden_interes_acreedor text, formula_normal bigint, formula_mora bigint,
   finalidad text) RETURNS tipoprestamo
-LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 DECLARE
   fila tipoprestamo;
 BEGIN
@@ -289,9 +289,6 @@ EXCEPTION WHEN foreign_key_violation THEN
   PERFORM rechaza_uso('tipoprestamo', clave, 'el tipo de préstamo ' || rtrim(clave));
 END $$;
 
--- The columns of the client's direct update and no others.
-GRANT SELECT, UPDATE (cuentaintnormalresvigente, cuentaordenavalacredor, cuentagarantiadeudor, cuentagarantiaacredor,
-                      cuentaprovisioniva, montomaximo, plazomaximo, montominimo, avalesminimos, periododiasdefault,
-                      estatus, comision, ivacomision, cuentacomision, cuentaivacomision, nivelautorizacion,
-                      reciprocidad, prestamogrupal, clasificacioncontable) ON tipoprestamo TO :"grupo";
+-- The client's direct update is granted with the module, see ajusta_escritura().
+GRANT SELECT ON tipoprestamo TO :"grupo";
 GRANT EXECUTE ON FUNCTION spstipoprestamo, spitipoprestamo, sputipoprestamo, spdtipoprestamo TO :"grupo";

@@ -7,6 +7,7 @@ COMMENT ON TABLE inabil IS 'días inhábiles: en los que la institución no abre
 CREATE FUNCTION valida_inabil() RETURNS trigger
 LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
 BEGIN
+  PERFORM por_turno('inabil');
   IF NEW.fecha IS NULL OR extract(year FROM NEW.fecha) = 1900 THEN
     RAISE EXCEPTION 'Falta la fecha' USING ERRCODE = 'not_null_violation';
   ELSIF NOT isfinite(NEW.fecha) OR extract(year FROM NEW.fecha) NOT BETWEEN 1901 AND 2999 THEN
@@ -24,4 +25,4 @@ CREATE TRIGGER permiso BEFORE INSERT OR UPDATE OR DELETE ON inabil
   FOR EACH STATEMENT WHEN (current_user <> 'tolvara_propietario') EXECUTE FUNCTION exige_permiso_directo('0448');
 CREATE TRIGGER valida BEFORE INSERT OR UPDATE ON inabil FOR EACH ROW EXECUTE FUNCTION valida_inabil();
 
-GRANT SELECT, INSERT, UPDATE, DELETE ON inabil TO :"grupo";
+GRANT SELECT ON inabil TO :"grupo";

@@ -20,7 +20,7 @@ CREATE TRIGGER bitacora AFTER INSERT OR UPDATE OR DELETE ON banco
 -- The row's values as they will be stored, or a refusal; shared by insert and update.
 CREATE FUNCTION banco_valido(cuenta text, nombre text, inicio text, inicial numeric, actual numeric, pendiente numeric,
                              contable text, serie_cheques text, cheque bigint) RETURNS banco
-LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 DECLARE
   fila banco;
   maximo CONSTANT numeric := 999999999999.99;

@@ -18,7 +18,7 @@ CREATE TRIGGER bitacora AFTER INSERT OR UPDATE OR DELETE ON tipopromocion
 -- The row's values as they will be stored, or a refusal; shared by insert and update.
 CREATE FUNCTION tipopromocion_valido(id integer, movimiento text, inicial text, final text, condiciones text,
                                      estado integer, descri text) RETURNS tipopromocion
-LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 DECLARE
   fila tipopromocion;
 BEGIN
@@ -27,7 +27,7 @@ BEGIN
                                       'tipomovimientoid', 'el tipo de movimiento');
   fila.fechainicial := fecha_dada(inicial, 'la fecha de inicio');
   fila.fechafinal := fecha_final(final, fila.fechainicial);
-  fila.condicion := obligatorio(condiciones, 83, 'la condición');
+  fila.condicion := obligatorio(condiciones, 83, 'la condición', true);
   fila.estatus := numero(estado, 0, 2, 'el estatus');
   fila.descripcion := obligatorio(descri, 30, 'la descripción');
   RETURN fila;

@@ -126,7 +126,7 @@ DECLARE
   id integer;
 BEGIN
   PERFORM exige_permiso('0214');
-  PERFORM exige_existe(EXISTS (SELECT FROM estadosmex WHERE estadomexid = estado), format('El estado %s', estado));
+  PERFORM exige_existe(EXISTS (SELECT FROM estadosmex WHERE estadomexid = estado FOR KEY SHARE), format('El estado %s', estado));
   INSERT INTO ciudadesmex (estadomexid, claveciudadmex, nombreciudadmex)
   VALUES (estado, obligatorio(clave, 4, 'la clave'), rtrim(obligatorio(nombre, 50, 'el nombre')))
   ON CONFLICT (estadomexid, claveciudadmex) DO NOTHING RETURNING ciudadmexid INTO id;
@@ -141,7 +141,7 @@ CREATE FUNCTION spuciudadmex(clave text, nombre text, estado integer, id integer
 LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
 BEGIN
   PERFORM exige_permiso('0214');
-  PERFORM exige_existe(EXISTS (SELECT FROM estadosmex WHERE estadomexid = estado), format('El estado %s', estado));
+  PERFORM exige_existe(EXISTS (SELECT FROM estadosmex WHERE estadomexid = estado FOR KEY SHARE), format('El estado %s', estado));
   UPDATE ciudadesmex
      SET claveciudadmex = obligatorio(clave, 4, 'la clave'),
          nombreciudadmex = rtrim(obligatorio(nombre, 50, 'el nombre')), estadomexid = estado
@@ -206,8 +206,8 @@ DECLARE
   id bigint;
 BEGIN
   PERFORM exige_permiso('0906');
-  PERFORM exige_existe(EXISTS (SELECT FROM ciudadesmex WHERE ciudadmexid = ciudad), format('El municipio %s', ciudad));
-  PERFORM exige_existe(EXISTS (SELECT FROM tipoasentamiento WHERE tipoasentamientoid = tipo),
+  PERFORM exige_existe(EXISTS (SELECT FROM ciudadesmex WHERE ciudadmexid = ciudad FOR KEY SHARE), format('El municipio %s', ciudad));
+  PERFORM exige_existe(EXISTS (SELECT FROM tipoasentamiento WHERE tipoasentamientoid = tipo FOR KEY SHARE),
                        format('El tipo de asentamiento %s', tipo));
   INSERT INTO colonias (ciudadmexid, nombrecolonia, cp, tipoasentamientoid)
   VALUES (ciudad, rtrim(obligatorio(nombre, 100, 'el nombre')), numero(codigo, 1, 99999, 'el código postal'), tipo)
@@ -223,8 +223,8 @@ CREATE FUNCTION spucolonia(id bigint, ciudad integer, nombre text, codigo bigint
 LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
 BEGIN
   PERFORM exige_permiso('0906');
-  PERFORM exige_existe(EXISTS (SELECT FROM ciudadesmex WHERE ciudadmexid = ciudad), format('El municipio %s', ciudad));
-  PERFORM exige_existe(EXISTS (SELECT FROM tipoasentamiento WHERE tipoasentamientoid = tipo),
+  PERFORM exige_existe(EXISTS (SELECT FROM ciudadesmex WHERE ciudadmexid = ciudad FOR KEY SHARE), format('El municipio %s', ciudad));
+  PERFORM exige_existe(EXISTS (SELECT FROM tipoasentamiento WHERE tipoasentamientoid = tipo FOR KEY SHARE),
                        format('El tipo de asentamiento %s', tipo));
   UPDATE colonias
      SET ciudadmexid = ciudad, nombrecolonia = rtrim(obligatorio(nombre, 100, 'el nombre')),

@@ -43,7 +43,7 @@ CREATE TRIGGER bitacora AFTER INSERT OR UPDATE OR DELETE ON domicilio
 -- The values as they will be stored, or a refusal; shared by insert and update.
 CREATE FUNCTION sujeto_valido(id bigint, apaterno text, amaterno text, nombres text, clave_rfc text, clave_curp text,
                               anios integer, nacimiento text, razon text) RETURNS sujeto
-LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 DECLARE
   fila sujeto;
 BEGIN
@@ -56,7 +56,7 @@ BEGIN
   fila.edad := numero(anios, 0, 150, 'la edad');
   fila.fechanacimiento := fecha_opcional(nacimiento);
   fila.razonsocial := rtrim(texto(razon, 60, 'la razón social'));
-  IF fila.fechanacimiento > current_date THEN
+  IF fila.fechanacimiento > hoy() THEN
     RAISE EXCEPTION 'La fecha de nacimiento % está en el futuro', to_char(fila.fechanacimiento, 'DD/MM/YYYY')
       USING ERRCODE = 'datetime_field_overflow';
   END IF;
@@ -134,7 +134,7 @@ END $$;
 CREATE FUNCTION domicilio_valido(id bigint, ciudad integer, persona bigint, via text, exterior text, interior text,
                                  barrio text, codigo bigint, pueblo text, telefono text, asentamiento bigint)
 RETURNS domicilio
-LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 DECLARE
   fila domicilio;
 BEGIN
@@ -149,12 +149,12 @@ BEGIN
   fila.comunidad := rtrim(texto(pueblo, 50, 'la comunidad'));
   fila.teldomicilio := rtrim(texto(telefono, 20, 'el teléfono'));
   fila.coloniaid := nullif(asentamiento, 0);
-  PERFORM exige_existe(EXISTS (SELECT FROM sujeto s WHERE s.sujetoid = persona), format('La persona %s', persona));
+  PERFORM exige_existe(EXISTS (SELECT FROM sujeto s WHERE s.sujetoid = persona FOR KEY SHARE), format('La persona %s', persona));
   PERFORM exige_existe(fila.ciudadmexid IS NULL
-                         OR EXISTS (SELECT FROM ciudadesmex c WHERE c.ciudadmexid = fila.ciudadmexid),
+                         OR EXISTS (SELECT FROM ciudadesmex c WHERE c.ciudadmexid = fila.ciudadmexid FOR KEY SHARE),
                        format('El municipio %s', ciudad));
   PERFORM exige_existe(fila.coloniaid IS NULL
-                         OR EXISTS (SELECT FROM colonias c WHERE c.coloniaid = fila.coloniaid),
+                         OR EXISTS (SELECT FROM colonias c WHERE c.coloniaid = fila.coloniaid FOR KEY SHARE),
                        format('La colonia %s', asentamiento));
   RETURN fila;
 END $$;

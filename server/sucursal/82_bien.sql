@@ -27,7 +27,7 @@ CREATE TRIGGER bitacora AFTER INSERT OR UPDATE OR DELETE ON bienes
 CREATE FUNCTION bien_valido(id bigint, persona bigint, duenio text, descri text, rasgos text, registro text,
                             comercial numeric, fiscal numeric, catastro numeric, hipoteca text, relacion numeric,
                             marca text, dia text) RETURNS bienes
-LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 DECLARE
   fila bienes;
 BEGIN
@@ -35,18 +35,18 @@ BEGIN
   fila.sujetoid := persona;
   fila.propietario := rtrim(obligatorio(duenio, 60, 'el propietario'));
   fila.describien := rtrim(obligatorio(descri, 60, 'la descripción del bien'));
-  fila.caracteristicas := rtrim(obligatorio(rasgos, 254, 'las características'));
-  fila.registropublico := rtrim(obligatorio(registro, 254, 'el registro público'));
+  fila.caracteristicas := rtrim(obligatorio(rasgos, 254, 'las características', true));
+  fila.registropublico := rtrim(obligatorio(registro, 254, 'el registro público', true));
   fila.valorcomercial := numero(comercial, 0, 999999999999.99, 'el valor comercial');
   fila.valorfiscal := numero(fiscal, 0, 999999999999.99, 'el valor fiscal');
   fila.valorcatastro := numero(catastro, 0, 999999999999.99, 'el valor de catastro');
-  fila.datoshipoteca := rtrim(obligatorio(hipoteca, 255, 'los datos de la hipoteca'));
+  fila.datoshipoteca := rtrim(obligatorio(hipoteca, 255, 'los datos de la hipoteca', true));
   fila.relaciongarantia := numero(relacion, 0, 99999999.999999, 'la relación de garantía');
   fila.adjudicado := letra_si_no(marca, 'la marca de adjudicado');
   IF fila.adjudicado = 'S' THEN
     fila.fechaadjudicado := fecha_dada(dia, 'la fecha de adjudicación');
   END IF;
-  PERFORM exige_existe(EXISTS (SELECT FROM sujeto s WHERE s.sujetoid = persona), format('La persona %s', persona));
+  PERFORM exige_existe(EXISTS (SELECT FROM sujeto s WHERE s.sujetoid = persona FOR KEY SHARE), format('La persona %s', persona));
   RETURN fila;
 END $$;
 

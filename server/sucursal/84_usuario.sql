@@ -20,7 +20,7 @@ ALTER TABLE usuario
 -- The values as they will be stored, or a refusal; shared by insert and update.
 CREATE FUNCTION usuario_valido(login text, tipo text, jefe text, clave text, correo text, cola text, notas text,
                                persona bigint) RETURNS usuario
-LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 DECLARE
   fila usuario;
 BEGIN
@@ -30,7 +30,7 @@ BEGIN
   fila.usu_usuarioid := referencia(rtrim(opcional(jefe, 20, 'el jefe')), 'usuario', 'usuarioid', 'el jefe');
   fila.email := rtrim(texto(correo, 30, 'el correo'));
   fila.dicola := rtrim(texto(cola, 10, 'la impresora'));
-  fila.obsusuario := rtrim(texto(notas, 257, 'las observaciones'));
+  fila.obsusuario := rtrim(texto(notas, 257, 'las observaciones', true));
   fila.sujetoid := persona;
   IF btrim(clave) <> '' THEN
     RAISE EXCEPTION 'La contraseña no se guarda en el catálogo de usuarios: la cambia el administrador del servidor'
@@ -38,7 +38,7 @@ BEGIN
   ELSIF fila.usu_usuarioid = fila.usuarioid THEN
     RAISE EXCEPTION 'El usuario % no puede ser su propio jefe', fila.usuarioid USING ERRCODE = 'check_violation';
   END IF;
-  PERFORM exige_existe(EXISTS (SELECT FROM sujeto s WHERE s.sujetoid = persona), format('La persona %s', persona));
+  PERFORM exige_existe(EXISTS (SELECT FROM sujeto s WHERE s.sujetoid = persona FOR KEY SHARE), format('La persona %s', persona));
   IF EXISTS (SELECT FROM usuario u WHERE u.sujetoid = persona AND u.usuarioid <> fila.usuarioid) THEN
     RAISE EXCEPTION 'La persona % ya es otro usuario', persona USING ERRCODE = 'unique_violation';
   END IF;
@@ -65,6 +65,7 @@ DECLARE
   fila usuario;
 BEGIN
   PERFORM exige_permiso('0206');
+  PERFORM por_turno('usuario');
   fila := usuario_valido(login, tipo, jefe, clave, correo, cola, notas, persona);
   IF fila.usuarioid !~ '^[A-Za-z][A-Za-z0-9_.-]*$' THEN
     RAISE EXCEPTION 'El login "%" no es válido: letras sin acento, números, "_", "." o "-", y al principio una letra',
@@ -88,6 +89,7 @@ DECLARE
   fila usuario;
 BEGIN
   PERFORM exige_permiso('0206');
+  PERFORM por_turno('usuario');
   fila := usuario_valido(login, tipo, jefe, clave, correo, cola, notas, persona);
   UPDATE usuario
      SET tipousuarioid = fila.tipousuarioid, usu_usuarioid = fila.usu_usuarioid, email = fila.email,
@@ -127,6 +129,7 @@ BEGIN
     NULL;  -- the person stays, with everything that is his
   END;
   PERFORM baja_login(nombre, current_schema());
+  PERFORM anota_suceso('BAJA', 'usuario', nombre);
 END $$;
 
 GRANT EXECUTE ON FUNCTION spsusuario, spiusuario, spuusuario, spdusuario TO :"grupo";

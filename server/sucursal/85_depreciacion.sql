@@ -24,7 +24,7 @@ CREATE TRIGGER bitacora AFTER INSERT OR UPDATE OR DELETE ON depreciacion
 CREATE FUNCTION depreciacion_valida(id bigint, moneda text, activo text, depre text, gasto text, baja text,
                                     descri text, contable numeric, fiscal numeric, maximo numeric,
                                     porcentaje numeric) RETURNS depreciacion
-LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 DECLARE
   fila depreciacion;
 BEGIN

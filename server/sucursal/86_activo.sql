@@ -39,7 +39,7 @@ CREATE FUNCTION activo_valido(id bigint, tipo bigint, clave text, descri text, v
                               acum_conta numeric, metodo_conta integer, inicio_fiscal text, inmediata text,
                               tasa_fiscal numeric, acum_fiscal numeric, metodo_fiscal integer, maximo numeric,
                               original numeric, moneda text, depto integer) RETURNS activo
-LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 DECLARE
   fila activo;
   tope constant numeric := 999999999999.99;
@@ -47,7 +47,7 @@ BEGIN
   fila.activoid := id;
   fila.depreciacionid := tipo;
   fila.activoclave := rtrim(obligatorio(clave, 20, 'la clave'));
-  fila.activodescripcion := rtrim(obligatorio(descri, 258, 'la descripción'));
+  fila.activodescripcion := rtrim(obligatorio(descri, 258, 'la descripción', true));
   fila.activo_valor := numero(valor, 0, tope, 'el valor');
   fila.porcenvidautil := numero(vida, 0, 99999999, 'el porcentaje de vida útil');
   fila.valormercado := numero(mercado, 0, tope, 'el valor de mercado');
@@ -66,7 +66,7 @@ BEGIN
   fila.montooriginal := numero(original, 0, tope, 'el monto original');
   fila.monedaid := referencia(obligatorio(moneda, 2, 'la moneda'), 'moneda', 'monedaid', 'la moneda');
   fila.departamento := numero(depto, 0, 2, 'el departamento');
-  PERFORM exige_existe(EXISTS (SELECT FROM depreciacion d WHERE d.depreciacionid = tipo),
+  PERFORM exige_existe(EXISTS (SELECT FROM depreciacion d WHERE d.depreciacionid = tipo FOR KEY SHARE),
                        format('El tipo de depreciación %s', tipo));
   IF EXISTS (SELECT FROM activo a WHERE a.activoclave = fila.activoclave AND a.activoid IS DISTINCT FROM id) THEN
     RAISE EXCEPTION 'La clave de activo % ya existe', fila.activoclave USING ERRCODE = 'unique_violation';
@@ -103,6 +103,7 @@ DECLARE
   id bigint;
 BEGIN
   PERFORM exige_permiso('0909');
+  PERFORM por_turno('activo');
   INSERT INTO activo
   SELECT * FROM activo_valido(nextval(pg_get_serial_sequence('activo', 'activoid')), tipo, clave, descri, valor, vida,
                               mercado, lugar, serie, inicio_conta, tasa_conta, acum_conta, metodo_conta,
@@ -120,6 +121,7 @@ CREATE FUNCTION spuactivo(id bigint, tipo bigint, clave text, descri text, valor
 LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
 BEGIN
   PERFORM exige_permiso('0909');
+  PERFORM por_turno('activo');
   UPDATE activo
      SET (activoid, depreciacionid, activoclave, activodescripcion, activo_valor, porcenvidautil, valormercado,
           localizacion, activonoserie, feciniciodepconta, activotasaconta, actdepreacumconta, actmetododepreconta,

@@ -23,7 +23,7 @@ CREATE TRIGGER bitacora AFTER INSERT OR UPDATE OR DELETE ON garantia
 -- The values as they will be stored, or a refusal; shared by insert and update.
 CREATE FUNCTION garantia_valida(id bigint, solicitud bigint, prestamo bigint, bien bigint, hipoteca text, hoja text,
                                 registro text, vence text, descri text) RETURNS garantia
-LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 DECLARE
   fila garantia;
 BEGIN
@@ -42,10 +42,10 @@ BEGIN
     RAISE EXCEPTION 'La garantía vence antes de su registro' USING ERRCODE = 'check_violation';
   END IF;
   PERFORM exige_existe(fila.prestamoid IS NULL
-                         OR EXISTS (SELECT FROM prestamos p WHERE p.prestamoid = fila.prestamoid),
+                         OR EXISTS (SELECT FROM prestamos p WHERE p.prestamoid = fila.prestamoid FOR KEY SHARE),
                        format('El préstamo %s', prestamo));
   PERFORM exige_existe(fila.garantiabienid IS NULL
-                         OR EXISTS (SELECT FROM bienes b WHERE b.bienid = fila.garantiabienid),
+                         OR EXISTS (SELECT FROM bienes b WHERE b.bienid = fila.garantiabienid FOR KEY SHARE),
                        format('El bien %s', bien));
   RETURN fila;
 END $$;

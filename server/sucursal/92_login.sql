@@ -1,9 +1,29 @@
+-- The brake on guessing is a login's own, whatever branches he is a user of.
+CREATE FUNCTION prepara_intentos_de() RETURNS trigger
+LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
+BEGIN
+  PERFORM prepara_intentos(NEW.usuarioid);
+  RETURN NULL;
+END $$;
+
+CREATE TRIGGER intentos AFTER INSERT ON usuario FOR EACH ROW EXECUTE FUNCTION prepara_intentos_de();
+
 -- 1 when the login is a user of this branch and the password is his, otherwise 0.
 CREATE FUNCTION login(nombre text, clave text) RETURNS integer
 LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
+DECLARE
+  quien text := (SELECT usuarioid FROM usuario WHERE usuarioid = rtrim(left(nombre, 20)));
 BEGIN
-  RETURN (clave_correcta(rtrim(nombre), clave)
-          AND EXISTS (SELECT FROM usuario WHERE usuarioid = rtrim(nombre)))::integer;
+  IF quien IS NULL THEN
+    PERFORM pg_sleep(1);
+    RETURN 0;
+  END IF;
+  PERFORM cuenta_intento(quien);
+  IF NOT clave_correcta(quien, clave) THEN
+    RETURN 0;
+  END IF;
+  PERFORM devuelve_intento(quien);
+  RETURN 1;
 END $$;
 
 GRANT EXECUTE ON FUNCTION login TO :"grupo";

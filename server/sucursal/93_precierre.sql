@@ -6,8 +6,11 @@
 --   the loan since its oldest overdue one.
 --   Interest accrues daily on the balance, over the institution's days of the year. The part that accrued since the
 --   loan had `diastraspasoavencida` days of arrears belongs to the overdue portfolio ("mayor"), what went before to
---   the current one ("menor"). Late interest accrues on the overdue capital of each amortisation, parted in the same
---   way; what was paid of it since the arrears began is taken off the older part first.
+--   the current one ("menor"). Late interest accrues on the capital that is still overdue of each amortisation, from the
+--   day that it fell due, and is parted at the same day of the loan; what was paid of it since the arrears began is
+--   taken off the older part first.
+--   A loan that has paid exactly what fell due is done with the two sums; only the others are looked at amortisation by
+--   amortisation (`pendiente`), which is what takes time.
 CREATE FUNCTION calcula_precorte(corte date) RETURNS SETOF precorte
 LANGUAGE sql STABLE SET search_path FROM CURRENT AS $$
   WITH mes AS (
@@ -16,23 +19,37 @@ LANGUAGE sql STABLE SET search_path FROM CURRENT AS $$
   pagado AS (
     SELECT prestamoid, sum(capital) AS capital, sum(interes + bonificacioninteres) AS interes,
            sum(capital * (corte - fecha)) AS capital_por_dias,
-           sum(capital) FILTER (WHERE fecha >= inicio) AS capital_mes,
-           sum(interes) FILTER (WHERE fecha >= inicio) AS interes_mes,
-           sum(moratorio) FILTER (WHERE fecha >= inicio) AS moratorio_mes,
-           sum(bonificacioninteres) FILTER (WHERE fecha >= inicio) AS bonificacion_interes_mes,
-           sum(bonificacionmoratorio) FILTER (WHERE fecha >= inicio) AS bonificacion_moratorio_mes,
            max(fecha) FILTER (WHERE capital > 0) AS ultimo_capital,
            max(fecha) FILTER (WHERE interes > 0) AS ultimo_interes
-      FROM pago CROSS JOIN mes
+      FROM pago
      WHERE fecha <= corte
+     GROUP BY prestamoid),
+  pagado_mes AS (
+    SELECT prestamoid, sum(capital) AS capital_mes, sum(interes) AS interes_mes, sum(moratorio) AS moratorio_mes,
+           sum(bonificacioninteres) AS bonificacion_interes_mes, sum(bonificacionmoratorio) AS bonificacion_moratorio_mes
+      FROM pago
+     WHERE fecha BETWEEN (SELECT inicio FROM mes) AND corte
+     GROUP BY prestamoid),
+  exigible AS (
+    SELECT prestamoid, sum(capital) FILTER (WHERE fecha_vencimiento <= corte) AS capital,
+           sum(interes) FILTER (WHERE fecha_vencimiento <= corte) AS interes,
+           max(fecha_vencimiento) FILTER (WHERE fecha_vencimiento <= corte OR capital + interes = 0) AS ultima
+      FROM amortizacion
      GROUP BY prestamoid),
   cartera AS (
     SELECT p.*, t.diastraspasoavencida, p.montoprestamo - coalesce(g.capital, 0) AS saldo,
            coalesce(g.capital, 0) AS capital_pagado, coalesce(g.interes, 0) AS interes_pagado,
-           coalesce(g.capital_por_dias, 0) AS capital_por_dias, g.capital_mes, g.interes_mes, g.moratorio_mes,
-           g.bonificacion_interes_mes, g.bonificacion_moratorio_mes, g.ultimo_capital, g.ultimo_interes
-      FROM prestamos p JOIN tipoprestamo t USING (tipoprestamoid) LEFT JOIN pagado g USING (prestamoid)
-     WHERE p.fecha_otorga <= corte AND (p.montoprestamo > coalesce(g.capital, 0) OR g.capital_mes IS NOT NULL)),
+           coalesce(g.capital_por_dias, 0) AS capital_por_dias, m.capital_mes, m.interes_mes, m.moratorio_mes,
+           m.bonificacion_interes_mes, m.bonificacion_moratorio_mes, g.ultimo_capital, g.ultimo_interes,
+           coalesce(e.capital, 0) = coalesce(g.capital, 0) AND coalesce(e.interes, 0) = coalesce(g.interes, 0)
+             AND p.montoprestamo > coalesce(g.capital, 0) AS al_dia,
+           e.ultima
+      FROM prestamos p
+      JOIN tipoprestamo t USING (tipoprestamoid)
+      LEFT JOIN pagado g USING (prestamoid)
+      LEFT JOIN pagado_mes m USING (prestamoid)
+      LEFT JOIN exigible e USING (prestamoid)
+     WHERE p.fecha_otorga <= corte AND (p.montoprestamo > coalesce(g.capital, 0) OR m.capital_mes IS NOT NULL)),
   pendiente AS (
     SELECT c.prestamoid, c.diastraspasoavencida, a.fecha_vencimiento AS vence,
            least(a.capital, greatest(0, sum(a.capital) OVER lo_anterior - c.capital_pagado)) AS capital,
@@ -40,29 +57,45 @@ LANGUAGE sql STABLE SET search_path FROM CURRENT AS $$
                 THEN least(a.interes, greatest(0, sum(a.interes) OVER lo_anterior - c.interes_pagado))
                 ELSE 0 END AS interes
       FROM cartera c JOIN amortizacion a USING (prestamoid)
+     WHERE NOT c.al_dia
     WINDOW lo_anterior AS (PARTITION BY a.prestamoid ORDER BY a.numero)),
   atraso AS (
-    SELECT prestamoid, min(vence) FILTER (WHERE vencida) AS desde, count(*) FILTER (WHERE vencida) AS amortizaciones,
+    SELECT prestamoid, min(desde) AS desde, count(*) FILTER (WHERE vencida) AS amortizaciones,
            sum(capital) FILTER (WHERE vencida) AS capital,
-           sum(capital * least(corte - vence, diastraspasoavencida)) FILTER (WHERE vencida) AS mora_menor,
-           sum(capital * greatest(0, corte - vence - diastraspasoavencida)) FILTER (WHERE vencida) AS mora_mayor,
+           sum(capital * (least(corte, desde + diastraspasoavencida) - least(vence, desde + diastraspasoavencida)))
+             FILTER (WHERE vencida) AS mora_menor,
+           sum(capital * (corte - greatest(vence, least(corte, desde + diastraspasoavencida))))
+             FILTER (WHERE vencida) AS mora_mayor,
            max(vence) FILTER (WHERE capital + interes = 0) AS ultima_pagada
-      FROM (SELECT *, vence < corte AND capital + interes > 0 AS vencida FROM pendiente) AS p
+      FROM (SELECT *, min(vence) FILTER (WHERE vencida) OVER (PARTITION BY prestamoid) AS desde
+              FROM (SELECT *, vence < corte AND capital + interes > 0 AS vencida FROM pendiente) AS p) AS p
+     GROUP BY prestamoid),
+  pagado_en_atraso AS (
+    SELECT prestamoid, sum(g.moratorio + g.bonificacionmoratorio) AS mora,
+           sum(g.capital * greatest(0, g.fecha - a.desde - c.diastraspasoavencida)) AS capital_por_dias
+      FROM atraso a JOIN cartera c USING (prestamoid) JOIN pago g USING (prestamoid)
+     WHERE g.fecha > a.desde AND g.fecha <= corte
      GROUP BY prestamoid),
   devengado AS (
     SELECT c.*, coalesce(corte - a.desde, 0) AS dias, coalesce(a.amortizaciones, 0) AS amortizaciones,
-           coalesce(a.capital, 0) AS capital_vencido, a.ultima_pagada,
+           coalesce(a.capital, 0) AS capital_vencido, CASE WHEN c.al_dia THEN c.ultima ELSE a.ultima_pagada END
+             AS ultima_pagada,
            CASE WHEN c.saldo > 0
                 THEN greatest(0, round(c.tasanormal / mes.base
                                        * (c.montoprestamo * (corte - c.fecha_otorga) - c.capital_por_dias), 2)
                                  - c.interes_pagado) ELSE 0 END AS interes,
-           round(c.saldo * c.tasanormal / mes.base
-                 * greatest(0, coalesce(corte - a.desde, 0) - c.diastraspasoavencida), 2) AS interes_tras_traspaso,
+           round(c.tasanormal / mes.base
+                 * (c.saldo * greatest(0, coalesce(corte - a.desde, 0) - c.diastraspasoavencida)
+                    + coalesce(g.capital_por_dias, 0)), 2) AS interes_tras_traspaso,
            round(coalesce(a.mora_menor, 0) * c.tasa_moratoria / mes.base, 2) AS mora_menor,
            round(coalesce(a.mora_mayor, 0) * c.tasa_moratoria / mes.base, 2) AS mora_mayor,
-           coalesce((SELECT sum(g.moratorio + g.bonificacionmoratorio) FROM pago g
-                      WHERE g.prestamoid = c.prestamoid AND g.fecha > a.desde AND g.fecha <= corte), 0) AS mora_pagada
-      FROM mes CROSS JOIN cartera c LEFT JOIN atraso a USING (prestamoid))
+           coalesce(g.mora, 0) AS mora_pagada
+      FROM mes CROSS JOIN cartera c
+      LEFT JOIN atraso a USING (prestamoid)
+      LEFT JOIN pagado_en_atraso g USING (prestamoid)),
+  tramo AS (
+    SELECT porcentaje, diasdesde, coalesce(lead(diasdesde) OVER (ORDER BY diasdesde), 2147483647) AS hasta
+      FROM tramoreserva)
   SELECT extract(year FROM corte)::integer, extract(month FROM corte)::integer, d.prestamoid, corte, d.tipoprestamoid,
          d.clavefinalidad, d.montoprestamo, d.fecha_vencimiento, d.saldo, d.diastraspasoavencida, d.dias,
          d.amortizaciones::integer,
@@ -77,8 +110,7 @@ LANGUAGE sql STABLE SET search_path FROM CURRENT AS $$
          coalesce(d.bonificacion_interes_mes, 0), coalesce(d.bonificacion_moratorio_mes, 0),
          d.ultima_pagada, d.ultimo_capital, d.ultimo_interes
     FROM devengado d
-    LEFT JOIN LATERAL (SELECT porcentaje FROM tramoreserva WHERE diasdesde <= d.dias
-                        ORDER BY diasdesde DESC LIMIT 1) AS r ON true
+    LEFT JOIN tramo r ON d.dias >= r.diasdesde AND d.dias < r.hasta
 $$;
 
 -- Runs the pre-close of the month of a day, as of that day, and answers 1. A month is closed once.
@@ -88,13 +120,13 @@ DECLARE
   corte date;
 BEGIN
   PERFORM exige_permiso('0910');
-  corte := fecha_obligatoria(dia, 'la fecha de cierre');
-  IF corte > current_date THEN
+  corte := fecha_dada(dia, 'la fecha de cierre');
+  IF corte > hoy() THEN
     RAISE EXCEPTION 'La fecha de cierre % está en el futuro', to_char(corte, 'DD/MM/YYYY')
       USING ERRCODE = 'datetime_field_overflow';
   END IF;
   INSERT INTO cierre (ejercicio, periodo, fechacierre)
-  VALUES (numero(extract(year FROM corte), 1900, 9999, 'el ejercicio'), extract(month FROM corte), corte)
+  VALUES (numero(extract(year FROM corte), 1901, 2999, 'el ejercicio'), extract(month FROM corte), corte)
   ON CONFLICT DO NOTHING;
   IF NOT FOUND THEN
     RAISE EXCEPTION 'El mes % ya está cerrado', to_char(corte, 'MM/YYYY') USING ERRCODE = 'unique_violation';

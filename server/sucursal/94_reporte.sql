@@ -8,7 +8,7 @@ LANGUAGE sql STABLE SET search_path FROM CURRENT AS $$
            repeat(' ', 58) || 'REPORTE DE PERSONAS',
            '',
            format('Búsqueda: %-98s%27s', left(coalesce(nullif(pedido, ''), 'todas'), 98),
-                  to_char(now(), '"Fecha: "DD/MM/YYYY HH24:MI')),
+                  to_char(hora_local(now()), '"Fecha: "DD/MM/YYYY HH24:MI')),
            repeat('=', 135),
            format('%7s  %-62s  %-16s  %-21s  %10s  %4s', 'Número', 'Nombre', 'RFC', 'CURP', 'Nacimiento', 'Edad'),
            repeat('=', 135))
@@ -32,7 +32,7 @@ LANGUAGE sql STABLE SET search_path FROM CURRENT AS $$
            margen || nullif(d.comunidad, ''),
            margen || CASE WHEN s.socioid IS NOT NULL
                           THEN format('Socio %-15s  %-32s  desde %s', s.clavesocioint, s.estatus,
-                                      to_char(s.fechaalta, 'DD/MM/YYYY')) END,
+                                      to_char(hora_local(s.fechaalta), 'DD/MM/YYYY')) END,
            (SELECT string_agg(format('%sPréstamo %-18s  tipo %-3s  otorgado %s  vence %s  monto %15s  saldo %15s',
                                      margen, r.referenciaprestamo, r.tipoprestamoid,
                                      to_char(r.fecha_otorga, 'DD/MM/YYYY'),
