@@ -2,6 +2,8 @@
 
 #include <charconv>
 
+#include "framework/Foco.h"
+
 namespace {
 
 constexpr FXuint opcionesDeCampo =
@@ -89,7 +91,7 @@ void campoParrafo(FXMatrix* matriz, const char* etiqueta, int filas, int columna
   auto* marco = new FXHorizontalFrame(
       matriz, FRAME_SUNKEN | FRAME_THICK | LAYOUT_FILL | LAYOUT_FILL_COLUMN | LAYOUT_FILL_ROW, 0, 0, 0, 0, 0,
       0, 0, 0);
-  dato.campo = new FXText(marco, nullptr, 0, TEXT_WORDWRAP | LAYOUT_FILL);
+  dato.campo = new CampoParrafo(marco, nullptr, 0, TEXT_WORDWRAP | LAYOUT_FILL);
   dato.campo->setVisibleRows(filas);
   dato.campo->setVisibleColumns(columnas);
 }

@@ -27,6 +27,7 @@
 #include "app/sesion.h"
 #include "framework/Campos.h"
 #include "framework/Filas.h"
+#include "framework/Foco.h"
 #include "framework/Iconos.h"
 #include "icons/iconos.h"
 #include "widgets/TextoAcotado.h"
@@ -84,6 +85,11 @@ class Forma : public Base {
   long onCmdBorrar(FXObject*, FXSelector, void*);
   /// A row chosen in the list becomes the record.
   long onCmdLista(FXObject*, FXSelector, void*);
+  /// The user can type at once.
+  void create() override {
+    Base::create();
+    Yo().EnfocaClave();
+  }
   /// Closing asks nothing and saves nothing.
   long onCmdQuit(FXObject*, FXSelector, void*) { return 1; }
 
@@ -98,6 +104,8 @@ class Forma : public Base {
 
  protected:
   Forma() {}
+  /// Puts the keyboard into the field of the key, its text selected.
+  void EnfocaClave();
   /// A child of the main window's area.
   Forma(FXMDIClient* area, FXMDIMenu* menu, const char* titulo, const FXRectangle& lugar)
       : Base(area, titulo, nullptr, menu, 0, lugar.x, lugar.y, lugar.w, lugar.h) {}
@@ -128,6 +136,8 @@ class Forma : public Base {
   FXGroupBox* ArmaColumna();
   /// &Cerrar, at the bottom of the column.
   FXButton* ArmaCerrar(FXComposite* columna);
+  /// A button of the column. One whose command closes the form is a plain FXButton.
+  template <class Clase = BotonDeForma>
   FXButton* Boton(FXComposite* padre, const char* texto, const unsigned char* dibujo, FXSelector mensaje,
                   FXuint opciones);
   /// Lists the catalogue and blanks the form for a new record. A load that fails is shown and leaves an empty
@@ -204,7 +214,7 @@ class Forma : public Base {
   void MuestraFilaDelRegistro();
   void MuestraFila(int fila);
 
-  FXHorizontalFrame* cuerpo = nullptr;
+  MarcoDeForma* cuerpo = nullptr;
   FXVerticalFrame* grupos = nullptr;
   int ranura = -1;
 };
@@ -219,7 +229,7 @@ void Forma<Ventana, Base, busqueda>::ArmaCuerpo() {
   // A child form keeps the keys of its buttons to itself: in the main window's table they would take those of
   // the menu away when the form closes.
   if constexpr (std::is_base_of_v<FXMDIChild, Base>) this->setAccelTable(new FXAccelTable);
-  cuerpo = new FXHorizontalFrame(this, LAYOUT_FILL_X | LAYOUT_FILL_Y);
+  cuerpo = new MarcoDeForma(this, LAYOUT_FILL_X | LAYOUT_FILL_Y);
 }
 
 template <class Ventana, class Base, Busqueda busqueda>
@@ -249,8 +259,9 @@ void Forma<Ventana, Base, busqueda>::ArmaLista(const char* titulo, FXint ancho) 
   auto* grupo = new FXGroupBox(cuerpo, titulo, FRAME_GROOVE | LAYOUT_FILL_Y);
   auto* marco = new FXVerticalFrame(grupo, FRAME_SUNKEN | FRAME_THICK | LAYOUT_FILL_X | LAYOUT_FILL_Y, 0, 0,
                                     0, 0, 0, 0, 0, 0);
-  lstFilas = new FXList(marco, this, ID_LISTA,
-                        LIST_BROWSESELECT | HSCROLLER_NEVER | LAYOUT_FIX_WIDTH | LAYOUT_FILL_Y, 0, 0, ancho);
+  lstFilas =
+      new ListaDeForma(marco, this, ID_LISTA,
+                       LIST_BROWSESELECT | HSCROLLER_NEVER | LAYOUT_FIX_WIDTH | LAYOUT_FILL_Y, 0, 0, ancho);
   ArmaMedio();
 }
 
@@ -284,26 +295,30 @@ template <class Ventana, class Base, Busqueda busqueda>
 FXButton* Forma<Ventana, Base, busqueda>::ArmaCerrar(FXComposite* columna) {
   constexpr FXSelector cierre = std::is_base_of_v<FXMDIChild, Base> ? FXSelector(FXWindow::ID_MDI_CLOSE)
                                                                     : FXSelector(FXDialogBox::ID_CANCEL);
-  return Boton(columna, "&Cerrar", iconos::cerrar_icon, cierre, LAYOUT_SIDE_BOTTOM);
+  return Boton<FXButton>(columna, "&Cerrar", iconos::cerrar_icon, cierre, LAYOUT_SIDE_BOTTOM);
 }
 
 template <class Ventana, class Base, Busqueda busqueda>
 FXGroupBox* Forma<Ventana, Base, busqueda>::ArmaBotones() {
   FXGroupBox* columna = ArmaColumna();
   Boton(columna, "&Nuevo", iconos::nuevo_icon, ID_CLEAR, BUTTON_DEFAULT);
-  if constexpr (busqueda == ConBuscar) Boton(columna, "&Buscar", iconos::find_icon, ID_FIND, BUTTON_DEFAULT);
+  FXButton* buscar = nullptr;
+  if constexpr (busqueda == ConBuscar)
+    buscar = Boton(columna, "&Buscar", iconos::find_icon, ID_FIND, BUTTON_DEFAULT);
   Boton(columna, "&Borrar", iconos::borrar_icon, ID_BORRAR, BUTTON_DEFAULT);
+  if (buscar != nullptr) buscar->addHotKey(parseHotKey(buscar->getText()));  // &Borrar has the same key
   ArmaCerrar(columna);
   Boton(columna, "&Aceptar", iconos::ok_icon, ID_AGREGAR, BUTTON_DEFAULT | LAYOUT_SIDE_BOTTOM);
   return columna;
 }
 
 template <class Ventana, class Base, Busqueda busqueda>
+template <class Clase>
 FXButton* Forma<Ventana, Base, busqueda>::Boton(FXComposite* padre, const char* texto,
                                                 const unsigned char* dibujo, FXSelector mensaje,
                                                 FXuint opciones) {
-  return new FXButton(padre, texto, icono(this->getApp(), dibujo), this, mensaje,
-                      FRAME_RAISED | FRAME_THICK | ICON_BEFORE_TEXT | LAYOUT_FILL_X | opciones);
+  return new Clase(padre, texto, icono(this->getApp(), dibujo), this, mensaje,
+                   FRAME_RAISED | FRAME_THICK | ICON_BEFORE_TEXT | LAYOUT_FILL_X | opciones);
 }
 
 template <class Ventana, class Base, Busqueda busqueda>
@@ -355,6 +370,7 @@ template <class Ventana, class Base, Busqueda busqueda>
 long Forma<Ventana, Base, busqueda>::onCmdClear(FXObject*, FXSelector, void*) {
   Yo().Clear();
   Yo().Actual().setIsNew(true);
+  Yo().EnfocaClave();
   return 1;
 }
 
@@ -366,6 +382,7 @@ long Forma<Ventana, Base, busqueda>::onCmdFind(FXObject*, FXSelector, void*) {
   if (registro.IsNew()) {
     cajaInformacion(this, registro.clase(), "Registro NO encontrado");
     Yo().Clear();
+    Yo().EnfocaClave();
   } else {
     Yo().Read();
     if (Ventana::eligeHallado) MuestraFilaDelRegistro();
@@ -416,16 +433,23 @@ long Forma<Ventana, Base, busqueda>::onCmdBorrar(FXObject*, FXSelector, void*) {
     Yo().Read();
     if (registro.IsNew()) {
       Yo().Clear();
-    } else if (cajaPregunta(this, registro.clase(), "Borrar el registro ?")) {
+      Yo().EnfocaClave();
+    } else if (cajaPreguntaBorrar(this, registro.clase())) {
       registro.Delete();
       Yo().Load();
       Yo().Clear();
       registro.setIsNew(true);
+      Yo().EnfocaClave();
     }
   } catch (char* texto) {
     Falla(texto);
   }
   return 1;
+}
+
+template <class Ventana, class Base, Busqueda busqueda>
+void Forma<Ventana, Base, busqueda>::EnfocaClave() {
+  DaTeclado(std::get<0>(Yo().Datos()).dato.campo);
 }
 
 /// The fields of the key to the record.

@@ -105,6 +105,26 @@ long CajaLarga::onKeyPress(FXObject* emisor, FXSelector sel, void* evento) {
   return FXMessageBox::onKeyPress(emisor, sel, evento);
 }
 
+/// A title is cut off by a window manager with wide buttons: the box gets room for both.
+void EnsanchaParaTitulo(FXMessageBox& caja) {
+  constexpr FXint adornos = 130;
+  auto* const contenido = static_cast<FXComposite*>(caja.getFirst());
+  const FXString titulo = caja.getTitle();
+  const FXint ancho = caja.getApp()->getNormalFont()->getTextWidth(titulo) * 5 / 4 + adornos;
+  new FXFrame(contenido, LAYOUT_FIX_WIDTH | LAYOUT_FIX_HEIGHT, 0, 0, ancho, 1);
+}
+
+/// Below its owner, or above it where the screen ends before.
+void PonDebajo(FXMessageBox& caja, FXWindow* duenio) {
+  constexpr FXint marco = 30;  // what a window manager puts around
+  FXint x = 0, y = 0;
+  duenio->translateCoordinatesTo(x, y, duenio->getRoot(), 0, 0);
+  const FXint ancho = caja.getDefaultWidth(), alto = caja.getDefaultHeight();
+  FXint arriba = y + duenio->getHeight() + marco;
+  if (arriba + alto > duenio->getRoot()->getHeight()) arriba = FXMAX(0, y - alto - marco);
+  caja.position(FXMAX(0, x + (duenio->getWidth() - ancho) / 2), arriba, ancho, alto);
+}
+
 /// Shows a box and answers what was clicked in it.
 FXuint Muestra(FXWindow* duenio, const unsigned char* dibujo, FXuint botones, const FXString& titulo,
                const char* texto) {
@@ -115,9 +135,20 @@ FXuint Muestra(FXWindow* duenio, const unsigned char* dibujo, FXuint botones, co
   if (std::optional<FXString> lineas = EnLineas(visible)) {
     // A label takes the one for the sign of a key, and the other for its own end.
     lineas->substitute("&", "&&").substitute("\t", "    ");
-    return FXMessageBox(duenio, titulo, *lineas, &icono, opciones).execute(PLACEMENT_OWNER);
+    FXMessageBox caja(duenio, titulo, *lineas, &icono, opciones);
+    EnsanchaParaTitulo(caja);
+    return caja.execute(PLACEMENT_OWNER);
   }
   return CajaLarga(duenio, titulo, visible, &icono, opciones).execute(PLACEMENT_OWNER);
+}
+
+/// The button of a box that sends this message.
+FXButton* BotonDe(FXWindow* ventana, FXSelector mensaje) {
+  if (auto* boton = dynamic_cast<FXButton*>(ventana); boton != nullptr && boton->getSelector() == mensaje)
+    return boton;
+  for (FXWindow* hija = ventana->getFirst(); hija != nullptr; hija = hija->getNext())
+    if (FXButton* boton = BotonDe(hija, mensaje)) return boton;
+  return nullptr;
 }
 
 }  // namespace
@@ -132,4 +163,14 @@ void cajaInformacion(FXWindow* duenio, const FXString& titulo, const char* texto
 
 bool cajaPregunta(FXWindow* duenio, const FXString& titulo, const char* texto) {
   return Muestra(duenio, FX::questionicon, MBOX_YES_NO, titulo, texto) == MBOX_CLICKED_YES;
+}
+
+bool cajaPreguntaBorrar(FXWindow* duenio, const FXString& titulo) {
+  FXGIFIcon icono(duenio->getApp(), FX::questionicon);
+  FXMessageBox caja(duenio, titulo, "Borrar el registro ?", &icono, MBOX_YES_NO | DECOR_TITLE | DECOR_BORDER);
+  EnsanchaParaTitulo(caja);
+  caja.create();
+  BotonDe(&caja, FXMessageBox::ID_CLICKED_NO)->setFocus();
+  PonDebajo(caja, duenio);
+  return caja.execute(PLACEMENT_DEFAULT) == MBOX_CLICKED_YES;
 }

@@ -13,3 +13,5 @@ void cajaInformacion(FXWindow* duenio, const FXString& titulo, const char* texto
 
 /// Yes and No; true for yes.
 bool cajaPregunta(FXWindow* duenio, const FXString& titulo, const char* texto);
+/// "Borrar el registro ?", with &No as the first answer and below its owner, whose fields stay in sight.
+bool cajaPreguntaBorrar(FXWindow* duenio, const FXString& titulo);

@@ -81,7 +81,7 @@ long NuevoTasa_Window::onCmdBorrar(FXObject*, FXSelector, void*) {
     Read();
     if (suya.IsNew()) {
       Clear();
-    } else if (cajaPregunta(this, suya.clase(), "Borrar el registro ?")) {
+    } else if (cajaPreguntaBorrar(this, suya.clase())) {
       suya.Delete();
       Clear();
     }

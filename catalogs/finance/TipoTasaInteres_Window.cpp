@@ -47,7 +47,7 @@ long TipoTasaInteres_Window::onCmdLista(FXObject*, FXSelector, void*) {
 
 long TipoTasaInteres_Window::onCmdBorrar(FXObject*, FXSelector, void*) {
   try {
-    if (cajaPregunta(this, tasainteres.clase(), "Borrar el registro ?")) {
+    if (cajaPreguntaBorrar(this, tasainteres.clase())) {
       tasainteres.Delete();
       Load();
       Clear();

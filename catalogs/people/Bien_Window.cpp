@@ -73,7 +73,7 @@ long Bien_Window::onCmdAgregar(FXObject*, FXSelector, void*) {
 }
 
 long Bien_Window::onCmdBorrar(FXObject*, FXSelector, void*) {
-  if (!cajaPregunta(this, bien.clase(), "Borrar el registro ?")) return 1;
+  if (!cajaPreguntaBorrar(this, bien.clase())) return 1;
   bien.setDeleted(true);
   persona->getBienes().setItem(bien, indice);
   return Cierra();
