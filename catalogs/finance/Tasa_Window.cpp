@@ -13,6 +13,7 @@ Tasa_Window::Tasa_Window(FXMDIClient* area, FXMDIMenu* menu)
   std::cout << "entrando a crear dialogo" << std::endl;
   ArmaSinLista();
   libro = ArmaLibro(0);
+  libro->setTarget(nullptr);  // no command needs to know that another page came up
   ArmaTabla("&Tasa Prestamo", {{"Fecha Inicial", 80},
                                {"Fecha Final", 80},
                                {"Tipo Prestamo", 100},
@@ -42,7 +43,7 @@ void Tasa_Window::ArmaTabla(const char* titulo, std::initializer_list<Columna> c
     tabla->setColumnText(numero, texto);
     tabla->setColumnWidth(numero++, ancho);
   }
-  Boton(pagina, "&Nuevo", iconos::ok_icon, ID_NUEVO, BUTTON_DEFAULT);
+  Boton(pagina, "&Nuevo", iconos::ok_icon, ID_NUEVO, BUTTON_DEFAULT)->setLayoutHints(LAYOUT_LEFT);
 }
 
 long Tasa_Window::onCmdNuevo(FXObject*, FXSelector, void*) {

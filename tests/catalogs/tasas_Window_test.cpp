@@ -3,6 +3,7 @@
 #include <fxkeys.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <optional>
 
 #include "app/sesion.h"
@@ -18,6 +19,7 @@
 #include "tests/support/Registros.h"
 #include "tests/support/Salida.h"
 #include "tests/support/Ventana.h"
+#include "widgets/cFecha.h"
 
 namespace pruebas {
 namespace {
@@ -29,6 +31,13 @@ Textos Titulos(FXWindow* forma) {
   Textos titulos;
   for (const FXGroupBox* caja : Todos<FXGroupBox>(forma)) titulos.push_back(caja->getText().text());
   return titulos;
+}
+
+/// The labels of the buttons that have one.
+Textos Rotulados(FXWindow* forma) {
+  Textos rotulos = Botones(forma);
+  rotulos.erase(std::remove(rotulos.begin(), rotulos.end(), ""), rotulos.end());
+  return rotulos;
 }
 
 /// What the forms of this file share: a session, and a window to press the buttons of.
@@ -141,8 +150,10 @@ TEST_F(TasaVentana, MuestraTresTablasVaciasYNoPreguntaNada) {
   EXPECT_EQ(historia_->getY(), 2);
   EXPECT_EQ(historia_->getWidth(), 735);
   EXPECT_EQ(historia_->getHeight(), 420);
-  EXPECT_EQ(Botones(historia_), (Textos{"&Tasa Prestamo", "&Nuevo", "&Movimiento", "&Nuevo",
-                                        "&Tasa Inversion", "&Nuevo", "&Cerrar"}));
+  Textos paginas;
+  for (const FXTabItem* pagina : Todos<FXTabItem>(historia_)) paginas.push_back(Rotulo(pagina));
+  EXPECT_EQ(paginas, (Textos{"&Tasa Prestamo", "&Movimiento", "&Tasa Inversion"}));
+  EXPECT_EQ(Rotulados(historia_), (Textos{"&Nuevo", "&Nuevo", "&Nuevo", "&Cerrar"}));
   const std::vector<std::pair<const char*, FXint>> columnas[] = {
       {{"Fecha Inicial", 80},
        {"Fecha Final", 80},
@@ -178,8 +189,8 @@ TEST_F(TasaVentana, MuestraTresTablasVaciasYNoPreguntaNada) {
 TEST_F(TasaVentana, SuMapaTieneSusMensajesEnOrden) {
   using W = Tasa_Window;
   FXuint id = FXMDIChild::ID_LAST;
-  std::vector<Entrada<W>> mapa = {Mando(id, &W::onCmdAgregar), Mando(id + 1, &W::onCmdFind),
-                                  Mando(id + 2, &W::onCmdClear), Mando(id + 3, &W::onCmdNuevo)};
+  std::vector<Entrada<W>> mapa = {Mando<W>(id, &W::onCmdAgregar), Mando<W>(id + 1, &W::onCmdFind),
+                                  Mando<W>(id + 2, &W::onCmdClear), Mando<W>(id + 3, &W::onCmdNuevo)};
   const FXSelector doble = FXSEL(SEL_DOUBLECLICKED, id + 4);
   const FXSelector senal = FXSEL(SEL_SIGNAL, id + 5);
   mapa.push_back({doble, doble, &W::onCmdEdit});
@@ -278,8 +289,7 @@ TEST_F(TasaVentana, LaEntradaTieneSusCamposEnOrdenYNadaCortado) {
   EXPECT_EQ(entrada->getHeight(), 200);
   EXPECT_EQ(Etiquetas(entrada),
             (Textos{"Tipo:", "Fecha Inicial:", "Fecha Final:", "Tasa:", "Tasa Moratorio:"}));
-  EXPECT_EQ(Botones(entrada).size(), 7u);  // those of the combo box and of the two calendars too
-  for (const char* rotulo : {"&Nuevo", "&Borrar", "&Cerrar", "&Aceptar"}) Boton(entrada, rotulo);
+  EXPECT_EQ(Rotulados(entrada), (Textos{"&Nuevo", "&Borrar", "&Cerrar", "&Aceptar"}));
   EXPECT_EQ(JuntoA<FXComboBox>(entrada, "Tipo:")->getNumVisible(), 10);
   EXPECT_TRUE(JuntoA<FXComboBox>(entrada, "Tipo:")->getComboStyle() & COMBOBOX_STATIC);
   for (const char* etiqueta : {"Fecha Inicial:", "Fecha Final:"}) {
@@ -331,7 +341,7 @@ TEST_F(TasaVentana, BorrarSinTasaVaciaCalladoYConTasaPregunta) {
   Llena(entrada);
   Enviado();
   EXPECT_EQ(Manda(entrada, "&Borrar"), Textos{});
-  EXPECT_EQ(Enviado(), Textos{"SELECT * FROM spstasa(0);"});
+  EXPECT_EQ(Enviado(), Textos{"SELECT * FROM spstasa(-1);"});
   EXPECT_EQ(Visto(entrada), Blanca);
 
   const long clave = Una();
@@ -507,11 +517,11 @@ TEST_F(TasaInteresVentana, SuMapaEsElDeLasFormas) {
   using W = TasaInteres_Window;
   const FXuint id = FXDialogBox::ID_LAST;
   const FXSelector senal = FXSEL(SEL_SIGNAL, id + 5);
-  ExigeMapa<W>({Mando(id, &W::onCmdAgregar),
-                Mando(id + 1, &W::onCmdFind),
-                Mando(id + 2, &W::onCmdClear),
-                Mando(id + 3, &W::onCmdBorrar),
-                Mando(id + 4, &W::onCmdTasaInteres),
+  ExigeMapa<W>({Mando<W>(id, &W::onCmdAgregar),
+                Mando<W>(id + 1, &W::onCmdFind),
+                Mando<W>(id + 2, &W::onCmdClear),
+                Mando<W>(id + 3, &W::onCmdBorrar),
+                Mando<W>(id + 4, &W::onCmdTasaInteres),
                 {FXSEL(SEL_CLOSE, 0), FXSEL(SEL_CLOSE, 0), &W::onCmdQuit},
                 {senal, senal, &W::onCmdQuit}});
 }
@@ -709,7 +719,7 @@ TEST_F(TasaInteresVentana, UnaTransaccionQueNoSeAbreLanzaSuTextoSinCuadroPropio)
                 "Error al cargar catalogo de tipo tasas.");
       EXPECT_EQ(Enviado(), Textos{"BEGIN;"});
       Reconecta();
-      catalogo.LoadTipoTasa(Listado);
+      forma_->Load();  // it was emptied ahead of the failure
     }
   }
 }
@@ -729,14 +739,12 @@ TEST_F(TasaInteresVentana, CortadaEnCadaSentenciaQuedaEnteraONoQueda) {
       flag = true;
       espia_.Vacia();
       espia_.En(n, despues ? falla::CorteDespues() : falla::CorteAntes());
-      const bool primera = n == 0 && !despues;
       const auto dicho = Lanzado([&] {
         Guion guion;
         guion.EnAdelante([](FXDialogBox* caja) { Pulsa(Boton(caja, "&Aceptar")); });
         Pulsa(Boton(forma_, "&Aceptar"));
       });
-      const bool antesDelListado = n < 3 || (n == 3 && !despues);
-      EXPECT_EQ(dicho.has_value(), antesDelListado) << primera;
+      EXPECT_EQ(dicho.has_value(), n <= 3);  // up to the second BEGIN, with which the list is read anew
       espia_.Vacia();
       Reconecta();
       EXPECT_EQ(EnServidor("QZ") == "Prueba", n > 2 || (n == 2 && despues));
@@ -776,6 +784,9 @@ class TipoTasaInteresVentana : public ConTasas {
     return filas.empty() ? "" : filas[0][0];
   }
   std::string Cuantas() { return base_.Valor("select count(*) from norte.tasavariable"); }
+  void ComoPropietario(const std::string& sql) {
+    base_.Ejecuta("set role tolvara_propietario;" + sql + ";reset role");
+  }
   FXString RenglonActual() { return Lista(forma_)->getItemText(Lista(forma_)->getCurrentItem()); }
 
   static constexpr const char* Rotulos[] = {
@@ -795,7 +806,7 @@ TEST_F(TipoTasaInteresVentana, SeAbreConLaListaYLosCamposEnOrden) {
   EXPECT_EQ(forma_->getTitle(), "Tasas Variables");
   EXPECT_EQ(Titulos(forma_), (Textos{"Tasa Interes", "Fechas", "Parametros", ""}));
   EXPECT_EQ(Etiquetas(forma_), Textos(std::begin(Rotulos), std::end(Rotulos)));
-  for (const char* rotulo : {"&Nuevo", "&Buscar", "&Borrar", "&Cerrar", "&Aceptar"}) Boton(forma_, rotulo);
+  EXPECT_EQ(Rotulados(forma_), (Textos{"&Nuevo", "&Buscar", "&Borrar", "&Cerrar", "&Aceptar"}));
   const struct {
     const char* etiqueta;
     FXint columnas;
@@ -827,14 +838,13 @@ TEST_F(TipoTasaInteresVentana, SuMapaEsElDeLasFormasConSusCalendarios) {
   using W = TipoTasaInteres_Window;
   const FXuint id = FXDialogBox::ID_LAST;
   const FXSelector senal = FXSEL(SEL_SIGNAL, id + 7);
-  const Entrada<W> aceptar = {FXSEL(SEL_COMMAND, id), FXSEL(SEL_COMMAND, id), &W::onCmdAgregar};
-  ExigeMapa<W>({aceptar,
-                Mando(id + 1, &W::onCmdFind),
-                Mando(id + 2, &W::onCmdClear),
-                Mando(id + 3, &W::onCmdBorrar),
-                Mando(id + 4, &W::onCmdLista),
-                Mando(id + 5, &W::onCmdCalendario),
-                Mando(id + 6, &W::onCmdCalendario),
+  ExigeMapa<W>({Mando<W>(id, &W::onCmdAgregar),
+                Mando<W>(id + 1, &W::onCmdFind),
+                Mando<W>(id + 2, &W::onCmdClear),
+                Mando<W>(id + 3, &W::onCmdBorrar),
+                Mando<W>(id + 4, &W::onCmdLista),
+                Mando<W>(id + 5, &W::onCmdCalendario),
+                Mando<W>(id + 6, &W::onCmdCalendario),
                 {FXSEL(SEL_CLOSE, 0), FXSEL(SEL_CLOSE, 0), &W::onCmdQuit},
                 {senal, senal, &W::onCmdQuit}});
   Abre();
@@ -859,7 +869,7 @@ TEST_F(TipoTasaInteresVentana, ElRenglonElegidoSeLeeDelServidorYSeTraza) {
 }
 
 TEST_F(TipoTasaInteresVentana, UnPeriodoSinFechaFinalLaMuestraEnBlanco) {
-  base_.Ejecuta("update norte.tasavariable set fechafinal = null where tasavariableid = 1");
+  ComoPropietario("update norte.tasavariable set fechafinal = null where tasavariableid = 1");
   Abre();
   EligeRenglon(Lista(forma_), 0);
   EXPECT_EQ(Visto().at(2), " ");
@@ -990,7 +1000,7 @@ TEST_F(TipoTasaInteresVentana, CadaCalendarioEsDeSuFecha) {
 
 TEST_F(TipoTasaInteresVentana, SinPeriodosOSinLaFilaAguanta) {
   Abre();
-  base_.Ejecuta("delete from norte.tasavariable where tasavariableid = 3");
+  ComoPropietario("delete from norte.tasavariable where tasavariableid = 3");
   EligeRenglon(Lista(forma_), 2);  // somebody else deleted it meanwhile
   EXPECT_TRUE(tasainteres.IsNew());
   base_.Ejecuta("truncate norte.tasavariable");

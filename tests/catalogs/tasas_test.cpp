@@ -89,11 +89,10 @@ TEST(cTasa, CadaColumnaSigueLaReglaDelCambio) {
 
 /// Two records over one Engine, where their base is the virtual one.
 struct DosVirtuales : cTasa, cTipoMovimiento {};
-struct VirtualYLlana : cTasa, cTasaInteres {};
 
 TEST(cTasa, SuBaseEsLaVirtualYLaDeLasVariablesNo) {
   EXPECT_TRUE((std::is_convertible_v<DosVirtuales*, Engine*>));
-  EXPECT_FALSE((std::is_convertible_v<VirtualYLlana*, Engine*>));
+  EXPECT_FALSE((std::is_convertible_v<cTasaInteres*, EngineVirtual*>));
   EXPECT_TRUE((std::is_convertible_v<cTipoTasaInteres*, Engine*>));
   EXPECT_FALSE((std::is_convertible_v<cTipoTasaInteres*, EngineVirtual*>));
 }
@@ -200,7 +199,7 @@ TEST_F(cTasaTest, LaVidaDeUnaTasaMandaYTrazaSoloLoSuyo) {
   const std::string busqueda = "SELECT * FROM spstasa(" + clave + ");";
   EXPECT_EQ(espia_.Sentencias(), Textos{busqueda});
   EXPECT_EQ(salida_.Lineas(), (Textos{alta, busqueda}));
-  EXPECT_EQ(Estado(leida), clave + "|ORD|028|AH |2023-02-02|0000-00-00|12.500000|17.250000");
+  EXPECT_EQ(Estado(leida), clave + "|ORD|028|AH|2023-02-02|0000-00-00|12.500000|17.250000");
 
   espia_.Vacia();
   EXPECT_EQ(Lanzado([&] { leida.Delete(); }), std::nullopt);
@@ -276,7 +275,6 @@ TEST_F(cTasaTest, UnaRespuestaMalFormadaSeLeeComoColumnasVacias) {
     Falla falla;
     std::string estado;
   } tabla[] = {
-      {falla::Recortada(0), "0||||0000-00-00|0000-00-00|0.000000|0.000000"},
       {falla::Recortada(1), id + "||||0000-00-00|0000-00-00|0.000000|0.000000"},
       {falla::ConNulos(), "0||||0000-00-00|0000-00-00|0.000000|0.000000"},
       {falla::ConTextos(), "0|xxx|xxx|xxx|0000-00-00|0000-00-00|0.000000|0.000000"},
@@ -349,7 +347,7 @@ TEST_F(cTasaInteresTest, ElAltaMandaLasDosMitadesDelPrimerValorYNadaDelSegundo) 
       {0.1, "-1717986918,1069128089"},
       {-0.1, "-1717986918,-1078355559"},
       {5e-324, "1,0"},
-      {1e30, "-94275210,1177108057"},
+      {1e30, "966823146,1177108057"},
       {1e308, "-2048145248,2145504499"},
       {infinito, "0,2146435072"},
       {-infinito, "0,-1048576"},
@@ -459,7 +457,8 @@ TEST_F(cTasaInteresTest, SinDerechoNiSeAgregaNiSeCambiaNiSeBorra) {
   V periodo = PeriodoCompleto();
   periodo.AddNew();
   base_.Ejecuta("update norte.permisomodulo set permiso = 'N' where clavemodulo = '0217'");
-  for (const auto operacion : {&V::AddNew, &V::Update, &V::Delete}) {
+  for (void (V::*const operacion)() :
+       std::initializer_list<void (V::*)()>{&V::AddNew, &V::Update, &V::Delete}) {
     periodo.setDataChanged(true);
     EXPECT_NE(Lanzado([&] { (periodo.*operacion)(); }).value_or("").find("No tiene permiso"),
               std::string::npos);
