@@ -51,10 +51,8 @@ const struct Renglon {
 
 /// The forms that do not exist yet: their options ask the permission and open nothing.
 const std::set<std::string> Pendientes = {
-    "Banco_Window",           "Usuario_Window", "EstadoMex_Window", "CiudadMex_Window",
-    "TipoPromocion_Window",   "Tasa_Window",    "Inpc_Window",      "Udis_Window",
-    "Recargos_Window",        "Sujeto_Window",  "Inabil_Window",    "TasaInteres_Window",
-    "TipoTasaInteres_Window",
+    "Usuario_Window", "EstadoMex_Window",   "CiudadMex_Window",       "Tasa_Window",
+    "Sujeto_Window",  "TasaInteres_Window", "TipoTasaInteres_Window",
 };
 
 bool Existe(const Renglon& opcion) { return Pendientes.count(opcion.forma) == 0; }

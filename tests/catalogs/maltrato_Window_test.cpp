@@ -2,9 +2,15 @@
 #include <gtest/gtest.h>
 
 #include "app/sesion.h"
+#include "catalogs/finance/Banco_Window.h"
 #include "catalogs/finance/Calculo_Window.h"
+#include "catalogs/finance/Inabil_Window.h"
+#include "catalogs/finance/Inpc_Window.h"
+#include "catalogs/finance/Recargos_Window.h"
 #include "catalogs/finance/TipoInversion_Window.h"
 #include "catalogs/finance/TipoMovimiento_Window.h"
+#include "catalogs/finance/TipoPromocion_Window.h"
+#include "catalogs/finance/Udis_Window.h"
 #include "catalogs/simple/Asesor_Window.h"
 #include "catalogs/simple/ClasificacionCredito_Window.h"
 #include "catalogs/simple/ConceptoScoring_Window.h"
@@ -57,6 +63,12 @@ const Ventana ventanas[] = {
     VENTANA(Calculo_Window),
     VENTANA(TipoMovimiento_Window),
     VENTANA(TipoInversion_Window),
+    VENTANA(Udis_Window),
+    VENTANA(Inpc_Window),
+    VENTANA(Recargos_Window),
+    VENTANA(Inabil_Window),
+    VENTANA(Banco_Window),
+    VENTANA(TipoPromocion_Window),
 };
 
 class Maltratadas : public ConSucursal, public testing::WithParamInterface<Ventana> {
