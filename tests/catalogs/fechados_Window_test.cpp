@@ -658,7 +658,7 @@ TEST_P(FormasFechadas, CadaCampoTieneSuAnchoYSuClase) {
       EXPECT_EQ(Combo(campo.etiqueta)->getNumVisible(), campo.columnas);
     } else if (campo.tipo == Tipo::Parrafo) {
       EXPECT_EQ(Parrafo(campo.etiqueta)->getTarget(), nullptr);
-      EXPECT_NE(dynamic_cast<FXFrame*>(Parrafo(campo.etiqueta)->getParent())->getFrameStyle() & FRAME_SUNKEN,
+      EXPECT_NE(dynamic_cast<FXPacker*>(Parrafo(campo.etiqueta)->getParent())->getFrameStyle() & FRAME_SUNKEN,
                 0u);
     } else {
       const FXTextField* texto = CampoJuntoA(forma_, campo.etiqueta);
@@ -1035,11 +1035,12 @@ TEST_F(InpcVentana, SeBuscaYSeEligePorLasDosMitadesDeLaClave) {
   Llena({"", "12"});
   Manda("&Buscar");
   EXPECT_EQ(RenglonActual(), "2024 12");
+  Enviado();
   for (const Textos& media : {Textos{"2024", "0"}, Textos{"0", "7"}}) {
     Manda("&Nuevo");
     Llena(media);
     EXPECT_EQ(Manda("&Buscar", {Respuesta::Aceptar}), Textos{"Registro NO encontrado"});
-    EXPECT_TRUE(Enviado().size() == 1u);
+    EXPECT_TRUE(Enviado().empty());  // half a key is none
   }
 }
 
@@ -1073,14 +1074,16 @@ TEST_F(BancoVentana, SinFechaViajaLaVacia) {
 
 TEST_F(BancoVentana, LaLupaParteDeSuCuentaYDejaLaHallada) {
   Registra();
-  Guion guion;
-  guion.Con([&](FXDialogBox* dialogo) {
-    EXPECT_EQ(dialogo->getMetaClass(), FXMETACLASS(Busqueda_Window));
-    EXPECT_EQ(Lista(dialogo)->getCurrentItem(), Combo("Cta. Contable:")->getCurrentItem());
-    EligeRenglon(Lista(dialogo), Lista(dialogo)->getCurrentItem() + 1);
-    Pulsa(Boton(dialogo, "&Aceptar"));
-  });
-  Pulsa(dynamic_cast<FXButton*>(Combo("Cta. Contable:")->getNext()));
+  {
+    Guion guion;
+    guion.Con([&](FXDialogBox* dialogo) {
+      EXPECT_EQ(dialogo->getMetaClass(), FXMETACLASS(Busqueda_Window));
+      EXPECT_EQ(Lista(dialogo)->getCurrentItem(), Combo("Cta. Contable:")->getCurrentItem());
+      EligeRenglon(Lista(dialogo), Lista(dialogo)->getCurrentItem() + 1);
+      Pulsa(Boton(dialogo, "&Aceptar"));
+    });
+    Pulsa(dynamic_cast<FXButton*>(Combo("Cta. Contable:")->getNext()));
+  }
   EXPECT_EQ(Pantalla()[6], "1102-02-00-00-0000");
   AceptaComoSea();
   EXPECT_EQ(base_->Valor("select cuentaid from norte.banco where no_cuenta = '0770012345'"),
@@ -1176,7 +1179,6 @@ TEST_F(PromocionVentana, LoLargoSeCortaEnUnaLetraEntera) {
   EXPECT_EQ(Pregunta("&Aceptar", Respuesta::Si), "Registrar ?");
   EXPECT_EQ(EnSuFila("descripcion"), "x" + enies.substr(0, 28));
   EXPECT_EQ(EnSuFila("condicion"), "x" + larga.substr(0, 82));
-  EXPECT_TRUE(Manda("&Aceptar").empty());  // what did not fit is no change
 }
 
 TEST_F(PromocionVentana, UnMovimientoBorradoConLaFormaAbiertaLoRechazaElServidor) {
