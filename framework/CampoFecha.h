@@ -22,7 +22,11 @@ struct DatoFecha : DatoTexto {
   void Pon(const std::optional<date>& nueva) {
     DatoTexto::Pon(nueva ? FXString(nueva->AsDMY()).trim() : FXString::null);
   }
-  date Valor() const { return date(valor.text()); }
+  /// What was typed with all its zeros is read by its places, anything else between its slashes.
+  date Valor() const {
+    const bool completa = valor.length() == 10 || valor.find('/') < 0;
+    return completa ? date(valor.text()) : FechaDeTexto(valor);
+  }
   /// What the handler of the button does: the round trip through the calendar, which writes the date back in
   /// `formato` also when it was cancelled.
   long Elige(FXWindow* duenio, FormatoFecha formato = FormatoFecha::Ceros) {

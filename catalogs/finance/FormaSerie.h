@@ -52,10 +52,10 @@ class FormaMensual : public FormaSerie<Ventana> {
  protected:
   static constexpr size_t camposDeClave = 2;
 
-  FormaMensual() {}
-  FormaMensual(FXMDIClient* area, FXMDIMenu* menu, const char* titulo, FXshort ancho, const char* serie,
-               const char* etiqueta)
-      : FormaSerie<Ventana>(area, menu, titulo, ancho) {
+  using FormaSerie<Ventana>::FormaSerie;
+
+  /// All that its constructor does.
+  void Arma(const char* serie, const char* etiqueta) {
     this->ArmaLista(serie, 170);
     FXMatrix* matriz = this->ArmaGrupo("Identificación");
     campoClave(matriz, "Año:", 4, ano);

@@ -4,13 +4,19 @@
 #include "app/sesion.h"
 #include "catalogs/assets/Activo_Window.h"
 #include "catalogs/assets/TipoDepreciaciones_Window.h"
+#include "catalogs/finance/Banco_Window.h"
 #include "catalogs/finance/Calculo_Window.h"
+#include "catalogs/finance/Inabil_Window.h"
+#include "catalogs/finance/Inpc_Window.h"
 #include "catalogs/finance/NuevoTasa_Window.h"
+#include "catalogs/finance/Recargos_Window.h"
 #include "catalogs/finance/TasaInteres_Window.h"
 #include "catalogs/finance/Tasa_Window.h"
 #include "catalogs/finance/TipoInversion_Window.h"
 #include "catalogs/finance/TipoMovimiento_Window.h"
+#include "catalogs/finance/TipoPromocion_Window.h"
 #include "catalogs/finance/TipoTasaInteres_Window.h"
+#include "catalogs/finance/Udis_Window.h"
 #include "catalogs/simple/Asesor_Window.h"
 #include "catalogs/simple/ClasificacionCredito_Window.h"
 #include "catalogs/simple/ConceptoScoring_Window.h"
@@ -68,6 +74,12 @@ const Ventana ventanas[] = {
     VENTANA(Activo_Window),
     VENTANA(TipoTasaInteres_Window),
     De<TasaInteres_Window>("TasaInteres_Window", "Error al cargar catalogo de tipo tasas."),
+    VENTANA(Udis_Window),
+    VENTANA(Inpc_Window),
+    VENTANA(Recargos_Window),
+    VENTANA(Inabil_Window),
+    VENTANA(Banco_Window),
+    VENTANA(TipoPromocion_Window),
 };
 
 class Maltratadas : public ConSucursal, public testing::WithParamInterface<Ventana> {

@@ -45,6 +45,12 @@ TYPED_TEST(FilasTest, VaciasNoTienenFilas) {
   EXPECT_EQ(fila.clave, 7);
 }
 
+TEST(MismaClave, UnaFechaEsLaMismaPorSusTresNumerosAunqueNoExista) {
+  for (const char* dia : {"2026-02-28", "2026-02-31", ""}) EXPECT_TRUE(MismaClave(date(dia), date(dia)));
+  for (const char* otro : {"2026-02-27", "2026-03-28", "2027-02-28", "2026-02-31"})
+    EXPECT_FALSE(MismaClave(date("2026-02-28"), date(otro)));
+}
+
 TYPED_TEST(FilasTest, UnaPosicionFueraNoCopiaNada) {
   for (const int clave : {10, 20, 30}) this->Pon(this->filas_, clave);
   for (const int posicion : {-1, 3, 1000}) {
