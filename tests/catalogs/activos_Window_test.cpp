@@ -1042,6 +1042,13 @@ TEST_F(ActivoVentana, CadaFechaSeGuardaSeFaltaOLaRechazaElServidor) {
   }
 }
 
+TEST_F(ActivoVentana, UnaFechaQueNoSeEscribioEsLaDeUnRegistroEnBlanco) {
+  Pon("ActivoClave", "X");
+  EXPECT_EQ(Manda("&Aceptar", {Respuesta::Aceptar}).size(), 1u);
+  EXPECT_STREQ(activo.getFecInicioDepConta().AsChar(), "1900-01-01");
+  EXPECT_STREQ(activo.getFecInicioDepFiscal().AsChar(), "1900-01-01");
+}
+
 TEST_F(ActivoVentana, CadaCalendarioParteDeSuFechaYLaEscribeSinCeros) {
   const struct {
     const char *antes, *dia, *despues;  // a day that is picked; null for a calendar that is cancelled
