@@ -15,6 +15,7 @@
 #include "tests/support/Cortes.h"
 #include "tests/support/Espia.h"
 #include "tests/support/Guion.h"
+#include "tests/support/Maltrato.h"
 #include "tests/support/Pantalla.h"
 #include "tests/support/Principal.h"
 #include "tests/support/Registros.h"
@@ -164,17 +165,24 @@ class ConActivos : public testing::Test {
     return *std::find_if(tabla.campos.begin(), tabla.campos.end(),
                          [&](const CampoVisto& campo) { return campo.columna == columna; });
   }
+  /// Brings the page with that tab to the front.
+  static void Hojea(FXTabItem* lengueta) {
+    if (lengueta->getNext()->shown()) return;
+    Pulsa(lengueta);
+    EXPECT_TRUE(BombeaHasta([&] { return lengueta->getNext()->shown() != 0; }));
+  }
+  static void PonALaVista(FXWindow* pieza) {
+    FXWindow* pagina = pieza;
+    while (pagina != nullptr && dynamic_cast<FXTabBook*>(pagina->getParent()) == nullptr)
+      pagina = pagina->getParent();
+    if (pagina != nullptr) Hojea(dynamic_cast<FXTabItem*>(pagina->getPrev()));
+  }
   /// The widget of a column, its page in front.
   template <class Clase>
   Clase* Es(const std::string& columna) {
-    const CampoVisto& campo = Campo(columna);
-    auto* const pieza = JuntoA<Clase>(forma_, campo.etiqueta);
-    if (Usable(pieza)) return pieza;
-    for (FXTabItem* pagina : Todos<FXTabItem>(forma_)) {
-      Pulsa(pagina);
-      if (Usable(pieza)) return pieza;
-    }
-    throw std::runtime_error("en ninguna página se alcanza " + columna);
+    auto* const pieza = JuntoA<Clase>(forma_, Campo(columna).etiqueta);
+    PonALaVista(pieza);
+    return pieza;
   }
   FXTextField* Texto(const std::string& columna) { return Es<FXTextField>(columna); }
   FXComboBox* Combo(const std::string& columna) { return Es<FXComboBox>(columna); }
@@ -461,8 +469,9 @@ TEST_P(FormasActivos, NadaSeVeCortado) {
   ASSERT_TRUE(BombeaHasta([&] { return Grupo(forma_, tabla.cajas[0])->getHeight() > 1; }));  // laid out
   ExigeNadaCortado(forma_);
   for (const CampoVisto& campo : tabla.campos) {
-    auto* const pieza = Es<FXWindow>(campo.columna);
-    Bombea();
+    FXWindow* const pieza = PiezaJuntoA(forma_, campo.etiqueta);
+    PonALaVista(pieza);
+    Bombea(20);
     EXPECT_GE(pieza->getWidth(), pieza->getDefaultWidth()) << campo.etiqueta;
     EXPECT_GE(pieza->getHeight(), pieza->getDefaultHeight()) << campo.etiqueta;
     EXPECT_LE(pieza->getX() + pieza->getWidth(), pieza->getParent()->getWidth()) << campo.etiqueta;
@@ -912,7 +921,7 @@ TEST_F(ActivoVentana, TieneTresPaginasYMandaCuandoCambian) {
   EXPECT_EQ(libro->getTarget(), forma_);
   EXPECT_EQ(libro->getSelector(), FXSelector{Activo_Window::ID_PANEL});
   EXPECT_TRUE(Usable(JuntoA<FXTextField>(forma_, "Clave:")));
-  Pulsa(Todos<FXTabItem>(forma_).at(2));
+  Hojea(Todos<FXTabItem>(forma_).at(2));
   EXPECT_TRUE(Usable(JuntoA<FXTextField>(forma_, "Monto Maximo Fiscal Deducible:")));
   EXPECT_FALSE(Usable(JuntoA<FXTextField>(forma_, "Clave:")));
 }
@@ -1033,6 +1042,13 @@ TEST_F(ActivoVentana, CadaFechaSeGuardaSeFaltaOLaRechazaElServidor) {
   }
 }
 
+TEST_F(ActivoVentana, UnaFechaQueNoSeEscribioEsLaDeUnRegistroEnBlanco) {
+  Pon("ActivoClave", "X");
+  EXPECT_EQ(Manda("&Aceptar", {Respuesta::Aceptar}).size(), 1u);
+  EXPECT_STREQ(activo.getFecInicioDepConta().AsChar(), "1900-01-01");
+  EXPECT_STREQ(activo.getFecInicioDepFiscal().AsChar(), "1900-01-01");
+}
+
 TEST_F(ActivoVentana, CadaCalendarioParteDeSuFechaYLaEscribeSinCeros) {
   const struct {
     const char *antes, *dia, *despues;  // a day that is picked; null for a calendar that is cancelled
@@ -1061,6 +1077,21 @@ TEST_F(ActivoVentana, CadaCalendarioParteDeSuFechaYLaEscribeSinCeros) {
   Escribe(Texto("FecInicioDepConta"), "0/0/0");
   EXPECT_EQ(Manda("&Aceptar", {Respuesta::Aceptar}),
             Textos{"No ha especificado la fecha de inicio de depreciación contable"});
+}
+
+TEST_F(ActivoVentana, UnUsuarioDescuidadoNoTumbaNingunaPagina) {
+  for (FXTabItem* lengueta : Todos<FXTabItem>(forma_)) {
+    SCOPED_TRACE(Rotulo(lengueta));
+    Hojea(lengueta);
+    Maltrata(lengueta->getNext());
+    for (const std::string& texto : TextosDesmedidos()) {
+      TecleaEnTodo(forma_, texto);
+      AceptaComoSea();
+    }
+  }
+  EXPECT_EQ(Profundidad(), 0);
+  EXPECT_TRUE(Busca("1").empty());
+  EXPECT_NE(Pantalla(), Vacia());
 }
 
 TEST_F(ActivoVentana, UnRenglonLargoCabeEnteroEnElBorrador) {

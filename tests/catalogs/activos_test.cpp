@@ -31,7 +31,7 @@ using T = cTipoDepreciacion;
 const std::vector<CampoDe<T>> campos = {
     {CAMPO(DepreciacionID), 0, 0, "0", "0"},
     {CAMPO(DepreDescripcion), 31, 6, "Prueba", "Otra"},
-    {CAMPO(DepreTasaContable), 0, 7, "10.500000", "33.330002"},
+    {CAMPO(DepreTasaContable), 0, 7, "10.500000", "33.375000"},
     {CAMPO(DepreTasaFiscal), 0, 8, "0.250000", "30.000000"},
     {CAMPO(MaximoDeducible), 0, 9, "175000.500000", "0.000000"},
     {CAMPO(DepreMoneda), 3, 1, "MX", "CA"},
@@ -48,7 +48,7 @@ const std::vector<Prueba> reglas = {
     {"DepreTasaFiscal", "-0.5", "La tasa fiscal de depreciación no puede ser negativa"},
     {"MaximoDeducible", "-0.01", "El maximo deducible no puede ser negativo"},
     {"DepreMoneda", "", "No ha especificado la moneda"},
-    {"DeprePorcentaje", "-1e-30", "El porcentaje de depreciación no puede ser negativo"},
+    {"DeprePorcentaje", "-0.5", "El porcentaje de depreciación no puede ser negativo"},
     {"Depre_Activo", "", "No ha especificado la cuenta de activo"},
     {"Depre_CtaDepre", "", "No ha especificado la cuenta de depreciación"},
     {"Depre_CtaGasto", "", "No ha especificado la cuenta de gasto"},
@@ -103,8 +103,8 @@ const std::vector<CampoDe<T>> campos = {
     {CAMPO(ActivoClave), 20, 2, "PRUE-1", "OTRA-2"},
     {CAMPO(ActivoDescripcion), 258, 3, "Prueba", "Otra,\nen dos líneas"},
     {CAMPO(Activo_Valor), 0, 4, "14500.250000", "0.000000"},
-    {CAMPO(PorcenVidaUtil), 0, 5, "80.500000", "33.330002"},
-    {CAMPO(ValorMercado), 0, 6, "9000.000000", "123456.781250"},
+    {CAMPO(PorcenVidaUtil), 0, 5, "80.500000", "33.375000"},
+    {CAMPO(ValorMercado), 0, 6, "9000.000000", "123456.750000"},
     {CAMPO(Localizacion), 50, 7, "Bodega", "Matriz, primer piso"},
     {CAMPO(ActivoNoSerie), 20, 8, "FIC30001", "FIC30002"},
     {FECHA(FecInicioDepConta), 0, 9, "2006-03-05", "2024-02-29"},
@@ -386,7 +386,7 @@ TEST_P(ActivosTest, BorrarYBuscarMandanCualquierClaveQueNoSeaCero) {
     Salida salida;
     ficha->Find();
     EXPECT_EQ(espia.Sentencias(), Textos{Texto(tabla.busqueda, *ficha)});
-    EXPECT_NE(ficha->Estado().find("] nuevo"), std::string::npos);
+    EXPECT_NE(ficha->Estado().find(" nuevo"), std::string::npos);
     espia.Vacia();
     espia.Cuando("", [](PGconn*, const char*) { return PQmakeEmptyPGresult(nullptr, PGRES_TUPLES_OK); });
     ficha->Delete();
@@ -649,6 +649,15 @@ TEST(cActivo, ElConstructorCompletoGuardaTodoTalCualEnElOrdenDeLosMiembros) {
                     "19.500000", "20.500000",  "u", "22"}));
   EXPECT_FALSE(activo.getDataChanged());
   EXPECT_TRUE(activo.IsNew());
+}
+
+TEST(cActivo, LosMontosViajanConLosDigitosDeSuPrecisionSencilla) {
+  cActivo activo(1, 2, "c", "d", 123456.78f, 33.33f, 0.0f, "h", "i", date(5, 3, 2026), 11.5f, 12.5f, 1,
+                 date(5, 3, 2026), "S", 16.5f, 17.5f, 1, 19.5f, 20.5f, "u", 2, true, false);
+  Espia espia;
+  espia.Cuando("", [](PGconn*, const char*) { return PQmakeEmptyPGresult(nullptr, PGRES_TUPLES_OK); });
+  activo.Update();
+  EXPECT_EQ(espia.Cuantas(",'c','d',123456.781250,33.330002,0.000000,'h',"), 1u);
 }
 
 TEST(cActivo, UnaFechaQueNoCabeSeMandaCortadaADiezLetras) {
