@@ -89,20 +89,21 @@ Usuario_Window::Usuario_Window(FXMDIClient* area, FXMDIMenu* menu)
 }
 
 void Usuario_Window::ArmaArbol(FXComposite* marco) {
-  lstUsuarios = new FXFoldingList(marco, this, ID_LISTA,
-                                  FOLDINGLIST_SHOWS_LINES | FOLDINGLIST_SHOWS_BOXES |
-                                      FOLDINGLIST_BROWSESELECT | LAYOUT_FILL_X | LAYOUT_FILL_Y);
+  lstUsuarios =
+      new FXFoldingList(marco, this, ID_LISTA,
+                        FOLDINGLIST_SHOWS_LINES | FOLDINGLIST_SHOWS_BOXES | FOLDINGLIST_BROWSESELECT |
+                            HSCROLLER_NEVER | LAYOUT_FILL_X | LAYOUT_FILL_Y);
 }
 
 void Usuario_Window::ArmaIdentificacion(FXMatrix* matriz) {
-  FXMatrix* const campos = campoMatriz(matriz, 4);
-  campoTexto(campos, "Login:", 20, login, JUSTIFY_LEFT | TEXTFIELD_ENTER_ONLY);
-  tipo.combo = campoCombo(campos, "Tipo:", 6, this, ID_TIPOUSUARIO);
-  jefe.combo = campoCombo(campos, "Jefe:", 6, this, ID_DEPENDE);
-  for (int resto = 0; resto < 2; ++resto) new FXFrame(campos, FRAME_NONE);  // of the places of the row
-  campoTexto(campos, "Email:", 30, email);
-  campoTexto(campos, "Impresora:", 11, impresora);
-  campoParrafo(campoMatriz(campos, 2), "Obs.:", 2, 60, observaciones);
+  matriz->setNumColumns(4);
+  campoTexto(matriz, "Login:", 20, login, JUSTIFY_LEFT | TEXTFIELD_ENTER_ONLY);
+  tipo.combo = campoCombo(matriz, "Tipo:", 6, this, ID_TIPOUSUARIO);
+  jefe.combo = campoCombo(matriz, "Jefe:", 6, this, ID_DEPENDE);
+  for (int resto = 0; resto < 2; ++resto) new FXFrame(matriz, FRAME_NONE);  // of the four places of the row
+  campoTexto(matriz, "Email:", 30, email);
+  campoTexto(matriz, "Impresora:", 11, impresora);
+  campoParrafo(campoMatriz(matriz, 2), "Obs.:", 2, 60, observaciones);
   observaciones.campo->setTarget(this);
   observaciones.campo->setSelector(ID_SALIR);
 }
@@ -122,6 +123,7 @@ void Usuario_Window::ArmaGenerales(FXComposite* pagina) {
 void Usuario_Window::ArmaDomicilio(FXComposite* pagina) {
   FXMatrix* matriz = ArmaMatriz(pagina, 5, LAYOUT_FILL_X);
   campoEntero(matriz, "          C.P.:", 5, codPostal);
+  codPostal.campo->setLayoutHints(LAYOUT_CENTER_Y);  // its button stands beside it
   new FXButton(matriz, "...", nullptr, this, ID_CP, FRAME_RAISED | FRAME_THICK | LAYOUT_CENTER_Y);
   estado.combo = campoCombo(matriz, "     Estado:", 10, this, ID_ESTADOS);
   matriz = ArmaMatriz(pagina, 2, LAYOUT_FILL_X);
@@ -202,10 +204,8 @@ void Usuario_Window::Clear() {
   for (DatoOpcion* opcion : {&estado, &municipio, &colonia}) opcion->Pon({});
   cUsuario::Permisos.clear();
   for (const auto& [fila, modulo] : Catalogo::Modulos) {
-    cPermisosModulos permiso;
-    permiso.setClaveModulo(modulo.getClaveModulo());
-    permiso.setDescripcionModulo(modulo.getDescriModulo());
-    permiso.setPermiso("N");
+    const cPermisosModulos permiso(0, modulo.getClaveModulo(), "", "N", modulo.getDescriModulo(), false,
+                                   false, false);
     cUsuario::Permisos.emplace(static_cast<int>(cUsuario::Permisos.size()), permiso);
   }
   MuestraPermisos();
@@ -270,6 +270,8 @@ long Usuario_Window::onCmdAgregar(FXObject*, FXSelector, void*) {
       return 1;
     if (nuevo) {
       usuario.AddNew();
+      // The server has given the new user his own: the next save must not send these.
+      for (auto& [renglon, permiso] : cUsuario::Permisos) permiso.setDataChanged(false);
     } else {
       usuario.Update();
     }
