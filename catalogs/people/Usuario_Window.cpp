@@ -93,6 +93,19 @@ void Usuario_Window::ArmaArbol(FXComposite* marco) {
       new FXFoldingList(marco, this, ID_LISTA,
                         FOLDINGLIST_SHOWS_LINES | FOLDINGLIST_SHOWS_BOXES | FOLDINGLIST_BROWSESELECT |
                             HSCROLLER_NEVER | LAYOUT_FILL_X | LAYOUT_FILL_Y);
+  VaciaArbol();
+}
+
+/// Leaves the list with its headers and its root, which it answers.
+FXFoldingItem* Usuario_Window::VaciaArbol() {
+  lstUsuarios->clearItems();
+  while (lstUsuarios->getNumHeaders() > 0) lstUsuarios->removeHeader(0);
+  lstUsuarios->appendHeader("Usuario del Sistema", nullptr, 195);
+  lstUsuarios->appendHeader("Login", nullptr, 0);  // hidden, it carries the key
+  FXIcon* const dibujo = icono(getApp(), iconos::user2);
+  FXFoldingItem* const raiz = lstUsuarios->prependItem(nullptr, "Usuarios\tLogin", dibujo, dibujo);
+  lstUsuarios->expandTree(raiz);
+  return raiz;
 }
 
 void Usuario_Window::ArmaIdentificacion(FXMatrix* matriz) {
@@ -175,13 +188,8 @@ void Usuario_Window::Prepara() {
 }
 
 long Usuario_Window::Load() {
-  lstUsuarios->clearItems();
-  while (lstUsuarios->getNumHeaders() > 0) lstUsuarios->removeHeader(0);
-  lstUsuarios->appendHeader("Usuario del Sistema", nullptr, 195);
-  lstUsuarios->appendHeader("Login", nullptr, 0);  // hidden, it carries the key
+  FXFoldingItem* const raiz = VaciaArbol();
   FXIcon* const dibujo = icono(getApp(), iconos::user2);
-  FXFoldingItem* const raiz = lstUsuarios->prependItem(nullptr, "Usuarios\tLogin", dibujo, dibujo);
-  lstUsuarios->expandTree(raiz);
   jefe.combo->clearItems();
   jefe.combo->appendItem("Ninguno");
   catalogo.LoadUsuarios();

@@ -6,6 +6,9 @@
 #include "app/Aplicacion.h"
 #include "app/Caja.h"
 #include "app/Traductor.h"
+#include "catalogs/people/Bien_Window.h"
+#include "catalogs/people/CiudadMex_Window.h"
+#include "catalogs/people/EstadoMex_Window.h"
 #include "catalogs/simple/Asesor_Window.h"
 #include "catalogs/simple/ClasificacionCredito_Window.h"
 #include "catalogs/simple/Grupo_Window.h"
@@ -16,6 +19,7 @@
 #include "icons/iconos.h"
 #include "widgets/Calendario_Window.h"
 #include "widgets/cFecha.h"
+#include "widgets/cajas.h"
 
 namespace {
 
@@ -75,6 +79,8 @@ class Muestrario : public Caja {
   static void Dialogo(Muestrario* principal) {
     Ventana(principal).execute(PLACEMENT_OWNER);
   }
+  /// The first good of the user's own person, or a new one, saved with the person at once.
+  static void Bien(Muestrario* principal);
   /// The child of the window that is of this class.
   template <class Clase>
   Clase* Parte() {
@@ -86,7 +92,7 @@ class Muestrario : public Caja {
   static const struct Muestra {
     const char* etiqueta;
     void (*abre)(Muestrario* principal);
-  } muestras[7];
+  } muestras[10];
 
   FXMenuPane* panel = nullptr;
 };
@@ -99,11 +105,27 @@ const Muestrario::Muestra Muestrario::muestras[] = {
     {"&Fecha", Muestrario::Dialogo<Fecha_Window>},
     {"&Grupos", Muestrario::Hija<Grupo_Window>},
     {"C&uentas", Muestrario::Dialogo<Busqueda_Window>},
+    {"&Estados", Muestrario::Dialogo<EstadoMex_Window>},
+    {"C&iudades", Muestrario::Dialogo<CiudadMex_Window>},
+    {"&Bienes", Muestrario::Bien},
 };
+
+void Muestrario::Bien(Muestrario* principal) {
+  cUsuario yo;
+  yo.setUsuarioID(glogin);
+  try {
+    yo.Find();
+    const bool tiene = !yo.getBienes().ListaVacia();
+    if (Bien_Window(principal, &yo, tiene ? 0 : -1).execute(PLACEMENT_OWNER) != FALSE) yo.cSujeto::Update();
+  } catch (char* texto) {
+    yo.RollBackTransaction();
+    cajaError(principal, "Bien", texto);
+  }
+}
 
 FXDEFMAP(Muestrario)
 MuestrarioMap[] = {
-    FXMAPFUNCS(SEL_COMMAND, Muestrario::ID_MUESTRA, Muestrario::ID_MUESTRA + 6, Muestrario::onCmdMuestra),
+    FXMAPFUNCS(SEL_COMMAND, Muestrario::ID_MUESTRA, Muestrario::ID_MUESTRA + 9, Muestrario::onCmdMuestra),
 };
 FXIMPLEMENT(Muestrario, Caja, MuestrarioMap, ARRAYNUMBER(MuestrarioMap))
 

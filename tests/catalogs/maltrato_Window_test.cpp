@@ -5,6 +5,8 @@
 #include "catalogs/finance/Calculo_Window.h"
 #include "catalogs/finance/TipoInversion_Window.h"
 #include "catalogs/finance/TipoMovimiento_Window.h"
+#include "catalogs/people/CiudadMex_Window.h"
+#include "catalogs/people/EstadoMex_Window.h"
 #include "catalogs/simple/Asesor_Window.h"
 #include "catalogs/simple/ClasificacionCredito_Window.h"
 #include "catalogs/simple/ConceptoScoring_Window.h"
@@ -57,6 +59,8 @@ const Ventana ventanas[] = {
     VENTANA(Calculo_Window),
     VENTANA(TipoMovimiento_Window),
     VENTANA(TipoInversion_Window),
+    VENTANA(EstadoMex_Window),
+    VENTANA(CiudadMex_Window),
 };
 
 class Maltratadas : public ConSucursal, public testing::WithParamInterface<Ventana> {
