@@ -89,20 +89,34 @@ Usuario_Window::Usuario_Window(FXMDIClient* area, FXMDIMenu* menu)
 }
 
 void Usuario_Window::ArmaArbol(FXComposite* marco) {
-  lstUsuarios = new FXFoldingList(marco, this, ID_LISTA,
-                                  FOLDINGLIST_SHOWS_LINES | FOLDINGLIST_SHOWS_BOXES |
-                                      FOLDINGLIST_BROWSESELECT | LAYOUT_FILL_X | LAYOUT_FILL_Y);
+  lstUsuarios =
+      new FXFoldingList(marco, this, ID_LISTA,
+                        FOLDINGLIST_SHOWS_LINES | FOLDINGLIST_SHOWS_BOXES | FOLDINGLIST_BROWSESELECT |
+                            HSCROLLER_NEVER | LAYOUT_FILL_X | LAYOUT_FILL_Y);
+  VaciaArbol();
+}
+
+/// Leaves the list with its headers and its root, which it answers.
+FXFoldingItem* Usuario_Window::VaciaArbol() {
+  lstUsuarios->clearItems();
+  while (lstUsuarios->getNumHeaders() > 0) lstUsuarios->removeHeader(0);
+  lstUsuarios->appendHeader("Usuario del Sistema", nullptr, 195);
+  lstUsuarios->appendHeader("Login", nullptr, 0);  // hidden, it carries the key
+  FXIcon* const dibujo = icono(getApp(), iconos::user2);
+  FXFoldingItem* const raiz = lstUsuarios->prependItem(nullptr, "Usuarios\tLogin", dibujo, dibujo);
+  lstUsuarios->expandTree(raiz);
+  return raiz;
 }
 
 void Usuario_Window::ArmaIdentificacion(FXMatrix* matriz) {
-  FXMatrix* const campos = campoMatriz(matriz, 4);
-  campoTexto(campos, "Login:", 20, login, JUSTIFY_LEFT | TEXTFIELD_ENTER_ONLY);
-  tipo.combo = campoCombo(campos, "Tipo:", 6, this, ID_TIPOUSUARIO);
-  jefe.combo = campoCombo(campos, "Jefe:", 6, this, ID_DEPENDE);
-  for (int resto = 0; resto < 2; ++resto) new FXFrame(campos, FRAME_NONE);  // of the places of the row
-  campoTexto(campos, "Email:", 30, email);
-  campoTexto(campos, "Impresora:", 11, impresora);
-  campoParrafo(campoMatriz(campos, 2), "Obs.:", 2, 60, observaciones);
+  matriz->setNumColumns(4);
+  campoTexto(matriz, "Login:", 20, login, JUSTIFY_LEFT | TEXTFIELD_ENTER_ONLY);
+  tipo.combo = campoCombo(matriz, "Tipo:", 6, this, ID_TIPOUSUARIO);
+  jefe.combo = campoCombo(matriz, "Jefe:", 6, this, ID_DEPENDE);
+  for (int resto = 0; resto < 2; ++resto) new FXFrame(matriz, FRAME_NONE);  // of the four places of the row
+  campoTexto(matriz, "Email:", 30, email);
+  campoTexto(matriz, "Impresora:", 11, impresora);
+  campoParrafo(campoMatriz(matriz, 2), "Obs.:", 2, 60, observaciones);
   observaciones.campo->setTarget(this);
   observaciones.campo->setSelector(ID_SALIR);
 }
@@ -122,6 +136,7 @@ void Usuario_Window::ArmaGenerales(FXComposite* pagina) {
 void Usuario_Window::ArmaDomicilio(FXComposite* pagina) {
   FXMatrix* matriz = ArmaMatriz(pagina, 5, LAYOUT_FILL_X);
   campoEntero(matriz, "          C.P.:", 5, codPostal);
+  codPostal.campo->setLayoutHints(LAYOUT_CENTER_Y);  // its button stands beside it
   new FXButton(matriz, "...", nullptr, this, ID_CP, FRAME_RAISED | FRAME_THICK | LAYOUT_CENTER_Y);
   estado.combo = campoCombo(matriz, "     Estado:", 10, this, ID_ESTADOS);
   matriz = ArmaMatriz(pagina, 2, LAYOUT_FILL_X);
@@ -173,13 +188,8 @@ void Usuario_Window::Prepara() {
 }
 
 long Usuario_Window::Load() {
-  lstUsuarios->clearItems();
-  while (lstUsuarios->getNumHeaders() > 0) lstUsuarios->removeHeader(0);
-  lstUsuarios->appendHeader("Usuario del Sistema", nullptr, 195);
-  lstUsuarios->appendHeader("Login", nullptr, 0);  // hidden, it carries the key
+  FXFoldingItem* const raiz = VaciaArbol();
   FXIcon* const dibujo = icono(getApp(), iconos::user2);
-  FXFoldingItem* const raiz = lstUsuarios->prependItem(nullptr, "Usuarios\tLogin", dibujo, dibujo);
-  lstUsuarios->expandTree(raiz);
   jefe.combo->clearItems();
   jefe.combo->appendItem("Ninguno");
   catalogo.LoadUsuarios();
@@ -202,10 +212,8 @@ void Usuario_Window::Clear() {
   for (DatoOpcion* opcion : {&estado, &municipio, &colonia}) opcion->Pon({});
   cUsuario::Permisos.clear();
   for (const auto& [fila, modulo] : Catalogo::Modulos) {
-    cPermisosModulos permiso;
-    permiso.setClaveModulo(modulo.getClaveModulo());
-    permiso.setDescripcionModulo(modulo.getDescriModulo());
-    permiso.setPermiso("N");
+    const cPermisosModulos permiso(0, modulo.getClaveModulo(), "", "N", modulo.getDescriModulo(), false,
+                                   false, false);
     cUsuario::Permisos.emplace(static_cast<int>(cUsuario::Permisos.size()), permiso);
   }
   MuestraPermisos();
@@ -270,6 +278,8 @@ long Usuario_Window::onCmdAgregar(FXObject*, FXSelector, void*) {
       return 1;
     if (nuevo) {
       usuario.AddNew();
+      // The server has given the new user his own: the next save must not send these.
+      for (auto& [renglon, permiso] : cUsuario::Permisos) permiso.setDataChanged(false);
     } else {
       usuario.Update();
     }

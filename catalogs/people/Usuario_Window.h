@@ -84,6 +84,7 @@ class Usuario_Window : public Forma<Usuario_Window, FXMDIChild> {
   using cRegistro = cUsuario;
 
   void ArmaArbol(FXComposite* marco);
+  FXFoldingItem* VaciaArbol();
   void ArmaIdentificacion(FXMatrix* matriz);
   void ArmaGenerales(FXComposite* pagina);
   void ArmaDomicilio(FXComposite* pagina);

@@ -8,6 +8,9 @@
 #include "app/Traductor.h"
 #include "catalogs/assets/Activo_Window.h"
 #include "catalogs/assets/TipoDepreciaciones_Window.h"
+#include "catalogs/people/Bien_Window.h"
+#include "catalogs/people/CiudadMex_Window.h"
+#include "catalogs/people/EstadoMex_Window.h"
 #include "catalogs/simple/Asesor_Window.h"
 #include "catalogs/simple/ClasificacionCredito_Window.h"
 #include "catalogs/simple/Grupo_Window.h"
@@ -20,6 +23,7 @@
 #include "reports/Sujeto_Window.h"
 #include "widgets/Calendario_Window.h"
 #include "widgets/cFecha.h"
+#include "widgets/cajas.h"
 
 namespace {
 
@@ -62,7 +66,7 @@ class Muestrario : public Caja {
   FXDECLARE(Muestrario)
  public:
   enum { ID_MUESTRA = Caja::ID_CLOCK + 1 };
-  static constexpr int NumMuestras = 11;
+  static constexpr int NumMuestras = 14;
 
   explicit Muestrario(FXApp* app);
   ~Muestrario() override { delete panel; }
@@ -80,6 +84,8 @@ class Muestrario : public Caja {
   static void Dialogo(Muestrario* principal) {
     Ventana(principal).execute(PLACEMENT_OWNER);
   }
+  /// The first good of the user's own person, or a new one, saved with the person at once.
+  static void Bien(Muestrario* principal);
   /// The child of the window that is of this class.
   template <class Clase>
   Clase* Parte() {
@@ -108,7 +114,23 @@ const Muestrario::Muestra Muestrario::muestras[] = {
     {"Ac&tivos", Muestrario::Dialogo<Activo_Window>},
     {"P&re-cierre", Muestrario::Dialogo<PreCierre_Window>},
     {"Repor&te de personas", Muestrario::Dialogo<Sujeto_Window>},
+    {"&Estados", Muestrario::Dialogo<EstadoMex_Window>},
+    {"C&iudades", Muestrario::Dialogo<CiudadMex_Window>},
+    {"&Bienes", Muestrario::Bien},
 };
+
+void Muestrario::Bien(Muestrario* principal) {
+  cUsuario yo;
+  yo.setUsuarioID(glogin);
+  try {
+    yo.Find();
+    const bool tiene = !yo.getBienes().ListaVacia();
+    if (Bien_Window(principal, &yo, tiene ? 0 : -1).execute(PLACEMENT_OWNER) != FALSE) yo.cSujeto::Update();
+  } catch (char* texto) {
+    yo.RollBackTransaction();
+    cajaError(principal, "Bien", texto);
+  }
+}
 
 FXDEFMAP(Muestrario)
 MuestrarioMap[] = {

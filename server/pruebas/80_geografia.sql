@@ -49,7 +49,7 @@ SELECT is(como('adriana', 'norte', sentencia), esperado, sentencia)
      'En otro estado,Villa'),
     ($$SELECT count(*) FROM spsciudadxedo(34)$$, '0'),
     ($$SELECT count(*) = (SELECT count(*) FROM ciudadesmex) FROM spsciudadmex(0)$$, 'true'),
-    ($$SELECT count(*) = (SELECT count(*) FROM ciudadesmex) FROM spsciudadxedo(0)$$, 'true'),
+    ($$SELECT count(*) FROM spsciudadxedo(0)$$, '0'),
     -- neighbourhoods
     ($$select spicolonia(129,'El Muelle                                         ',98765,9);$$, '1281'),
     ($$SELECT coloniaid || '|' || ciudadmexid || '|' || nombrecolonia || '|' || cp || '|' || tipoasentamientoid
@@ -65,6 +65,7 @@ SELECT is(como('adriana', 'norte', sentencia), esperado, sentencia)
      '131|La Playa|98764|2'),
     ($$select spucolonia(9999,131,'La Playa',98764,2);$$, 'La colonia 9999 no existe'),
     ($$SELECT count(*) FROM spscolonias(131)$$, '1'),
+    ($$SELECT count(*) FROM spscolonias(0)$$, '0'),
     ($$SELECT nombrecolonia FROM spscoloniacp(98764)$$, 'La Playa'),
     ($$SELECT count(*) FROM spscoloniacp(1)$$, '0'),
     ($$SELECT count(*) FROM spscolonia(0)$$, '1281'),

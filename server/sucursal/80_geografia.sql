@@ -116,7 +116,7 @@ LANGUAGE sql STABLE
 BEGIN ATOMIC
   SELECT c.ciudadmexid, c.estadomexid, c.claveciudadmex, c.nombreciudadmex
     FROM ciudadesmex c
-   WHERE coalesce(estado, 0) = 0 OR c.estadomexid = estado
+   WHERE c.estadomexid = estado
    ORDER BY c.ciudadmexid;
 END;
 
@@ -185,7 +185,7 @@ LANGUAGE sql STABLE
 BEGIN ATOMIC
   SELECT c.coloniaid, c.ciudadmexid, c.nombrecolonia, c.cp, c.tipoasentamientoid
     FROM colonias c
-   WHERE coalesce(ciudad, 0) = 0 OR c.ciudadmexid = ciudad
+   WHERE c.ciudadmexid = ciudad
    ORDER BY c.coloniaid;
 END;
 

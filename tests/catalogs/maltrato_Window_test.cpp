@@ -17,6 +17,8 @@
 #include "catalogs/finance/TipoPromocion_Window.h"
 #include "catalogs/finance/TipoTasaInteres_Window.h"
 #include "catalogs/finance/Udis_Window.h"
+#include "catalogs/people/CiudadMex_Window.h"
+#include "catalogs/people/EstadoMex_Window.h"
 #include "catalogs/simple/Asesor_Window.h"
 #include "catalogs/simple/ClasificacionCredito_Window.h"
 #include "catalogs/simple/ConceptoScoring_Window.h"
@@ -80,6 +82,8 @@ const Ventana ventanas[] = {
     VENTANA(Inabil_Window),
     VENTANA(Banco_Window),
     VENTANA(TipoPromocion_Window),
+    VENTANA(EstadoMex_Window),
+    VENTANA(CiudadMex_Window),
 };
 
 class Maltratadas : public ConSucursal, public testing::WithParamInterface<Ventana> {
