@@ -374,7 +374,7 @@ TEST_F(PreCierre_WindowTest, ElRenglonByteAByte) {
     ASSERT_EQ(todo.substr(lugar, esperado.size()), esperado);
     lugar += esperado.size();
   }
-  EXPECT_EQ(todo.substr(lugar, 9), ",,,,,,,,-");
+  EXPECT_EQ(todo.substr(lugar, 8), ",,,,,,,,");
 }
 
 TEST_F(PreCierre_WindowTest, CadaTotalQuedaBajoSuColumna) {
