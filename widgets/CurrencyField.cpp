@@ -3,6 +3,10 @@
 #include <cmath>
 
 void CurrencyField::set(const FXString& texto) {
+  if (texto.contains(',') == 0) {
+    valor_ = FXDoubleVal(texto);
+    return;
+  }
   FXString sinComas = texto;
   sinComas.substitute(",", "");
   valor_ = FXDoubleVal(sinComas);

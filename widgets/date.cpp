@@ -28,6 +28,15 @@ int SumaAnios(int anio, int n) {
   return static_cast<int>(static_cast<unsigned>(anio) + static_cast<unsigned>(n));
 }
 
+// Writes a number, which must not have more, in `ancho` digits with `detras` behind them; answers the place
+// after.
+char* PonPieza(char* lugar, int numero, int ancho, char detras) {
+  char* const fin = lugar + ancho;
+  *fin = detras;
+  for (char* cifra = fin; cifra != lugar; numero /= 10) *--cifra = static_cast<char>('0' + numero % 10);
+  return fin + 1;
+}
+
 date Camina(date d, unsigned pasos, date (*paso)(const date&)) {
   if (!d.valid()) return date();
   for (; pasos > 0; --pasos) d = paso(d);
@@ -79,6 +88,13 @@ date& date::operator=(const date& d) {
 }
 
 void date::Formatea() {
+  const auto cabe = [](int numero, int tope) { return numero >= 0 && numero <= tope; };
+  if (cabe(day_, 99) && cabe(month_, 99) && cabe(year_, 9999)) {
+    // Nearly all of them; an export formats them by the hundred thousand.
+    PonPieza(PonPieza(PonPieza(pantalla_, day_, 2, '/'), month_, 2, '/'), year_, 4, '\0');
+    PonPieza(PonPieza(PonPieza(servidor_, year_, 4, '-'), month_, 2, '-'), day_, 2, '\0');
+    return;
+  }
   FormateaTexto(pantalla_, "%02d/%02d/%04d", day_, month_, year_);
   FormateaTexto(servidor_, "%04d-%02d-%02d", year_, month_, day_);
 }

@@ -1,5 +1,18 @@
 # The windows that no option opens yet, and a date as the forms ask for one.
+# A stand-in for the printer, first on the path of the client: keeps what it is called with and what it would print.
+pon_impresora() {
+  mkdir -p "$temporal/bin"
+  cat >"$temporal/bin/lpr" <<'LPR'
+#!/bin/sh
+echo "$*" >"$HOME/impreso.orden"
+cat "$2" >"$HOME/impreso.txt"
+LPR
+  chmod +x "$temporal/bin/lpr"
+  PATH=$temporal/bin:$PATH
+}
+
 paso 'Se abre el muestrario'
+pon_impresora
 abre_cliente muestrario
 espera_ventana 'Login'
 teclea shift+Tab
@@ -102,6 +115,53 @@ teclea shift+Tab
 exige_campo '02/01/2026'
 captura fecha-elegida
 teclea alt+c
+
+cierra_reporte() {
+  teclea Escape
+  espera_ventana "$1"
+}
+
+paso 'Se corre el pre-cierre del mes pasado y se exporta'
+dia=$(date -d "$(date +%Y-%m-01) -1 day" +%d/%m/%Y)
+muestra_ventana 8
+espera_ventana 'Pre-Cierre'
+escribe "$dia"
+captura precierre
+teclea alt+p
+espera_ventana 'Pre-Corte'
+captura precierre-pregunta
+teclea alt+s
+espera 'no aparece el resultado' es_otra 'Pre-Corte' "$ventana"
+exige_traza "select * from precierre('$dia');"
+responde 'Pre-Corte' Return precierre-resultado
+espera_ventana 'Pre-Cierre'
+teclea Tab Tab Tab Tab space # &Consulta: &Cerrar has the same key
+espera_ventana 'Reporte'
+exige_traza 'Termina generacion correctamente'
+captura precierre-exportado
+exige_dato "SELECT count(*) FROM precorte" "$(($(wc -l <"$HOME/reporte.csv") - 2))"
+cierra_reporte 'Pre-Cierre'
+teclea Escape
+
+paso 'Se pide el reporte de personas, de la sucursal y consolidado, y se imprime'
+muestra_ventana 9
+espera_ventana 'Busqueda Sujeto'
+escribe 'Mar'
+captura reporte-personas
+teclea Tab Tab Tab Tab Tab Tab space # &Consulta
+espera_ventana 'Reporte'
+exige_traza "SELECT * FROM spssujeto('Mar','','','');"
+captura reporte-personas-visto
+cierra_reporte 'Busqueda Sujeto'
+teclea shift+Tab shift+Tab space Tab Tab space # CONSOLIDADO, &Consulta
+espera_ventana 'Reporte'
+exige_traza "SELECT * FROM spssujetoc('Mar','','','');"
+captura reporte-personas-consolidado
+cierra_reporte 'Busqueda Sujeto'
+teclea alt+i
+espera 'no se imprime el reporte' cmp "$HOME/reporte.txt" "$HOME/impreso.txt"
+espera 'no se imprime con su orden' grep -qx -- '-l reporte.txt' "$HOME/impreso.orden"
+teclea Escape
 espera_ventana "$principal"
 teclea ctrl+q
 espera_fin

@@ -106,8 +106,7 @@ TEST(fxexecute, UnNombreConGuionNoEsUnaOpcion) {
 }
 
 TEST(fxexecute, UnaCarpetaHostilEnElCaminoTampoco) {
-  for (const char* const carpeta :
-       {"mis programas", "a;touch mal", "a\"b", "a`touch mal`", "á"}) {
+  for (const char* const carpeta : {"mis programas", "a;touch mal", "a\"b", "a`touch mal`", "á"}) {
     SCOPED_TRACE(carpeta);
     Mandatos mandatos(carpeta);
     mandatos.Pon("oocalc");
