@@ -463,13 +463,14 @@ TEST_F(cUsuarioConSesionTest, UnaMitadQueNoSePuedeLeerQuedaEnBlanco) {
   const struct {
     const char* sentencia;
     std::string esperado;
-    std::string (*da)(const U&);
+    std::string (*da)(U&);
   } tabla[] = {
-      {"spssujeto(", persona + "|| nuevo", [](const U& u) { return Persona(u); }},
-      {"spssujeto(", "0|0|0|||||0|||0", [](const U& u) { return Estado(u); }},
-      {"spsdomiciliosujeto(", "0|0|" + persona + "|||||0|||0 nuevo", [](const U& u) { return Estado(u); }},
-      {"spstipousuario(", "CON| cambiado nuevo", [](const U& u) { return Tipo(u); }},
-      {"spsparametro(", "camila|||||0| nuevo", [](const U& u) { return Parametros(u); }},
+      {"spssujeto(", persona + "|| nuevo", [](U& u) { return Persona(u); }},
+      {"spssujeto(", "0|0|0|||||0|||0", [](U& u) { return Estado(u); }},
+      {"spssujeto(", "0", [](U& u) { return std::to_string(u.getBienes().NumElementos()); }},
+      {"spsdomiciliosujeto(", "0|0|" + persona + "|||||0|||0 nuevo", [](U& u) { return Estado(u); }},
+      {"spstipousuario(", "CON| cambiado nuevo", [](U& u) { return Tipo(u); }},
+      {"spsparametro(", "camila|||||0| nuevo", [](U& u) { return Parametros(u); }},
   };
   for (const auto& fila : tabla) {
     SCOPED_TRACE(fila.sentencia);
