@@ -435,7 +435,42 @@ TEST_F(cSujetoTest, UnaPersonaSinDomicilioEsNuevaSoloEnEsaMitad) {
   base_.Ejecuta("delete from norte.domicilio where sujetoid = 1");
   const S persona = Leida(1);
   EXPECT_EQ(Banderas(persona), "");
-  EXPECT_EQ(Estado(persona), "0|0|1|||||0|||0 cambiado nuevo");
+  EXPECT_EQ(Estado(persona), "0|0|1|||||0|||0 nuevo");
+}
+
+TEST_F(cSujetoTest, UnaPersonaSinDomicilioNoHeredaElDeLaLeidaAntes) {
+  for (const Falla& falla : {falla::SinFilas(), falla::Error("No"), falla::Nula()}) {
+    S persona = Leida(1);
+    ASSERT_NE(persona.getDomicilioID(), 0);
+    persona.setCalle("Sin guardar");
+    persona.setSujetoID(2);
+    Espia espia;
+    espia.Cuando("spsdomiciliosujeto(2)", falla);
+    Salida salida;
+    persona.Find();
+    EXPECT_EQ(Estado(persona), "0|0|2|||||0|||0 nuevo");
+    EXPECT_FALSE(persona.IsNew());
+  }
+}
+
+TEST_F(cSujetoTest, SoloLoQueSeEscribeEnUnDomicilioEnBlancoSeManda) {
+  base_.Ejecuta(
+      "delete from norte.domicilio where sujetoid = 2; delete from norte.bienes where sujetoid = 2");
+  const Tabla deLaPrimera = DomicilioEnServidor(1);
+  S persona = Leida(1);
+  persona.setSujetoID(2);
+  Salida salida;
+  persona.Find();
+  Espia espia;
+  persona.Update();
+  EXPECT_EQ(espia.Cuantas("omicilio("), 0u);
+  EXPECT_EQ(DomicilioEnServidor(2), Tabla{});
+  persona.setCalle("Reforma");
+  persona.Update();
+  EXPECT_EQ(espia.Cuantas("SELECT spudomicilio(0,0,2,'Reforma','','','',0,'','',0);"), 1u);
+  ASSERT_EQ(DomicilioEnServidor(2).size(), 1u);
+  EXPECT_EQ(DomicilioEnServidor(2)[0][3], "Reforma");
+  EXPECT_EQ(DomicilioEnServidor(1), deLaPrimera);
 }
 
 TEST_F(cSujetoTest, SinFechaDeNacimientoTieneUnaFechaPorOmision) {
