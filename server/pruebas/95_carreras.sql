@@ -87,9 +87,9 @@ RESET ROLE;
 INSERT INTO norte.tasa SELECT * FROM tasas;
 SET ROLE tolvara_propietario;
 DELETE FROM norte.banco WHERE no_cuenta IN ('999', '998');
-UPDATE norte.catalogo_ctas SET cuentaacumula = NULL WHERE cuentaid LIKE '999_';
-DELETE FROM norte.catalogo_ctas WHERE cuentaid LIKE '999_-1%';
-DELETE FROM norte.catalogo_ctas WHERE cuentaid LIKE '999_';
+UPDATE norte.catalogo_ctas SET cuentaacumula = NULL WHERE cuentaid LIKE '999%';
+DELETE FROM norte.catalogo_ctas WHERE cuentaid LIKE '999%-1%';
+DELETE FROM norte.catalogo_ctas WHERE cuentaid LIKE '999%';
 DELETE FROM norte.tasavariable WHERE fechainicial = '2031-01-01';
 UPDATE norte.tipotasa SET descripcion = 'Tasa interbancaria de equilibrio a 28 días: promedio del mes y cierre'
  WHERE tipotasa = 'TIIE';
