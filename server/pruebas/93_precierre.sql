@@ -192,5 +192,25 @@ SELECT is(como(usuario, sucursal, sentencia), esperado, usuario || ': ' || sente
      'permission denied for function calcula_precorte')
   ) AS paso (usuario, sucursal, sentencia, esperado);
 
+-- Opening a closed month again.
+SELECT is(como(usuario, 'norte', sentencia), esperado, usuario || ': ' || sentencia)
+  FROM (VALUES
+    ('adriana', $$SELECT reabre_mes(2024, 3, 'Faltaba un pago')$$, 'permission denied for function reabre_mes'),
+    ('postgres', $$SELECT norte.reabre_mes(2024, 2, 'Faltaba un pago')$$,
+     'Solo se reabre el último mes cerrado, que es el 03/2024'),
+    ('postgres', $$SELECT norte.reabre_mes(NULL, NULL, 'Faltaba un pago')$$,
+     'Solo se reabre el último mes cerrado, que es el 03/2024'),
+    ('postgres', $$SELECT norte.reabre_mes(2024, 3, ' ')$$, 'Falta el motivo'),
+    ('postgres', $$SELECT norte.reabre_mes(2024, 3, 'Faltaba un pago')$$, '5'),
+    ('hilda', $$select * from precierre('31/03/2024');$$, '1'),
+    ('postgres', $$SELECT norte.reabre_mes(2024, 3, 'Faltaba otro') > 0$$, 'true'),
+    ('postgres', $$SELECT norte.reabre_mes(2024, 3, 'Faltaba otro')$$,
+     'Solo se reabre el último mes cerrado, que es el 02/2024')
+  ) AS paso (usuario, sentencia, esperado);
+SELECT results_eq(
+  $$ SELECT clave, nuevo ->> 'motivo' FROM norte.bitacora WHERE operacion = 'REAPERTURA' ORDER BY bitacoraid $$,
+  $$ VALUES ('2024/3', 'Faltaba un pago'), ('2024/3', 'Faltaba otro') $$, 'la bitácora guarda por qué');
+SELECT ok(count(*) >= 10, 'y lo que había') FROM norte.bitacora WHERE tabla = 'precorte' AND operacion = 'DELETE';
+
 SELECT * FROM finish();
 ROLLBACK;

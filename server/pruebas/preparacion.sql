@@ -104,3 +104,19 @@ BEGIN
   PERFORM dblink_disconnect('una'), dblink_disconnect('otra');
   RETURN format('%s / %s', una, otra);
 END $$;
+
+-- A session as abre(), but through the door, with the login's own password: 'Clave de ' and its name. Answers '' or why
+-- not.
+CREATE FUNCTION tap.entra(sesion text, login text, sucursal text) RETURNS text
+LANGUAGE plpgsql AS $$
+DECLARE
+  motivo text;
+BEGIN
+  PERFORM dblink_connect(sesion, format('host=127.0.0.1 port=%s dbname=%s user=%s password=''Clave de %s''',
+                                        current_setting('port'), current_database(), login, login));
+  PERFORM dblink_exec(sesion, format('SET search_path TO public, %s', sucursal));
+  RETURN '';
+EXCEPTION WHEN sqlclient_unable_to_establish_sqlconnection THEN
+  GET STACKED DIAGNOSTICS motivo = PG_EXCEPTION_DETAIL;
+  RETURN motivo;
+END $$;

@@ -135,6 +135,29 @@ BEGIN
   RETURN 1;
 END $$;
 
+-- Opens the last closed month again, for a reason; answers how many rows of it were thrown away. It is the server's
+-- administrator's and granted to nobody. The log keeps the reason and every row.
+CREATE FUNCTION reabre_mes(anio integer, mes integer, motivo text) RETURNS bigint
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
+DECLARE
+  razon text := obligatorio(motivo, 254, 'el motivo');
+  ultimo cierre;
+  filas bigint;
+BEGIN
+  SELECT * INTO ultimo FROM cierre ORDER BY ejercicio DESC, periodo DESC LIMIT 1 FOR UPDATE;
+  IF NOT FOUND THEN
+    RAISE EXCEPTION 'No hay ningún mes cerrado' USING ERRCODE = 'no_data_found';
+  ELSIF (ultimo.ejercicio, ultimo.periodo) IS DISTINCT FROM (anio, mes) THEN
+    RAISE EXCEPTION 'Solo se reabre el último mes cerrado, que es el %', to_char(ultimo.fechacierre, 'MM/YYYY')
+      USING ERRCODE = 'object_not_in_prerequisite_state';
+  END IF;
+  DELETE FROM precorte WHERE ejercicio = anio AND periodo = mes;
+  GET DIAGNOSTICS filas = ROW_COUNT;
+  DELETE FROM cierre WHERE ejercicio = anio AND periodo = mes;
+  PERFORM anota_suceso('REAPERTURA', 'cierre', format('%s/%s', anio, mes), jsonb_build_object('motivo', razon));
+  RETURN filas;
+END $$;
+
 -- The export of a month, row by row as the client's own statement reads it; the deposits are those of the closing day.
 CREATE VIEW precorte_detalle AS
 SELECT s.clavesocioint, pr.referenciaprestamo, p.ejercicio, p.periodo, p.fechacierre, p.diasvencidos,
@@ -142,7 +165,8 @@ SELECT s.clavesocioint, pr.referenciaprestamo, p.ejercicio, p.periodo, p.fechaci
        p.interesdevengadomayoravencido, p.pagocapitalenperiodo, p.pagointeresenperiodo, p.pagomoratorioenperiodo,
        p.bonificacionintenperiodo, p.bonificacionmorenperiodo, p.noamorvencidas, p.saldovencidomenoravencido,
        p.saldovencidomayoravencido, p.fechaultamorpagada, p.tipoprestamoid, p.montoprestamo, pr.fecha_vencimiento,
-       t.tantos, saldodemovr(pr.socioid, t.tipomovimientoid, p.fechacierre::text, pr.prestamoid) AS depositogarantia,
+       t.tantos, saldodemovr(pr.socioid, t.tipomovimientoid, to_char(p.fechacierre, 'YYYY-MM-DD'), pr.prestamoid)
+         AS depositogarantia,
        pr.tasanormal, pr.tasa_moratoria, su.nombre || ' ' || su.paterno || ' ' || su.materno AS nombresocio, d.calle,
        d.numero_ext, d.colonia, d.comunidad, d.codpostal, c.nombreciudadmex, p.ultimoabono, p.diastraspasoavencida,
        p.ultimoabonointeres, pr.numero_de_amor, pr.fecha_otorga, f.descripcionfinalidad,

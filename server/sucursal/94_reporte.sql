@@ -12,7 +12,8 @@ LANGUAGE sql STABLE SET search_path FROM CURRENT AS $$
            repeat('=', 135),
            format('%7s  %-62s  %-16s  %-21s  %10s  %4s', 'Número', 'Nombre', 'RFC', 'CURP', 'Nacimiento', 'Edad'),
            repeat('=', 135))
-    FROM empresa, btrim(regexp_replace(concat_ws(' ', nombres, apaterno, amaterno, clave), '\s+', ' ', 'g')) AS pedido
+    FROM empresa, btrim(regexp_replace(concat_ws(' ', left(nombres, 99), left(apaterno, 99), left(amaterno, 99),
+                                                   left(clave, 99)), '\s+', ' ', 'g')) AS pedido
 $$;
 
 -- One person: keys, address, membership, loans and goods, each on lines of its own below the first.

@@ -42,7 +42,7 @@ CREATE TEMPORARY TABLE rareza (clase text, valor text);
 INSERT INTO rareza VALUES
   ('text', NULL), ('text', ''''''), ('text', '''   '''), ('text', quote_literal(repeat('ñ', 5000))),
   ('text', quote_literal('It''s "100%" \; -- {} $$')), ('text', quote_literal(E'\t\n')), ('text', '''-1'''),
-  ('text', '''31/02/2026'''), ('text', '''99999999-99-99'''), ('text', '''infinity'''),
+  ('text', quote_literal('x' || chr(8203))), ('text', quote_literal('x' || chr(7))), ('text', '''31/02/2026'''), ('text', '''99999999-99-99'''), ('text', '''infinity'''),
   ('integer', NULL), ('integer', '-1'), ('integer', '0'), ('integer', '2147483647'), ('integer', '-2147483648'),
   ('bigint', NULL), ('bigint', '-1'), ('bigint', '0'), ('bigint', '9223372036854775807'),
   ('numeric', NULL), ('numeric', '-1'), ('numeric', '0'), ('numeric', '1e30'), ('numeric', '-1e300'),
@@ -73,3 +73,7 @@ SELECT is_empty($$ SELECT funcion, argumento, left(valor, 30), respuesta FROM in
                     WHERE respuesta = '' AND funcion !~ '^sps'
                       AND (length(valor) > 5000 OR valor IN ('''NaN''', '1e30', '-1e300')) $$,
                 'nada se corta ni se redondea a la medida');
+SELECT is_empty($$ SELECT funcion, argumento, respuesta FROM intento
+                    WHERE valor IN (quote_literal('x' || chr(8203)), quote_literal('x' || chr(7)))
+                      AND respuesta ~ '^\d*$' AND funcion !~ '^(sps|generarfc|cletra)' $$,
+                'nada de lo que no se ve se guarda');
