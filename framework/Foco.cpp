@@ -1,5 +1,7 @@
 #include "framework/Foco.h"
 
+#include <fxkeys.h>
+
 namespace {
 
 /// From the child with the keyboard once round the others until one takes it; without one, from the first,

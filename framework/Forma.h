@@ -19,6 +19,8 @@
 
 #include <fx.h>
 
+#include <fxkeys.h>
+
 #include <iostream>
 #include <tuple>
 #include <type_traits>
@@ -305,8 +307,10 @@ FXGroupBox* Forma<Ventana, Base, busqueda>::ArmaBotones() {
   FXButton* buscar = nullptr;
   if constexpr (busqueda == ConBuscar)
     buscar = Boton(columna, "&Buscar", iconos::find_icon, ID_FIND, BUTTON_DEFAULT);
-  Boton(columna, "&Borrar", iconos::borrar_icon, ID_BORRAR, BUTTON_DEFAULT);
-  if (buscar != nullptr) buscar->addHotKey(parseHotKey(buscar->getText()));  // &Borrar has the same key
+  FXButton* const borrar = Boton(columna, "&Borrar", iconos::borrar_icon, ID_BORRAR, BUTTON_DEFAULT);
+  borrar->addHotKey(MKUINT(KEY_Delete, ALTMASK));
+  // Both labels underline the same letter: it finds, and what deletes has a key of its own.
+  if (buscar != nullptr) buscar->addHotKey(MKUINT(KEY_b, ALTMASK));
   ArmaCerrar(columna);
   Boton(columna, "&Aceptar", iconos::ok_icon, ID_AGREGAR, BUTTON_DEFAULT | LAYOUT_SIDE_BOTTOM);
   return columna;

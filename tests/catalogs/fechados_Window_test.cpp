@@ -187,7 +187,7 @@ const Caso casos[] = {
      DeUnDia(SinFechaDada, {{"Fecha:", "31/02/2031", NoExisteElDia},
                             {"Fecha:", "05/00/2031", NoExisteElDia},
                             {"Fecha:", "05/13/2031", NoExisteElDia},
-                            {"Fecha:", "5/3/2031", NoExisteElDia},
+                            {"Fecha:", "5/3/2031", ""},     // between its slashes
                             {"Fecha:", "05/03/20319", ""},  // the fifth figure does not enter
                             {"Valor :", "-0.01", "El valor no puede ser negativo"},
                             {"Valor :", "0", ""},
