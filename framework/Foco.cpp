@@ -50,8 +50,11 @@ FXIMPLEMENT(BotonDeForma, FXButton, BotonDeFormaMap, ARRAYNUMBER(BotonDeFormaMap
 
 void BotonDeForma::setFocus() {
   FXWindow* const antes = ConTeclado(getShell());
-  if (dynamic_cast<FXButton*>(antes) == nullptr)
+  if (const auto* boton = dynamic_cast<BotonDeForma*>(antes)) {
+    if (boton != this) anterior = boton->anterior;
+  } else {
     anterior = static_cast<FXWindow*>(getTarget())->containsChild(antes) ? antes : nullptr;
+  }
   FXButton::setFocus();
 }
 

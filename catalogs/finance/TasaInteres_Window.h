@@ -38,6 +38,7 @@ class TasaInteres_Window : public Forma<TasaInteres_Window, FXDialogBox> {
 
  private:
   friend Forma;
+  void EnfocaClave() { DaTeclado(nombre.campo); }
   bool EstaVacia(const char* aviso);
   void Manda(const Sentencia& sql);
 

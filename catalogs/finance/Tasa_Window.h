@@ -32,6 +32,7 @@ class Tasa_Window : public Forma<Tasa_Window, FXMDIChild> {
 
  private:
   friend Forma;
+  void EnfocaClave() {}
   struct Columna {
     const char* titulo;
     FXint ancho;

@@ -7,21 +7,15 @@ exige_traza "SELECT * FROM spspermisomodulo('$usuario','0203');"
 exige_traza 'terminando creacion frm pais'
 captura monedas
 
-# The key's field is the third one before &Nuevo.
-nueva_moneda() {
-  teclea alt+n shift+Tab shift+Tab shift+Tab
-  llena "$@"
-}
-
 paso 'Se rechaza una moneda sin descripción'
-nueva_moneda QZ
+nuevo QZ
 teclea alt+a
 responde 'Error en Validación' Return moneda-rechazada
 exige_traza 'entrando a error'
 exige_dato "SELECT count(*) FROM moneda WHERE monedaid = 'QZ'" 0
 
 paso 'Se agrega una moneda'
-nueva_moneda QZ 'Corona del Ensueño' 12.5
+nuevo QZ 'Corona del Ensueño' 12.5
 captura moneda-nueva
 teclea alt+a
 responde 'Moneda' alt+s registrar
@@ -29,10 +23,8 @@ exige_dato "SELECT monedadescri, monedavalor FROM moneda WHERE monedaid = 'QZ'" 
 captura moneda-agregada
 
 paso 'Se busca por su clave'
-nueva_moneda
-llena QZ
-teclea Tab Tab Tab space # &Buscar; Alt+B is the key of &Borrar
-teclea shift+Tab shift+Tab
+encuentra QZ
+teclea Tab
 exige_campo 12.5
 teclea shift+Tab
 exige_campo 'Corona del Ensueño'
@@ -47,14 +39,14 @@ exige_dato "SELECT monedadescri, monedavalor FROM moneda WHERE monedaid = 'QZ'" 
 captura moneda-modificada
 
 paso 'Una clave repetida la rechaza el servidor'
-nueva_moneda QZ 'Otra corona' 1
+nuevo QZ 'Otra corona' 1
 teclea alt+a
 responde 'Moneda' alt+s registrar-repetida
 responde 'Error en Validación' Return clave-repetida
 exige_dato "SELECT monedadescri FROM moneda WHERE monedaid = 'QZ'" 'Corona modificada'
 
 paso 'Se borra'
-teclea alt+b
+teclea alt+Delete
 responde 'Moneda' alt+s borrar
 exige_dato "SELECT count(*) FROM moneda WHERE monedaid = 'QZ'" 0
 captura moneda-borrada

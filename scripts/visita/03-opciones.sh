@@ -1,10 +1,10 @@
 # Every option of the menu, chosen by a user who has the right to all of them.
 #
 # One row each: name, place in the pane, place in its cascade, module, and what opens: a child form with the line that
-# it traces, a dialog with its title, or nothing.
+# it traces, or a dialog with its title.
 opciones=(
   'monedas|1||0203|hija|terminando creacion frm pais'
-  'bancos|2||0204|nada|'
+  'bancos|2||0204|hija|terminando creacion frm banco'
   'movimientos-bancarios|3||0205|hija|terminando creacion frm tipomovibanco'
   'tipo-de-movimientos|4||0207|hija|terminando creacion frm tipomovimiento'
   'tipo-de-inversion|5||0212|hija|terminando creacion frm tipoinversion'
@@ -16,16 +16,16 @@ opciones=(
   'tasa-interes|6|7|0217|dialogo|Tasas Variables'
   'tipo-de-socios|7|1|0217|dialogo|Socios'
   'ocupaciones|7|2|0450|hija|terminando creacion frm ocupacion'
-  'usuarios|8|1|0206|nada|'
+  'usuarios|8|1|0206|hija|terminando creacion frm usuario'
   'tipo-de-usuarios|8|2|0216|dialogo|Tipo de Usuarios'
   'modulos|8|3|0215|dialogo|Modulo'
-  'inpc|9|1|0428|nada|'
-  'udis|9|2|0427|nada|'
-  'recargos|9|3|0429|nada|'
+  'inpc|9|1|0428|hija|terminando creacion frm pais'
+  'udis|9|2|0427|hija|terminando creacion frm pais'
+  'recargos|9|3|0429|hija|terminando creacion frm pais'
   'formulas|10|1|0218|dialogo|Formulas de Calculos'
-  'tipo-promocion|10|2|0420|nada|'
+  'tipo-promocion|10|2|0420|hija|terminando creacion frm tipopromocion'
   'tasas|10|3|0424|hija|terminando creacion y fijando foco del dialogo WTASA'
-  'dias-inabiles|10|4|0448|nada|'
+  'dias-inabiles|10|4|0448|hija|terminando creacion frm pais'
   'conceptos-scoring|10|5|0452|dialogo|Concepto Scoring'
 )
 
@@ -39,7 +39,7 @@ for opcion in "${opciones[@]}"; do
     dialogo) espera_ventana "$muestra" ;;
   esac
   captura "opcion-$nombre"
-  [[ $clase == nada ]] || teclea alt+c
+  teclea alt+c
   [[ $clase != dialogo ]] || espera_cierre
   espera_ventana "$principal"
 done

@@ -2,14 +2,14 @@
 paso 'Un diálogo con clave de letras: un tipo de garantía se agrega'
 elige 6 5
 espera_ventana 'Tipo de Garantia'
-nuevo 2 QZ 'Fianza del año'
+nuevo QZ 'Fianza del año'
 confirma alt+a 'Tipo de Garantía' garantia-registrar
 exige_dato "SELECT descripciongarantia FROM tipo_garantia WHERE clavegarantia = 'QZ'" 'Fianza del año'
 captura garantia-agregada
 
 paso 'Se busca y se modifica'
 espera_ventana 'Tipo de Garantia'
-encuentra 2 QZ
+encuentra QZ
 exige_campo 'Fianza del año'
 llena 'Fianza pequeña'
 confirma alt+a 'Tipo de Garantía' garantia-guardar
@@ -17,7 +17,7 @@ exige_dato "SELECT descripciongarantia FROM tipo_garantia WHERE clavegarantia = 
 
 paso 'Y se borra'
 espera_ventana 'Tipo de Garantia'
-confirma alt+b 'Tipo de Garantía' garantia-borrar
+confirma alt+Delete 'Tipo de Garantía' garantia-borrar
 exige_dato "SELECT count(*) FROM tipo_garantia WHERE clavegarantia = 'QZ'" 0
 espera_ventana 'Tipo de Garantia'
 teclea alt+c
@@ -26,19 +26,19 @@ paso 'Una forma con una casilla: un movimiento bancario sin operación se rechaz
 espera_ventana "$principal"
 elige 3
 exige_traza 'terminando creacion frm tipomovibanco'
-nuevo 3 QZ 'Ajuste de prueba'
+nuevo QZ 'Ajuste de prueba'
 teclea alt+a
 responde 'Error en Validación' Return movimiento-rechazado
 
 paso 'Con la operación se agrega'
-nuevo 3 QZ 'Ajuste de prueba'
+nuevo QZ 'Ajuste de prueba'
 teclea space # Incrementar Saldo
 confirma alt+a 'Tipo de Movimientos Bancarios' movimiento-registrar
 exige_dato "SELECT operacionsumaresta FROM tipomovibanco WHERE tipomovibancoid = 'QZ'" '+'
 captura movimiento-agregado
 
 paso 'Se busca y se modifica'
-encuentra 3 QZ
+encuentra QZ
 exige_campo 'Ajuste de prueba'
 llena 'Ajuste dañado'
 teclea space
@@ -47,28 +47,28 @@ exige_dato "SELECT descritipomovibanco, operacionsumaresta FROM tipomovibanco WH
   'Ajuste dañado|-'
 
 paso 'Y se borra'
-confirma alt+b 'Tipo de Movimientos Bancarios' movimiento-borrar
+confirma alt+Delete 'Tipo de Movimientos Bancarios' movimiento-borrar
 exige_dato "SELECT count(*) FROM tipomovibanco WHERE tipomovibancoid = 'QZ'" 0
 teclea alt+c
 
 paso 'Una forma corta: una ocupación se agrega, y el servidor le da su número'
 elige 7 2
 exige_traza 'terminando creacion frm ocupacion'
-nuevo 2 '' 'Leñador'
+nuevo '' 'Leñador'
 confirma alt+a 'Ocupacion' ocupacion-registrar
 exige_dato "SELECT count(*) FROM ocupacion WHERE ocupacion = 'Leñador'" 1
 captura ocupacion-agregada
 
 paso 'Se elige en la lista y se modifica'
-elige_ultimo 2
+elige_ultimo
 exige_campo 'Leñador'
 llena 'Leñador nocturno'
 confirma alt+a 'Ocupacion' ocupacion-guardar
 exige_dato "SELECT ocupacion FROM ocupacion ORDER BY ocupacionid DESC LIMIT 1" 'Leñador nocturno'
 
 paso 'Y se borra'
-elige_ultimo 2
-confirma alt+b 'Ocupacion' ocupacion-borrar
+elige_ultimo
+confirma alt+Delete 'Ocupacion' ocupacion-borrar
 exige_dato "SELECT count(*) FROM ocupacion WHERE ocupacion = 'Leñador nocturno'" 0
 teclea alt+c
 
@@ -76,13 +76,13 @@ paso 'Un diálogo con número: un concepto se agrega'
 espera_ventana "$principal"
 elige 10 5
 espera_ventana 'Concepto Scoring'
-nuevo 2 '' 'Puntualidad'
+nuevo '' 'Puntualidad'
 confirma alt+a 'Concepto Scoring' concepto-registrar
 exige_dato "SELECT count(*) FROM conceptoscoring WHERE conceptoscoring = 'Puntualidad'" 1
 
 paso 'Se elige en la lista y se modifica'
 espera_ventana 'Concepto Scoring'
-elige_ultimo 2
+elige_ultimo
 exige_campo 'Puntualidad'
 captura concepto-elegido
 llena 'Puntualidad de pago'
@@ -91,7 +91,7 @@ exige_dato "SELECT count(*) FROM conceptoscoring WHERE conceptoscoring = 'Puntua
 
 paso 'Y se borra'
 espera_ventana 'Concepto Scoring'
-confirma alt+b 'Concepto Scoring' concepto-borrar
+confirma alt+Delete 'Concepto Scoring' concepto-borrar
 exige_dato "SELECT count(*) FROM conceptoscoring WHERE conceptoscoring = 'Puntualidad de pago'" 0
 espera_ventana 'Concepto Scoring'
 teclea alt+c

@@ -9,24 +9,24 @@ pon_cuentas() {
 paso 'Una fórmula sin texto se rechaza'
 elige 10 1
 espera_ventana 'Formulas de Calculos'
-nuevo 3 '' 'Tasa del año'
+nuevo '' 'Tasa del año'
 teclea alt+a
 responde 'Error en Validación' Return formula-rechazada
 espera_ventana 'Formulas de Calculos'
 
 paso 'Con él se agrega, se modifica y se borra'
-nuevo 3 '' 'Tasa del año' 'saldo * tasa / 100'
+nuevo '' 'Tasa del año' 'saldo * tasa / 100'
 confirma alt+a 'Calculo' formula-registrar
 exige_dato "SELECT formula FROM calculo WHERE descripcioncalculo = 'Tasa del año'" 'saldo * tasa / 100'
 espera_ventana 'Formulas de Calculos'
-elige_ultimo 3
+elige_ultimo
 exige_campo 'Tasa del año'
 captura formula-elegida
 llena 'Tasa corregida'
 confirma alt+a 'Calculo' formula-guardar
 exige_dato "SELECT formula FROM calculo WHERE descripcioncalculo = 'Tasa corregida'" 'saldo * tasa / 100'
 espera_ventana 'Formulas de Calculos'
-confirma alt+b 'Calculo' formula-borrar
+confirma alt+Delete 'Calculo' formula-borrar
 exige_dato "SELECT count(*) FROM calculo WHERE descripcioncalculo = 'Tasa corregida'" 0
 espera_ventana 'Formulas de Calculos'
 teclea alt+c
@@ -35,12 +35,12 @@ paso 'Un tipo de movimiento sin cuentas se rechaza'
 espera_ventana "$principal"
 elige 4
 exige_traza 'terminando creacion frm tipomovimiento'
-nuevo 34 QZ 'Ahorro de prueba'
+nuevo QZ 'Ahorro de prueba'
 teclea alt+a
 responde 'Error en Validación' Return movimiento-sin-cuentas
 
 paso 'Con sus once cuentas se agrega'
-nuevo 34 QZ 'Ahorro de prueba'
+nuevo QZ 'Ahorro de prueba'
 adelante 4
 pon_cuentas 7
 llena D 3.5
@@ -54,26 +54,26 @@ exige_dato "SELECT desctipomovimiento, tasainteres, rtrim(cuentaivacomision) FRO
              WHERE tipomovimientoid = 'QZ'" 'Ahorro de prueba|3.500000|1101-01-00-00-0000'
 
 paso 'Se modifica y se borra'
-atras 37 # from &Aceptar to the description
+encuentra QZ
 exige_campo 'Ahorro de prueba'
 llena 'Ahorro corregido'
 confirma alt+a 'Tipo de Movimiento' tipo-de-movimiento-guardar
 exige_dato "SELECT desctipomovimiento FROM tipomovimiento WHERE tipomovimientoid = 'QZ'" 'Ahorro corregido'
-confirma alt+b 'Tipo de Movimiento' tipo-de-movimiento-borrar
+confirma alt+Delete 'Tipo de Movimiento' tipo-de-movimiento-borrar
 exige_dato "SELECT count(*) FROM tipomovimiento WHERE tipomovimientoid = 'QZ'" 0
 teclea alt+c
 
 paso 'Un tipo de inversión sin clasificación se rechaza'
 elige 5
 exige_traza 'terminando creacion frm tipoinversion'
-nuevo 27 QZ 'Plazo de otoño' 5 100 1000 30 60
+nuevo QZ 'Plazo de otoño' 5 100 1000 30 60
 pon_cuentas 7
 teclea Down Tab Tab Tab Down Tab Tab Tab # formula and movement
 teclea alt+a
 responde 'Error en Validación' Return inversion-rechazada
 
 paso 'Con ella se agrega'
-nuevo 27 QZ 'Plazo de otoño' 5 100 1000 30 60
+nuevo QZ 'Plazo de otoño' 5 100 1000 30 60
 pon_cuentas 7
 teclea Down Tab Tab Tab Down Tab Tab Tab Down
 captura tipo-de-inversion-nuevo
@@ -82,12 +82,12 @@ exige_dato "SELECT desctipoinversion, rtrim(cuentapasivo) FROM tipoinversion WHE
   'Plazo de otoño|1101-01-00-00-0000'
 
 paso 'Se modifica y se borra'
-atras 30 # from &Aceptar to the description
+encuentra QZ
 exige_campo 'Plazo de otoño'
 llena 'Plazo corregido'
 confirma alt+a 'Tipo de Inversión' tipo-de-inversion-guardar
 exige_dato "SELECT desctipoinversion FROM tipoinversion WHERE tipoinversionid = 'QZ'" 'Plazo corregido'
-confirma alt+b 'Tipo de Inversión' tipo-de-inversion-borrar
+confirma alt+Delete 'Tipo de Inversión' tipo-de-inversion-borrar
 exige_dato "SELECT count(*) FROM tipoinversion WHERE tipoinversionid = 'QZ'" 0
 teclea alt+c
 

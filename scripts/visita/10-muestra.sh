@@ -34,11 +34,11 @@ espera_sin_titulo() { espera 'no aparece el diálogo' es_otra '' "$ventana"; }
 paso 'Un asesor se agrega y se borra'
 muestra_ventana 1
 exige_traza 'terminando creacion frm pais'
-nuevo 2 97 'Ñico Lagos'
+nuevo 97 'Ñico Lagos'
 captura asesores
 confirma alt+a 'Asesor' asesor-registrar
 exige_dato "SELECT nomasesor FROM asesor WHERE asesorid = 97" 'Ñico Lagos'
-confirma alt+b 'Asesor' asesor-borrar
+confirma alt+Delete 'Asesor' asesor-borrar
 exige_dato "SELECT count(*) FROM asesor WHERE asesorid = 97" 0
 teclea alt+c
 
@@ -51,13 +51,13 @@ teclea alt+c
 paso 'Un grupo se agrega y se borra'
 muestra_ventana 6
 exige_traza 'terminando creacion frm grupo'
-nuevo 2 '' 'Grupo de los Soñadores'
+nuevo '' 'Grupo de los Soñadores'
 confirma alt+a 'Grupo' grupo-registrar
 exige_dato "SELECT count(*) FROM grupo WHERE grupo = 'Grupo de los Soñadores'" 1
-elige_ultimo 2
+elige_ultimo
 exige_campo 'Grupo de los Soñadores'
 captura grupos
-confirma alt+b 'Grupo' grupo-borrar
+confirma alt+Delete 'Grupo' grupo-borrar
 exige_dato "SELECT count(*) FROM grupo WHERE grupo = 'Grupo de los Soñadores'" 0
 teclea alt+c
 
@@ -123,7 +123,7 @@ cierra_reporte() {
 
 paso 'Se corre el pre-cierre del mes pasado y se exporta'
 dia=$(date -d "$(date +%Y-%m-01) -1 day" +%d/%m/%Y)
-muestra_ventana 8
+muestra_ventana 10
 espera_ventana 'Pre-Cierre'
 escribe "$dia"
 captura precierre
@@ -144,7 +144,7 @@ cierra_reporte 'Pre-Cierre'
 teclea Escape
 
 paso 'Se pide el reporte de personas, de la sucursal y consolidado, y se imprime'
-muestra_ventana 9
+muestra_ventana 11
 espera_ventana 'Busqueda Sujeto'
 escribe 'Mar'
 captura reporte-personas

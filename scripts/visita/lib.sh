@@ -138,37 +138,24 @@ elige() {
 }
 baja() { teclea $(printf 'Down %.0s' $(seq "$1")); }
 
-# &Nuevo, and the values into the fields from the key on. $1 is how many fields there are: so many places the key is
-# before that button.
+# &Nuevo, and the values into the fields from the key on. The keyboard is then behind the last of them.
 nuevo() {
-  local campos=$1
-  shift
   teclea alt+n
-  atras "$campos"
   llena "$@"
 }
 
-# The row with the key $2, by &Buscar; the keyboard is then on the field behind the key.
+# The row with the key $1, by &Buscar; the keyboard is then on the field behind the key.
 encuentra() {
-  local campos=$1
-  nuevo "$campos" "$2"
-  adelante "$campos"
-  teclea space
-  atras "$campos"
+  nuevo "$1"
+  teclea alt+b
 }
 
-# The last row of the list; the keyboard is then on the field behind the key.
-elige_ultimo() {
-  teclea alt+n
-  atras "$(($1 + 1))"
-  teclea End
-  adelante 2
-}
+# The last row of the list, which is ahead of the key; the keyboard is then on the field behind the key.
+elige_ultimo() { teclea alt+n shift+Tab End Tab Tab; }
 
 adelante() { teclea $(printf 'Tab %.0s' $(seq "$1")); }
-atras() { teclea $(printf 'shift+Tab %.0s' $(seq "$1")); }
 
-# &Aceptar or &Borrar by its key $1, and yes to the question with the title $2, which may be that of its form as well;
+# &Aceptar or &Borrar (alt+Delete) by its key $1, and yes to the question with the title $2, which may be that of its form as well;
 # its picture is $3.
 confirma() {
   local forma
