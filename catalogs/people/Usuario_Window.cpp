@@ -324,6 +324,8 @@ long Usuario_Window::onCmdUsuario(FXObject*, FXSelector, void*) {
     Read();
     usuario.setDataChanged(false);
   } catch (char* texto) {
+    // A user who was found, but not whole, must not be saved with what the window shows of another.
+    if (!usuario.IsNew()) onCmdClear(nullptr, 0, nullptr);
     Falla(texto);
   }
   return 0;

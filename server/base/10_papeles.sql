@@ -42,6 +42,16 @@ ALTER DATABASE :"base" SET log_min_duration_sample = -1;
 
 CREATE SCHEMA IF NOT EXISTS comun AUTHORIZATION tolvara_propietario;
 
+-- The version of these objects (`comun`) and of each branch; one that is not here is of version 1.
+CREATE TABLE IF NOT EXISTS comun.version (
+  objeto name PRIMARY KEY,
+  version integer NOT NULL,
+  desde timestamptz NOT NULL DEFAULT now()
+);
+ALTER TABLE comun.version OWNER TO tolvara_propietario;
+INSERT INTO comun.version (objeto, version) VALUES ('comun', :version)
+ON CONFLICT (objeto) DO UPDATE SET version = excluded.version, desde = now() WHERE version.version <> excluded.version;
+
 -- A function is for its owner until a line of its own file grants it.
 ALTER DEFAULT PRIVILEGES FOR ROLE tolvara_propietario REVOKE EXECUTE ON FUNCTIONS FROM PUBLIC;
 

@@ -64,6 +64,25 @@ BEGIN ATOMIC
    ORDER BY n.nspname;
 END;
 
+-- The same, for what reads or writes all of them: none may be of another version than the one that asks.
+CREATE OR REPLACE FUNCTION sucursales_iguales(ejemplo name) RETURNS SETOF name
+LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+DECLARE
+  otra record;
+BEGIN
+  SELECT s AS nombre, coalesce(v.version, 1) AS version, propia.version AS propia INTO otra
+    FROM sucursales() AS s
+    LEFT JOIN version AS v ON v.objeto = s
+   CROSS JOIN (SELECT version FROM version WHERE objeto = ejemplo) AS propia
+   WHERE coalesce(v.version, 1) <> propia.version
+   ORDER BY s LIMIT 1;
+  IF FOUND THEN
+    RAISE EXCEPTION 'La sucursal % está en la versión % y ésta en la %: el administrador del servidor debe actualizarla',
+      otra.nombre, otra.version, otra.propia USING ERRCODE = 'object_not_in_prerequisite_state';
+  END IF;
+  RETURN QUERY SELECT * FROM sucursales();
+END $$;
+
 -- A statement from a template: each {name} gives way to the value of that name.
 CREATE OR REPLACE FUNCTION rellena(plantilla text, valores jsonb) RETURNS text
 LANGUAGE plpgsql IMMUTABLE SET search_path FROM CURRENT AS $$

@@ -43,7 +43,7 @@ BEGIN
       RETURN NEXT format('%s: %s', sesion.usename, sesion.motivo);
     END IF;
   END LOOP;
-  FOR sucursal IN SELECT sucursales() LOOP
+  FOR sucursal IN SELECT s FROM sucursales() AS s WHERE to_regprocedure(format('%I.prepara_bitacora()', s)) IS NOT NULL LOOP
     EXECUTE format('SELECT %I.prepara_bitacora()', sucursal);
   END LOOP;
 END $$;

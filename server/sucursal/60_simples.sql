@@ -138,7 +138,8 @@ WITH catalogo (tabla, llave, tipo, columna, tipocolumna, ancho, campo, modulo, q
   ('tipoasentamiento', 'tipoasentamientoid', 'bigint', 'asentamiento', 'character', 50, 'la descripción',
    '0906', 'El tipo de asentamiento', false)),
 datos AS (
-  SELECT catalogo.*, :'grupo' AS grupo_sucursal, CASE tabla WHEN 'modulo' THEN ', true' END AS parrafo, lower(left(quien, 1)) || substr(quien, 2) AS quien_en_frase,
+  SELECT catalogo.*, :'grupo' AS grupo_sucursal, 
+         CASE tabla WHEN 'modulo' THEN 'parrafo_obligatorio' ELSE 'obligatorio' END AS exige, lower(left(quien, 1)) || substr(quien, 2) AS quien_en_frase,
          CASE WHEN por_texto THEN 'text' ELSE tipo END AS argumento,
          CASE WHEN por_texto THEN 'coalesce(btrim(clave), '''') = ''''' ELSE 'coalesce(clave, 0) = 0' END AS vacia,
          CASE WHEN por_texto THEN 'clave::bpchar' ELSE 'clave' END AS comparada,
@@ -158,14 +159,14 @@ DECLARE
   id {tipo};
 BEGIN
   PERFORM exige_permiso('{modulo}');
-  INSERT INTO {tabla} ({columna}) VALUES (obligatorio(descri, {ancho}, '{campo}'{parrafo})) RETURNING {llave} INTO id;
+  INSERT INTO {tabla} ({columna}) VALUES ({exige}(descri, {ancho}, '{campo}')) RETURNING {llave} INTO id;
   RETURN id;
 END $$ $molde$, to_jsonb(d)) ELSE rellena($molde$
 CREATE FUNCTION spi{tabla}(clave {argumento}, descri text) RETURNS void
 LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
 BEGIN
   PERFORM exige_permiso('{modulo}');
-  INSERT INTO {tabla} ({llave}, {columna}) VALUES ({valida}, obligatorio(descri, {ancho}, '{campo}'{parrafo}))
+  INSERT INTO {tabla} ({llave}, {columna}) VALUES ({valida}, {exige}(descri, {ancho}, '{campo}'))
   ON CONFLICT DO NOTHING;
   IF NOT FOUND THEN
     RAISE EXCEPTION '{quien} % ya existe', rtrim(clave::text) USING ERRCODE = 'unique_violation';
@@ -176,7 +177,7 @@ CREATE FUNCTION spu{tabla}(clave {argumento}, descri text) RETURNS void
 LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
 BEGIN
   PERFORM exige_permiso('{modulo}');
-  UPDATE {tabla} SET {columna} = obligatorio(descri, {ancho}, '{campo}'{parrafo}) WHERE {llave} = {valida};
+  UPDATE {tabla} SET {columna} = {exige}(descri, {ancho}, '{campo}') WHERE {llave} = {valida};
   IF NOT FOUND THEN
     RAISE EXCEPTION '{quien} % no existe', rtrim(clave::text) USING ERRCODE = 'no_data_found';
   END IF;
@@ -224,7 +225,7 @@ BEGIN
   PERFORM exige_permiso('0217');
   INSERT INTO tiposocio (tiposocioid, descritiposocio, observaciones)
   VALUES (obligatorio(clave, 2, 'la clave'), obligatorio(descri, 30, 'la descripción'),
-          texto(notas, 254, 'el texto de observaciones', true))
+          parrafo(notas, 254, 'el texto de observaciones'))
   ON CONFLICT DO NOTHING;
   IF NOT FOUND THEN
     RAISE EXCEPTION 'El tipo de socio % ya existe', rtrim(clave) USING ERRCODE = 'unique_violation';
@@ -237,7 +238,7 @@ BEGIN
   PERFORM exige_permiso('0217');
   UPDATE tiposocio
      SET descritiposocio = obligatorio(descri, 30, 'la descripción'),
-         observaciones = texto(notas, 254, 'el texto de observaciones', true)
+         observaciones = parrafo(notas, 254, 'el texto de observaciones')
    WHERE tiposocioid = obligatorio(clave, 2, 'la clave')::bpchar;
   IF NOT FOUND THEN
     RAISE EXCEPTION 'El tipo de socio % no existe', rtrim(clave) USING ERRCODE = 'no_data_found';

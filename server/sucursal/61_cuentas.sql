@@ -181,7 +181,7 @@ DECLARE
   agregadas integer := 0;
 BEGIN
   PERFORM exige_permiso('0901');
-  FOR sucursal IN SELECT sucursales() LOOP
+  FOR sucursal IN SELECT sucursales_iguales(current_schema()) LOOP
     EXECUTE format('SELECT EXISTS (SELECT FROM %I.catalogo_ctas WHERE cuentaid = $1::bpchar)', sucursal)
        INTO existe USING cuenta;
     IF NOT existe THEN

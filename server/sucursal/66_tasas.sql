@@ -175,7 +175,7 @@ BEGIN
       NULL;
     WHEN 'b' THEN
       INSERT INTO tipotasa (tipotasa, descripcion)
-      VALUES (rtrim(obligatorio(nombre, 59, 'el nombre de la tasa')), obligatorio(descri, 259, 'la descripción', true))
+      VALUES (rtrim(obligatorio(nombre, 59, 'el nombre de la tasa')), parrafo_obligatorio(descri, 259, 'la descripción'))
       ON CONFLICT DO NOTHING;
       IF NOT FOUND THEN
         RAISE EXCEPTION 'El tipo de tasa % ya existe', rtrim(nombre) USING ERRCODE = 'unique_violation';
@@ -188,7 +188,7 @@ BEGIN
     WHEN 'd' THEN
       UPDATE tipotasa
          SET tipotasa = rtrim(obligatorio(nombre, 59, 'el nombre de la tasa')),
-             descripcion = obligatorio(descri, 259, 'la descripción', true)
+             descripcion = parrafo_obligatorio(descri, 259, 'la descripción')
        WHERE tipotasa = rtrim(anterior);
       IF NOT FOUND THEN
         RAISE EXCEPTION 'El tipo de tasa % no existe', rtrim(anterior) USING ERRCODE = 'no_data_found';

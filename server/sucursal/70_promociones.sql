@@ -27,7 +27,7 @@ BEGIN
                                       'tipomovimientoid', 'el tipo de movimiento');
   fila.fechainicial := fecha_dada(inicial, 'la fecha de inicio');
   fila.fechafinal := fecha_final(final, fila.fechainicial);
-  fila.condicion := obligatorio(condiciones, 83, 'la condición', true);
+  fila.condicion := parrafo_obligatorio(condiciones, 83, 'la condición');
   fila.estatus := numero(estado, 0, 2, 'el estatus');
   fila.descripcion := obligatorio(descri, 30, 'la descripción');
   RETURN fila;

@@ -35,12 +35,12 @@ BEGIN
   fila.sujetoid := persona;
   fila.propietario := rtrim(obligatorio(duenio, 60, 'el propietario'));
   fila.describien := rtrim(obligatorio(descri, 60, 'la descripción del bien'));
-  fila.caracteristicas := rtrim(obligatorio(rasgos, 254, 'las características', true));
-  fila.registropublico := rtrim(obligatorio(registro, 254, 'el registro público', true));
+  fila.caracteristicas := rtrim(parrafo_obligatorio(rasgos, 254, 'las características'));
+  fila.registropublico := rtrim(parrafo_obligatorio(registro, 254, 'el registro público'));
   fila.valorcomercial := numero(comercial, 0, 999999999999.99, 'el valor comercial');
   fila.valorfiscal := numero(fiscal, 0, 999999999999.99, 'el valor fiscal');
   fila.valorcatastro := numero(catastro, 0, 999999999999.99, 'el valor de catastro');
-  fila.datoshipoteca := rtrim(obligatorio(hipoteca, 255, 'los datos de la hipoteca', true));
+  fila.datoshipoteca := rtrim(parrafo_obligatorio(hipoteca, 255, 'los datos de la hipoteca'));
   fila.relaciongarantia := numero(relacion, 0, 99999999.999999, 'la relación de garantía');
   fila.adjudicado := letra_si_no(marca, 'la marca de adjudicado');
   IF fila.adjudicado = 'S' THEN

@@ -30,7 +30,7 @@ BEGIN
   fila.usu_usuarioid := referencia(rtrim(opcional(jefe, 20, 'el jefe')), 'usuario', 'usuarioid', 'el jefe');
   fila.email := rtrim(texto(correo, 30, 'el correo'));
   fila.dicola := rtrim(texto(cola, 10, 'la impresora'));
-  fila.obsusuario := rtrim(texto(notas, 257, 'las observaciones', true));
+  fila.obsusuario := rtrim(parrafo(notas, 257, 'las observaciones'));
   fila.sujetoid := persona;
   IF btrim(clave) <> '' THEN
     RAISE EXCEPTION 'La contraseña no se guarda en el catálogo de usuarios: la cambia el administrador del servidor'

@@ -47,7 +47,7 @@ BEGIN
   fila.activoid := id;
   fila.depreciacionid := tipo;
   fila.activoclave := rtrim(obligatorio(clave, 20, 'la clave'));
-  fila.activodescripcion := rtrim(obligatorio(descri, 258, 'la descripción', true));
+  fila.activodescripcion := rtrim(parrafo_obligatorio(descri, 258, 'la descripción'));
   fila.activo_valor := numero(valor, 0, tope, 'el valor');
   fila.porcenvidautil := numero(vida, 0, 99999999, 'el porcentaje de vida útil');
   fila.valormercado := numero(mercado, 0, tope, 'el valor de mercado');

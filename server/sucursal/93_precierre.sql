@@ -196,7 +196,7 @@ BEGIN
   RETURN QUERY EXECUTE
     (SELECT string_agg(format('SELECT * FROM %I.precorte_detalle WHERE ejercicio = $1 AND periodo = $2', sucursal),
                        ' UNION ALL ')
-       FROM sucursales() AS sucursal) || ' ORDER BY diasvencidos, clavesocioint, referenciaprestamo'
+       FROM sucursales_iguales(current_schema()) AS sucursal) || ' ORDER BY diasvencidos, clavesocioint, referenciaprestamo'
     USING anio, mes;
 END $$;
 

@@ -94,7 +94,7 @@ DECLARE
   sucursal name;
 BEGIN
   PERFORM exige_permiso('0442');
-  FOR sucursal IN SELECT * FROM sucursales() LOOP
+  FOR sucursal IN SELECT * FROM sucursales_iguales(current_schema()) LOOP
     EXECUTE format('SELECT %I.personas_reporte($1, $2, $3, $4)', sucursal)
        INTO reporte USING nombres, apaterno, amaterno, clave;
     partes := partes || (reporte || E'\n');

@@ -1151,16 +1151,24 @@ TEST_F(UsuarioVentana, CortadaAlElegirYEnCadaPasoLaFormaSirve) {
   Muda("braulio", Zapopan);
   Abre();
   const Textos antes = Filas();
+  constexpr size_t permisos = 6;  // the last statement whose failure shows
   EnCadaSentencia(10, [&](size_t n, const Falla& corte) {
+    Elige("camila");
+    espia_.Vacia();
     espia_.En(n, corte);
     {
       Guion guion;
       guion.EnAdelante([](FXDialogBox* caja) { Pulsa(Todos<FXButton>(caja).front()); });
       EligeRenglon(Arbol(), Item("braulio"));
-      EXPECT_EQ(guion.Mensajes().empty(), n > 6 || (n > 0 && n < 6)) << n;
+      EXPECT_EQ(guion.Mensajes().empty(), n > permisos) << n;
+    }
+    if (n <= permisos && n > 0) {
+      // found, but not whole: what the window showed was camila's
+      EXPECT_EQ(Lee("Login:") + Lee("  Nombre: ") + Lee("Email:"), "");
+      EXPECT_TRUE(usuario.IsNew());
+      EXPECT_EQ(Manda("&Aceptar", {Respuesta::Aceptar}), Textos{"No ha especificado el usuario"});
     }
     Reconecta();
-    Elige("camila");
     Elige("braulio");
     EXPECT_STREQ(Municipio()->getText().text(), "Zapopan");
   });
@@ -1199,7 +1207,7 @@ TEST_F(UsuarioVentana, CortadaAlRegistrarNoQuedaUnUsuarioAMedias) {
       8;  // COMMIT, behind three of the cascade, BEGIN, person, address, user, parameters
   Abre();
   int intento = 0;
-  EnCadaSentencia(15, [&](size_t n, const Falla& corte) {
+  EnCadaSentencia(12, [&](size_t n, const Falla& corte) {
     const Textos antes = Filas();
     const std::string login = std::string(1, static_cast<char>('a' + intento)) + "x";
     ++intento;
@@ -1231,6 +1239,7 @@ TEST_F(UsuarioVentana, CortadaAlGuardarOTodoONada) {
       "join norte.permisomodulo p using (usuarioid) where usuarioid = 'braulio' and clavemodulo = '0204'";
   int intento = 0;
   EnCadaSentencia(13, [&](size_t n, const Falla& corte) {
+    forma_->Load();  // the attempt before may have left it with part of the list
     Elige("braulio");
     const Tabla antes = base_.Filas(todo);
     const std::string nuevo = "N" + S(intento++);
@@ -1254,11 +1263,9 @@ TEST_F(UsuarioVentana, CortadaAlGuardarOTodoONada) {
     } else {
       EXPECT_EQ(Acepta(), (Textos{"Guardar cambios realizados ?", "Transacción exitosa"}))
           << "el segundo intento";
+      if (n == cierre) return;  // taken for saved: only person and user are sent again
       for (size_t i = 0; i < antes[0].size(); ++i) EXPECT_NE(base_.Filas(todo)[0][i], antes[0][i]) << i;
     }
-    if (!guardado || n > cierre + 1) return;
-    Area otra;  // the list was not reread
-    Insiste("&Nuevo");
   });
 }
 
