@@ -16,7 +16,7 @@ opciones=(
   'tasa-interes|6|7|0217|nada|'
   'tipo-de-socios|7|1|0217|dialogo|Socios'
   'ocupaciones|7|2|0450|hija|terminando creacion frm ocupacion'
-  'usuarios|8|1|0206|nada|'
+  'usuarios|8|1|0206|hija|terminando creacion frm usuario'
   'tipo-de-usuarios|8|2|0216|dialogo|Tipo de Usuarios'
   'modulos|8|3|0215|dialogo|Modulo'
   'inpc|9|1|0428|nada|'
