@@ -308,7 +308,7 @@ FXGroupBox* Forma<Ventana, Base, busqueda>::ArmaBotones() {
   if constexpr (busqueda == ConBuscar)
     buscar = Boton(columna, "&Buscar", iconos::find_icon, ID_FIND, BUTTON_DEFAULT);
   FXButton* const borrar = Boton(columna, "&Borrar", iconos::borrar_icon, ID_BORRAR, BUTTON_DEFAULT);
-  borrar->addHotKey(MKUINT(KEY_Delete, ALTMASK));
+  borrar->addHotKey(MKUINT(KEY_r, ALTMASK));
   // Both labels underline the same letter: it finds, and what deletes has a key of its own.
   if (buscar != nullptr) buscar->addHotKey(MKUINT(KEY_b, ALTMASK));
   ArmaCerrar(columna);

@@ -155,7 +155,7 @@ elige_ultimo() { teclea alt+n shift+Tab End Tab Tab; }
 
 adelante() { teclea $(printf 'Tab %.0s' $(seq "$1")); }
 
-# &Aceptar or &Borrar (alt+Delete) by its key $1, and yes to the question with the title $2, which may be that of its form as well;
+# &Aceptar or &Borrar (alt+r) by its key $1, and yes to the question with the title $2, which may be that of its form as well;
 # its picture is $3.
 confirma() {
   local forma

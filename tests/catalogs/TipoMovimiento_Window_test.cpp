@@ -157,14 +157,15 @@ TEST_F(TipoMovimientoVentana, DeUnaLetraAjenaQuedaLaDelSaldoHastaQueSePulsa) {
   };
   espia_.Cuando("spstipomovimiento", conX);
   Busca("AH");
-  for (const char* columna : {"AplicaSaldo", "AceptaDeposito", "AceptaRetiro", "CuentaOrden", "DesglosaIva"})
+  for (const char* columna : {"AplicaSaldo", "AceptaDeposito", "AceptaRetiro", "CuentaOrden"})
     EXPECT_FALSE(Casilla(columna)->getCheck()) << columna;
+  EXPECT_EQ(Casilla("DesglosaIva")->getCheck(), MAYBE);
   EXPECT_EQ(Manda("&Aceptar", {Respuesta::No}), Textos{"Guardar cambios realizados ?"});
   EXPECT_STREQ(tipomovimiento.getAplicaSaldo(), "X");
   for (const char* letra : {tipomovimiento.getAceptaDeposito(), tipomovimiento.getAceptaRetiro(),
                             tipomovimiento.getCuentaOrden()})
     EXPECT_STREQ(letra, "N");
-  EXPECT_EQ(tipomovimiento.getDesglosaIva(), 0);
+  EXPECT_EQ(tipomovimiento.getDesglosaIva(), 1);
   Pulsa(Casilla("AplicaSaldo"));
   Manda("&Aceptar", {Respuesta::No});
   EXPECT_STREQ(tipomovimiento.getAplicaSaldo(), "S");

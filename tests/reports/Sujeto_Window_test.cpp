@@ -201,6 +201,8 @@ TEST_F(Sujeto_WindowTest, LaBusquedaContestaCero) {
 }
 
 TEST_F(Sujeto_WindowTest, LaBusquedaAguantaCualquierCorte) {
+  PQfinish(conn);  // each turn has a session of its own
+  conn = nullptr;
   for (size_t n = 0; n < 6; ++n) {
     for (const Falla& falla : {falla::CorteAntes(), falla::CorteDespues(), falla::Nula(), falla::Error("%n"),
                                falla::ConNulos(), falla::ConTextos(), falla::Recortada(1)}) {
