@@ -22,10 +22,11 @@ struct DatoFecha : DatoTexto {
   void Pon(const std::optional<date>& nueva) {
     DatoTexto::Pon(nueva ? FXString(nueva->AsDMY()).trim() : FXString::null);
   }
-  /// What was typed with all its zeros is read by its places, anything else between its slashes.
+  /// A text is read by the places of dd/mm/yyyy, and one without the zeros between its slashes, where these
+  /// give a year of four digits.
   date Valor() const {
-    const bool completa = valor.length() == 10 || valor.find('/') < 0;
-    return completa ? date(valor.text()) : FechaDeTexto(valor);
+    const date entreDiagonales = FechaDeTexto(valor);
+    return valor.length() < 10 && entreDiagonales.year() >= 1000 ? entreDiagonales : date(valor.text());
   }
   /// What the handler of the button does: the round trip through the calendar, which writes the date back in
   /// `formato` also when it was cancelled.
