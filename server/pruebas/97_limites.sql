@@ -39,6 +39,12 @@ SELECT cmp_ok(pg_temp.tarda_al_menos(format('SELECT * FROM %I(%s)', p.proname, a
    AND p.proargtypes::oid[] @> ARRAY['text'::regtype::oid]
  ORDER BY p.proname;
 
+-- The one that loops most, with a date that lets it.
+SELECT cmp_ok(pg_temp.tarda_al_menos(format('SELECT * FROM generarfc(%s)', argumentos), argumentos), '<', 100.0,
+              'generarfc con ' || left(argumentos, 25))
+  FROM (VALUES ($$repeat('x',300000),'Y','Z','01/01/1990'$$), ($$'X',repeat('y ',150000),'Z','01/01/1990'$$),
+               ($$'X','Y',repeat('ñ ',150000),'01/01/1990'$$)) AS a (argumentos);
+
 SELECT * FROM finish();
 ROLLBACK;
 SELECT setval('comun.intentos_adriana', 1);

@@ -116,7 +116,9 @@ LANGUAGE plpgsql STABLE SECURITY DEFINER SET search_path FROM CURRENT AS $$
 DECLARE
   dia date := fecha_obligatoria(nacimiento, 'la fecha de nacimiento');
 BEGIN
-  IF palabra_rfc(apaterno, false) || palabra_rfc(amaterno, false) = '' THEN
+  IF greatest(char_length(apaterno), char_length(amaterno), char_length(nombres)) > 254 THEN
+    RAISE EXCEPTION 'No cabe el nombre: cada parte admite 254 caracteres' USING ERRCODE = 'string_data_right_truncation';
+  ELSIF palabra_rfc(apaterno, false) || palabra_rfc(amaterno, false) = '' THEN
     RAISE EXCEPTION 'Falta el apellido paterno' USING ERRCODE = 'not_null_violation';
   ELSIF palabra_rfc(nombres, true) = '' THEN
     RAISE EXCEPTION 'Falta el nombre' USING ERRCODE = 'not_null_violation';
