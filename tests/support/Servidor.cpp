@@ -72,6 +72,20 @@ Textos NuevosRoles(const Textos& antes) {
   return nuevos;
 }
 
+// The statements that give the logins back what they have now. Logins belong to the whole cluster: a test
+// that retires or suspends one in its own database would do so for all that follow.
+Textos EstadoDeLosLogins() {
+  Textos ordenes;
+  const Tabla filas = EnElServidor(
+      "select format('alter role %I with %s connection limit %s password %L valid until %L;', rolname,"
+      " case when rolcanlogin then 'login' else 'nologin' end, rolconnlimit, rolpassword,"
+      " coalesce(rolvaliduntil::text, 'infinity')) from pg_authid where oid >= 16384 and not rolsuper"
+      " union all select format('grant %I to %I;', g.rolname, m.rolname) from pg_auth_members a"
+      " join pg_roles g on g.oid = a.roleid join pg_roles m on m.oid = a.member where m.oid >= 16384");
+  for (const auto& fila : filas) ordenes.push_back(fila[0]);
+  return ordenes;
+}
+
 // A port that nobody listens on. Another program may take it before our server does; the caller tries again.
 std::string PuertoLibre() {
   static std::mt19937 azar(std::random_device{}());
@@ -194,6 +208,7 @@ void Servidor::Plantilla(const std::string& nombre,
   const Textos antes = Roles();
   constructor(nombre);
   for (const std::string& rol : NuevosRoles(antes)) rolesDePlantillas_.push_back(rol);
+  logins_ = EstadoDeLosLogins();
   plantillas_.push_back(nombre);
 }
 
@@ -232,6 +247,10 @@ BaseDatos::~BaseDatos() {
     EnElServidor("drop database " + Cita(nombre_) + " with (force)");
     for (const std::string& rol : NuevosRoles(rolesDeAntes_)) {
       if (!Tiene(servidor.rolesDePlantillas_, rol)) EnElServidor("drop role " + Cita(rol));
+    }
+    const Textos ahora = EstadoDeLosLogins();
+    for (const std::string& orden : servidor.logins_) {
+      if (!Tiene(ahora, orden)) EnElServidor(orden);
     }
   } catch (const std::exception& error) {
     ADD_FAILURE() << error.what();

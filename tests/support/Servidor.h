@@ -73,12 +73,13 @@ class Servidor {
   std::unique_ptr<Hijo> proceso_;
   Textos plantillas_;
   Textos rolesDePlantillas_;
+  Textos logins_;  // what brings the logins of the templates back to what they were
 
   friend class BaseDatos;
 };
 
 /// A fresh database for one test, made by the constructor and dropped by the destructor together with every
-/// login that was created meanwhile.
+/// login that was created meanwhile; the others are then what they were.
 class BaseDatos {
  public:
   static constexpr const char* Vacia = "vacia";  ///< an empty database

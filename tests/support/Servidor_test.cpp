@@ -110,6 +110,18 @@ TEST(BaseDatos, MataLasSesionesAjenas) {
   EXPECT_EQ(base.MataSesiones(), 0);
 }
 
+TEST(BaseDatos, DejaLosLoginsComoEstaban) {
+  {
+    BaseDatos base;
+    base.Ejecuta(
+        "alter role camila nologin password null connection limit 0; revoke sucursal_norte from camila");
+    EXPECT_NE(PQstatus(base.Conecta("camila", BaseDatos::Clave).get()), CONNECTION_OK);
+  }
+  BaseDatos otra;
+  EXPECT_EQ(PQstatus(otra.Conecta("camila", BaseDatos::Clave).get()), CONNECTION_OK);
+  EXPECT_EQ(otra.Valor("select pg_has_role('camila', 'sucursal_norte', 'member')"), "t");
+}
+
 TEST(BaseDatos, LaCompletaTieneDosSucursales) {
   BaseDatos base;
   EXPECT_EQ(base.Filas("select nspname from pg_namespace where nspname in ('norte', 'sur') order by 1"),
