@@ -28,8 +28,6 @@ muestra_ventana() {
   baja "$1"
   teclea Return
 }
-# Waits for a dialog without a title.
-espera_sin_titulo() { espera 'no aparece el diálogo' es_otra '' "$ventana"; }
 
 paso 'Un asesor se agrega y se borra'
 muestra_ventana 1
@@ -38,7 +36,7 @@ nuevo 97 'Ñico Lagos'
 captura asesores
 confirma alt+a 'Asesor' asesor-registrar
 exige_dato "SELECT nomasesor FROM asesor WHERE asesorid = 97" 'Ñico Lagos'
-confirma alt+Delete 'Asesor' asesor-borrar
+confirma alt+r 'Asesor' asesor-borrar
 exige_dato "SELECT count(*) FROM asesor WHERE asesorid = 97" 0
 teclea alt+c
 
@@ -57,7 +55,7 @@ exige_dato "SELECT count(*) FROM grupo WHERE grupo = 'Grupo de los Soñadores'" 
 elige_ultimo
 exige_campo 'Grupo de los Soñadores'
 captura grupos
-confirma alt+Delete 'Grupo' grupo-borrar
+confirma alt+r 'Grupo' grupo-borrar
 exige_dato "SELECT count(*) FROM grupo WHERE grupo = 'Grupo de los Soñadores'" 0
 teclea alt+c
 

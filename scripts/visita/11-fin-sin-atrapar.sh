@@ -15,7 +15,7 @@ captura series
 exige_dato "SELECT count(pg_terminate_backend(pid)) FROM pg_stat_activity WHERE usename = '$usuario'" 1
 
 paso 'Borrar una lo dice y termina el programa'
-teclea alt+Delete
+teclea alt+r
 espera_ventana 'Elimina tasa'
 captura serie-que-no-se-borra
 teclea alt+s
