@@ -57,6 +57,7 @@ Login_Window::Login_Window(Caja* owner)
   readRegistry();
   create();  // a field takes the focus only once it exists
   txtPassword->setFocus();
+  teclado = std::make_unique<Teclado>(this);
   engine.Inicializa();
 }
 
@@ -162,6 +163,8 @@ long Login_Window::onCmdAceptar(FXObject*, FXSelector, void*) {
     const std::string motivo = apertura::MotivoDelRechazo();
     std::cout << "En el catch:" << motivo << std::endl;
     cajaError(this, tituloDeError, motivo.c_str());
+    txtPassword->setFocus();
+    txtPassword->selectAll();  // typing replaces it
     std::cout << "Incremento intentos invalidos" << std::endl;
     ++intentos;
     return 0;

@@ -6,7 +6,10 @@
 
 #include <fx.h>
 
+#include <memory>
+
 #include "framework/Campos.h"
+#include "widgets/Teclado.h"
 
 class Caja;
 
@@ -61,4 +64,5 @@ class Login_Window : public FXDialogBox {
   FXButton* btnCerrar = nullptr;
   int opcionesAbiertas = 0;
   int intentos = 0;  // failed attempts of this dialog
+  std::unique_ptr<Teclado> teclado;
 };

@@ -16,16 +16,8 @@ FXString Ahora() { return FXSystem::time("%d/%m/%Y  %I:%M:%S %p", FXSystem::now(
 
 }  // namespace
 
-FXDEFMAP(PreCierre_Window)
-PreCierre_WindowMap[] = {
-    FXMAPFUNC(SEL_COMMAND, PreCierre_Window::ID_IMPRIME, PreCierre_Window::onCmdImprime),
-    FXMAPFUNC(SEL_COMMAND, PreCierre_Window::ID_CONSULTA, PreCierre_Window::onCmdConsulta),
-    FXMAPFUNC(SEL_COMMAND, PreCierre_Window::ID_ELIGE, PreCierre_Window::onCmdCalendario),
-    FXMAPFUNC(SEL_CLOSE, 0, PreCierre_Window::onCmdQuit),
-    FXMAPFUNC(SEL_SIGNAL, PreCierre_Window::ID_SALIR, PreCierre_Window::onCmdQuit),
-};
-
-FXIMPLEMENT(PreCierre_Window, FXDialogBox, PreCierre_WindowMap, ARRAYNUMBER(PreCierre_WindowMap))
+static constexpr auto& mapa = mapaDeReporte<PreCierre_Window, &PreCierre_Window::onCmdCalendario>;
+FXIMPLEMENT(PreCierre_Window, FXDialogBox, mapa, ARRAYNUMBER(mapa))
 
 PreCierre_Window::PreCierre_Window(FXWindow* duenio) : VentanaReporte(duenio, "Pre-Cierre") {
   campoFecha(matriz, "Fecha:", fecha, this, ID_ELIGE);

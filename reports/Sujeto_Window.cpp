@@ -9,16 +9,8 @@
 #include "reports/Archivo.h"
 #include "reports/Reporte.h"
 
-FXDEFMAP(Sujeto_Window)
-Sujeto_WindowMap[] = {
-    FXMAPFUNC(SEL_COMMAND, Sujeto_Window::ID_IMPRIME, Sujeto_Window::onCmdImprime),
-    FXMAPFUNC(SEL_COMMAND, Sujeto_Window::ID_CONSULTA, Sujeto_Window::onCmdConsulta),
-    FXMAPFUNC(SEL_COMMAND, Sujeto_Window::ID_ELIGE, Sujeto_Window::onCmdBusquedaSujeto),
-    FXMAPFUNC(SEL_CLOSE, 0, Sujeto_Window::onCmdQuit),
-    FXMAPFUNC(SEL_SIGNAL, Sujeto_Window::ID_SALIR, Sujeto_Window::onCmdQuit),
-};
-
-FXIMPLEMENT(Sujeto_Window, FXDialogBox, Sujeto_WindowMap, ARRAYNUMBER(Sujeto_WindowMap))
+static constexpr auto& mapa = mapaDeReporte<Sujeto_Window, &Sujeto_Window::onCmdBusquedaSujeto>;
+FXIMPLEMENT(Sujeto_Window, FXDialogBox, mapa, ARRAYNUMBER(mapa))
 
 Sujeto_Window::Sujeto_Window(FXWindow* duenio) : VentanaReporte(duenio, "Busqueda Sujeto") {
   FXComposite* renglon = campoRenglon(matriz, "Nombre:");

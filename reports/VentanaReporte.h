@@ -7,7 +7,8 @@
 //   static constexpr const char* archivo   what it writes
 //   void Genera()                          writes it
 //
-// and the commands of its first button and of the button beside its first field.
+// and the commands of its first button (onCmdImprime) and of the button beside its first field. Its message
+// map is mapaDeReporte.
 #pragma once
 
 #include <fx.h>
@@ -65,6 +66,16 @@ class VentanaReporte : public FXDialogBox {
   FXHorizontalFrame* cuerpo = nullptr;
   FXCheckButton* consolidado = nullptr;
   FXTextField* primero = nullptr;
+};
+
+/// The message map of such a dialog, in which the button beside the first field runs `elige`.
+template <class Ventana, long (Ventana::*elige)(FXObject*, FXSelector, void*)>
+constexpr typename Ventana::FXMapEntry mapaDeReporte[] = {
+    FXMAPFUNC(SEL_COMMAND, Ventana::ID_IMPRIME, Ventana::onCmdImprime),
+    FXMAPFUNC(SEL_COMMAND, Ventana::ID_CONSULTA, Ventana::onCmdConsulta),
+    {FXSEL(SEL_COMMAND, Ventana::ID_ELIGE), FXSEL(SEL_COMMAND, Ventana::ID_ELIGE), elige},
+    FXMAPFUNC(SEL_CLOSE, 0, Ventana::onCmdQuit),
+    FXMAPFUNC(SEL_SIGNAL, Ventana::ID_SALIR, Ventana::onCmdQuit),
 };
 
 template <class Ventana>

@@ -1,7 +1,12 @@
 # The login, as the branch's administrator.
-paso 'El cliente se abre y pide la contraseña'
+paso 'El cliente se abre mientras otro programa tiene el teclado, y lo tiene para la contraseña'
+display -title 'Otro programa' -geometry +0+0 -size 200x100 xc:white &
+otro=$!
+procesos+=("$otro")
+espera_ventana 'Otro programa'
 abre_cliente
 espera_ventana 'Login'
+kill "$otro"
 captura login
 
 paso 'Una contraseña equivocada se rechaza'
@@ -12,8 +17,7 @@ exige_traza 'FATAL:'
 
 paso 'La contraseña abre la sesión'
 espera_ventana 'Login'
-teclea ctrl+a
-escribe "$(clave_de "$usuario")"
+escribe "$(clave_de "$usuario")" # over the refused one, which is selected
 teclea Return
 responde 'Validando usuario' Return bienvenida
 exige_traza 'Formato Cuenta'

@@ -133,7 +133,7 @@ espera 'no aparece el resultado' es_otra 'Pre-Corte' "$ventana"
 exige_traza "select * from precierre('$dia');"
 responde 'Pre-Corte' Return precierre-resultado
 espera_ventana 'Pre-Cierre'
-teclea Tab Tab Tab Tab space # &Consulta: &Cerrar has the same key
+teclea Tab space # &Consulta, whose key is that of &Cerrar too
 espera_ventana 'Reporte'
 exige_traza 'Termina generacion correctamente'
 captura precierre-exportado

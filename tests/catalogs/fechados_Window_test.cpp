@@ -3,7 +3,6 @@
 #include <fxkeys.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <optional>
 
 #include "app/sesion.h"
@@ -14,6 +13,7 @@
 #include "catalogs/finance/TipoPromocion_Window.h"
 #include "catalogs/finance/Udis_Window.h"
 #include "framework/Busqueda_Window.h"
+#include "tests/catalogs/ConMandos.h"
 #include "tests/catalogs/FormaProducto.h"
 #include "tests/support/Cortes.h"
 #include "tests/support/Pantalla.h"
@@ -415,27 +415,18 @@ const Caso casos[] = {
       {"Descripcion:", "ñññññññññññññññññññññññññññññññ", ""}}},
 };
 
-class FormaFechada : public testing::Test {
+class FormaFechada : public ConMandos {
  protected:
   void SetUp() override {
-    if (!base_) base_ = new BaseDatos;
-    sesion_.emplace(*base_);
+    ConMandos::SetUp();
     catalogo.LoadCuentas();
     catalogo.LoadTipoMovimiento();
-  }
-  void TearDown() override {
-    sesion_.reset();
-    if (escrita_) Suelta();
-  }
-  static void TearDownTestSuite() { Suelta(); }
-  static void Suelta() {
-    delete base_;
-    base_ = nullptr;
   }
 
   /// Opens the form with a record as the program has it at its start.
   void Abre(const Caso& caso) {
     caso_ = &caso;
+    clase_ = caso.modelo.clase;
     caso.modelo.limpia();
     forma_ = caso.modelo.abre(area_);
     espia_.Vacia();
@@ -499,37 +490,6 @@ class FormaFechada : public testing::Test {
     for (const CampoVisto& campo : Campos()) textos.push_back(campo.tipo == Tipo::Numero ? "0" : "");
     return textos;
   }
-  std::string RenglonActual() { return Lista(forma_)->getItemText(Lista(forma_)->getCurrentItem()).text(); }
-  Textos Renglones() {
-    Textos renglones;
-    for (FXint i = 0; i < Lista(forma_)->getNumItems(); ++i)
-      renglones.push_back(Lista(forma_)->getItemText(i).text());
-    return renglones;
-  }
-
-  /// Presses a button, answers the boxes that come in order, and gives their texts.
-  Textos Manda(const std::string& boton, const std::vector<Respuesta>& respuestas = {}) {
-    escrita_ = escrita_ || std::count(respuestas.begin(), respuestas.end(), Respuesta::Si) != 0;
-    Guion guion;
-    for (const Respuesta respuesta : respuestas) guion.Responde(respuesta);
-    Pulsa(Boton(forma_, boton));
-    cuadros_ = guion.Cuadros();
-    return guion.Mensajes();
-  }
-  /// What a question of the form asks, when answered and captioned as it should be.
-  std::string Pregunta(const std::string& boton, Respuesta respuesta) {
-    const Textos dichos = Manda(boton, {respuesta});
-    EXPECT_EQ(cuadros_.at(0).clase, Clase::Pregunta);
-    EXPECT_EQ(cuadros_.at(0).titulo, caso_->modelo.clase());
-    return dichos.at(0);
-  }
-  /// The error in which a command ends after its question.
-  std::string Rechazo(const std::string& boton) {
-    const Textos dichos = Manda(boton, {Respuesta::Si, Respuesta::Aceptar});
-    EXPECT_EQ(cuadros_.at(1).clase, Clase::Error);
-    EXPECT_EQ(cuadros_.at(1).titulo, "Error en Validación");
-    return dichos.at(1);
-  }
   /// Presses &Aceptar and yes to all that follows.
   Textos AceptaComoSea() {
     escrita_ = true;
@@ -539,11 +499,6 @@ class FormaFechada : public testing::Test {
     return guion.Mensajes();
   }
 
-  Textos Enviado() {
-    const Textos sentencias = espia_.Sentencias();
-    espia_.Vacia();
-    return sentencias;
-  }
   Textos Carga() const {
     return caso_->enTransaccion ? Textos{"BEGIN;", caso_->carga, "COMMIT;"} : Textos{caso_->carga};
   }
@@ -579,18 +534,8 @@ class FormaFechada : public testing::Test {
     Pulsa(JuntoA<FXButton>(forma_, etiqueta));
   }
 
-  static BaseDatos* base_;  // one for all tests, until one of them has written to it
-  bool escrita_ = false;
-  std::optional<Sesion> sesion_;
-  Salida salida_;
-  Espia espia_;
-  Area area_;
   const Caso* caso_ = nullptr;
-  FXWindow* forma_ = nullptr;
-  std::vector<Cuadro> cuadros_;
 };
-
-BaseDatos* FormaFechada::base_ = nullptr;
 
 class FormasFechadas : public FormaFechada, public testing::WithParamInterface<Caso> {
  protected:
@@ -685,9 +630,6 @@ TEST_P(FormasFechadas, NadaSeVeCortado) {
                                                           : CampoJuntoA(forma_, campo.etiqueta);
     EXPECT_GE(pieza->getWidth(), pieza->getDefaultWidth()) << campo.etiqueta;
   }
-  EligeRenglon(Lista(forma_), 3);
-  if (const char* carpeta = getenv("FOTOS"))
-    Foto(std::string(carpeta) + "/" + caso.modelo.meta->getClassName() + ".png", forma_);
 }
 
 // The commands.

@@ -22,16 +22,11 @@
 #include "catalogs/simple/TipoSocio_Window.h"
 #include "catalogs/simple/TipoUsuario_Window.h"
 #include "catalogs/simple/Tipo_Garantia_Window.h"
+#include "tests/catalogs/ConMandos.h"
 #include "tests/support/Cortes.h"
-#include "tests/support/Espia.h"
-#include "tests/support/Guion.h"
 #include "tests/support/Pantalla.h"
 #include "tests/support/Principal.h"
 #include "tests/support/Registros.h"
-#include "tests/support/Salida.h"
-#include "tests/support/Servidor.h"
-#include "tests/support/Sesion.h"
-#include "tests/support/Ventana.h"
 
 namespace pruebas {
 namespace {
@@ -418,25 +413,12 @@ std::string ColumnasDe(const FXMetaClass& meta) {
   return "*";
 }
 
-class FormaSimple : public testing::Test {
+class FormaSimple : public ConMandos {
  protected:
-  void SetUp() override {
-    if (!base_) base_ = new BaseDatos;
-    sesion_.emplace(*base_);
-  }
-  void TearDown() override {
-    sesion_.reset();
-    if (escrita_) Suelta();
-  }
-  static void TearDownTestSuite() { Suelta(); }
-  static void Suelta() {
-    delete base_;
-    base_ = nullptr;
-  }
-
   /// Opens the form with a record as the program has it at its start.
   void Abre(const Caso& caso) {
     caso_ = &caso;
+    clase_ = caso.modelo.clase;
     caso.modelo.limpia();
     forma_ = caso.modelo.abre(area_);
     espia_.Vacia();
@@ -479,44 +461,6 @@ class FormaSimple : public testing::Test {
       textos.push_back(campo.tipo == Tipo::Real ? "0" : campo.tipo == Tipo::Casilla ? "-" : "");
     return textos;
   }
-  Textos Renglones() {
-    Textos renglones;
-    for (FXint i = 0; i < Lista(forma_)->getNumItems(); ++i)
-      renglones.push_back(Lista(forma_)->getItemText(i).text());
-    return renglones;
-  }
-  std::string RenglonActual() { return Lista(forma_)->getItemText(Lista(forma_)->getCurrentItem()).text(); }
-
-  /// Presses a button, answers the boxes that come in order, and gives their texts.
-  Textos Manda(const std::string& boton, const std::vector<Respuesta>& respuestas = {}) {
-    escrita_ = escrita_ || std::count(respuestas.begin(), respuestas.end(), Respuesta::Si) != 0;
-    Guion guion;
-    for (const Respuesta respuesta : respuestas) guion.Responde(respuesta);
-    Pulsa(Boton(forma_, boton));
-    cuadros_ = guion.Cuadros();
-    return guion.Mensajes();
-  }
-  /// What a question of the form asks, when answered and captioned as it should be.
-  std::string Pregunta(const std::string& boton, Respuesta respuesta) {
-    const Textos dichos = Manda(boton, {respuesta});
-    EXPECT_EQ(cuadros_.at(0).clase, Clase::Pregunta);
-    EXPECT_EQ(cuadros_.at(0).titulo, caso_->modelo.clase());
-    return dichos.at(0);
-  }
-  /// The error in which a command ends after its question.
-  std::string Rechazo(const std::string& boton) {
-    const Textos dichos = Manda(boton, {Respuesta::Si, Respuesta::Aceptar});
-    EXPECT_EQ(cuadros_.at(1).clase, Clase::Error);
-    EXPECT_EQ(cuadros_.at(1).titulo, "Error en Validación");
-    return dichos.at(1);
-  }
-
-  /// The statements since the last call.
-  Textos Enviado() {
-    const Textos sentencias = espia_.Sentencias();
-    espia_.Vacia();
-    return sentencias;
-  }
   Banderas Estado() const { return caso_->modelo.banderas(); }
   /// The row with the key of `fila`, as the server holds it.
   Tabla EnLaBase(const Textos& fila) {
@@ -527,18 +471,8 @@ class FormaSimple : public testing::Test {
                         " = '" + fila.at(0) + "'");
   }
 
-  static BaseDatos* base_;  // one for all tests, until one of them has written to it
-  bool escrita_ = false;
-  std::optional<Sesion> sesion_;
-  Salida salida_;
-  Espia espia_;
-  Area area_;
   const Caso* caso_ = nullptr;
-  FXWindow* forma_ = nullptr;
-  std::vector<Cuadro> cuadros_;
 };
-
-BaseDatos* FormaSimple::base_ = nullptr;
 
 class FormasSimples : public FormaSimple, public testing::WithParamInterface<Caso> {
  protected:

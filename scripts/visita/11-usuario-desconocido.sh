@@ -1,0 +1,26 @@
+# A search for a login that nobody has ends the program, in good order and with its text on standard output.
+paso 'Otra sesión se abre'
+abre_cliente
+espera_ventana 'Login'
+escribe "$(clave_de "$usuario")"
+teclea Return
+responde 'Validando usuario' Return bienvenida-a-los-usuarios
+
+paso 'Se abren los usuarios'
+espera_ventana "$principal"
+elige 8 1
+exige_traza "SELECT * FROM spspermisomodulo('$usuario','0206');"
+exige_traza 'terminando creacion frm usuario'
+captura usuarios
+
+paso 'Buscar un login que nadie tiene termina el programa'
+# By mouse: the remarks keep the keyboard on its way to the login, and &Borrar has the key of &Buscar.
+pulsa_en() { xdotool mousemove --window "$(xdotool getactivewindow)" "$1" "$2" click 1; }
+pulsa_en 337 101
+escribe 'nadie'
+exige_campo 'nadie'
+captura usuario-desconocido
+pulsa_en 757 104
+exige_traza 'Entrando a Find '
+exige_traza 'El usuario no se encontro en la BD'
+espera_fin
