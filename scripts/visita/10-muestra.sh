@@ -28,8 +28,6 @@ muestra_ventana() {
   baja "$1"
   teclea Return
 }
-# Waits for a dialog without a title.
-espera_sin_titulo() { espera 'no aparece el diálogo' es_otra '' "$ventana"; }
 
 paso 'Un asesor se agrega y se borra'
 muestra_ventana 1

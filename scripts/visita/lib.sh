@@ -105,6 +105,9 @@ cambia_activa() {
   activa=$(xdotool getactivewindow) && [[ $activa != "$ventana" ]]
 }
 
+# Waits for a dialog without a title.
+espera_sin_titulo() { espera 'no aparece el diálogo' es_otra '' "$ventana"; }
+
 # Waits for the client to end, which must be in good order.
 espera_fin() {
   espera 'el programa no termina' termino
@@ -155,8 +158,8 @@ elige_ultimo() { teclea alt+n shift+Tab End Tab Tab; }
 
 adelante() { teclea $(printf 'Tab %.0s' $(seq "$1")); }
 
-# &Aceptar or &Borrar (alt+r) by its key $1, and yes to the question with the title $2, which may be that of its form as well;
-# its picture is $3.
+# &Aceptar or &Borrar (alt+r) by its key $1, and yes to the question with the title $2, which may be that of its
+# form as well; its picture is $3.
 confirma() {
   local forma
   forma=$(xdotool getactivewindow)

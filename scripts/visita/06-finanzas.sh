@@ -1,0 +1,273 @@
+# Banks, series by month and by day, promotions, rates: a row of each is added, refused, found, changed and deleted.
+
+# Opens the calendar, by its button, which has the keyboard, and picks the second day of the month shown.
+elige_dia() {
+  teclea space
+  espera_sin_titulo
+  captura "$1"
+  teclea Tab Tab space alt+a
+  espera_cierre
+}
+
+paso 'Una cuenta de banco sin su cuenta contable se rechaza'
+espera_ventana "$principal"
+elige 2
+exige_traza 'terminando creacion frm banco'
+nuevo QZ-001 'Banco del Ensueño' 15/03/2026
+teclea alt+a
+responde 'Error en Validación' Return banco-rechazado
+exige_dato "SELECT count(*) FROM banco WHERE no_cuenta = 'QZ-001'" 0
+
+paso 'Con ella se agrega, con la fecha del calendario'
+nuevo QZ-001 'Banco del Ensueño' 15/03/2026
+elige_dia banco-calendario
+teclea shift+Tab
+exige_campo 02/03/2026
+adelante 2
+llena 1000 900.5 25.75
+pon_cuentas 1
+llena A 17
+captura banco-nuevo
+confirma alt+a 'Banco' banco-registrar
+exige_dato "SELECT banco, fecha_inicio, saldo_inicial, saldo_actual, saldo_pen, rtrim(cuentaid), serie, nocheque
+              FROM banco WHERE no_cuenta = 'QZ-001'" \
+  'Banco del Ensueño|2026-03-02|1000.00|900.50|25.75|1101-01-00-00-0000|A|17'
+
+paso 'Se busca y se modifica'
+encuentra QZ-001
+exige_campo 'Banco del Ensueño'
+captura banco-encontrado
+llena 'Banco del Otoño' # leaves the date as it is
+confirma alt+a 'Banco' banco-guardar
+exige_dato "SELECT banco, fecha_inicio FROM banco WHERE no_cuenta = 'QZ-001'" 'Banco del Otoño|2026-03-02'
+
+paso 'Y se borra'
+confirma alt+r 'Banco' banco-borrar
+exige_dato "SELECT count(*) FROM banco WHERE no_cuenta = 'QZ-001'" 0
+teclea alt+c
+
+# The series by month. One row each: name, place in the cascade, title of its questions, column of the figure.
+series=(
+  'inpc|1|Inpc|inpc'
+  'recargos|3|Recargos|porcentaje'
+)
+
+for serie in "${series[@]}"; do
+  IFS='|' read -r nombre lugar titulo columna <<<"$serie"
+  del_mes="SELECT $columna FROM $nombre WHERE ano = 2031 AND mes = 5"
+
+  paso "Una cifra negativa de $nombre se rechaza"
+  elige 9 "$lugar"
+  exige_traza 'terminando creacion frm pais'
+  nuevo 2031 5 -1
+  teclea alt+a
+  responde 'Error en Validación' Return "$nombre-negativo"
+  exige_traza 'entrando a error'
+
+  paso "El servidor rechaza un mes 13 de $nombre"
+  nuevo 2031 13 1.25
+  confirma alt+a "$titulo" "$nombre-mes-trece"
+  responde 'Error en Validación' Return "$nombre-rechazado"
+  exige_dato "SELECT count(*) FROM $nombre WHERE ano = 2031" 0
+
+  paso "Un mes de $nombre se agrega"
+  nuevo 2031 5 1.25
+  captura "$nombre-nuevo"
+  confirma alt+a "$titulo" "$nombre-registrar"
+  exige_dato "$del_mes" 1.250000
+
+  paso 'Se busca por el año y el mes, y se modifica'
+  nuevo 2031 5
+  teclea alt+b
+  exige_campo 1.25
+  llena 2.5
+  confirma alt+a "$titulo" "$nombre-guardar"
+  exige_dato "$del_mes" 2.500000
+
+  paso 'Y se borra'
+  confirma alt+r "$titulo" "$nombre-borrar"
+  exige_dato "$del_mes" ''
+  exige_dato "SELECT count(*) > 0 FROM $nombre" t
+  teclea alt+c
+done
+
+paso 'El valor negativo de una UDI se rechaza'
+elige 9 2
+exige_traza 'terminando creacion frm pais'
+nuevo 15/01/2031
+adelante 1
+llena -1
+teclea alt+a
+responde 'Error en Validación' Return udis-rechazado
+exige_traza 'entrando a error'
+
+paso 'El de un día que se elige en el calendario se agrega'
+nuevo 15/01/2031
+elige_dia udis-calendario
+adelante 1
+llena 9.125
+captura udis-nuevo
+confirma alt+a 'Udis' udis-registrar
+exige_traza "select spiudis('2031-01-02',9.125000);"
+exige_dato "SELECT fecha, valor FROM udis WHERE fecha > '2031-01-01'" '2031-01-02|9.125000'
+
+paso 'Se busca por la fecha, y se modifica'
+nuevo 02/01/2031
+teclea alt+b Tab
+exige_campo 9.125
+llena 9.25
+confirma alt+a 'Udis' udis-guardar
+exige_dato "SELECT valor FROM udis WHERE fecha = '2031-01-02'" 9.250000
+
+paso 'Y se borra'
+confirma alt+r 'Udis' udis-borrar
+exige_dato "SELECT count(*) FROM udis WHERE fecha > '2031-01-01'" 0
+teclea alt+c
+
+paso 'Un día inhábil que ya está se rechaza'
+elige 10 4
+exige_traza 'terminando creacion frm pais'
+nuevo 16/09/2026
+confirma alt+a 'Inabil' inabil-repetir
+responde 'Error en Validación' Return inabil-repetido
+
+paso 'Uno que se elige en el calendario se agrega'
+nuevo 15/06/2031
+elige_dia inabil-calendario
+captura inabil-nuevo
+confirma alt+a 'Inabil' inabil-registrar
+exige_dato "SELECT fecha FROM inabil WHERE fecha > '2031-01-01'" 2031-06-02
+
+paso 'Se busca, y el servidor no deja que se modifique'
+nuevo 02/06/2031
+teclea alt+b shift+Tab
+exige_traza "SELECT * FROM inabil where fecha='2031-06-02';"
+exige_campo 02/06/2031
+llena 03/06/2031
+confirma alt+a 'Inabil' inabil-guardar
+exige_traza "update inabil set fecha='2031-06-03' where fecha='2031-06-03;"
+responde 'Error en Validación' Return inabil-no-se-modifica
+exige_dato "SELECT fecha FROM inabil WHERE fecha > '2031-01-01'" 2031-06-02
+
+paso 'Y se borra'
+nuevo 02/06/2031
+confirma alt+r 'Inabil' inabil-borrar
+exige_dato "SELECT count(*) FROM inabil WHERE fecha > '2031-01-01'" 0
+teclea alt+c
+
+paso 'Una promoción sin condición se rechaza'
+elige 10 2
+exige_traza 'terminando creacion frm tipopromocion'
+nuevo ''
+teclea Down Tab Tab # the first movement type
+llena 'Otoño' 01/10/2031
+teclea alt+a
+responde 'Error en Validación' Return promocion-rechazada
+
+paso 'Con ella, y la fecha final del calendario, se agrega'
+nuevo ''
+teclea Down Tab Tab
+llena 'Otoño' 01/10/2031
+adelante 1
+llena 15/11/2031
+elige_dia promocion-calendario
+adelante 1
+llena 'Una sombrilla al señor que ahorre'
+teclea Down # in force
+captura promocion-nueva
+confirma alt+a 'TipoPromocion' promocion-registrar
+exige_dato "SELECT tipomovimientoid, fechainicial, fechafinal, condicion, estatus FROM tipopromocion
+             WHERE descripcion = 'Otoño'" 'AH|2031-10-01|2031-11-02|Una sombrilla al señor que ahorre|0'
+
+paso 'Se elige en la lista y se modifica'
+elige_ultimo
+adelante 2
+exige_campo 'Otoño'
+captura promocion-elegida
+llena 'Otoño lluvioso'
+confirma alt+a 'TipoPromocion' promocion-guardar
+exige_dato "SELECT descripcion, fechafinal FROM tipopromocion WHERE fechainicial > '2031-01-01'" \
+  'Otoño lluvioso|2031-11-02'
+
+paso 'Y se borra'
+confirma alt+r 'TipoPromocion' promocion-borrar
+exige_dato "SELECT count(*) FROM tipopromocion WHERE fechainicial > '2031-01-01'" 0
+teclea alt+c
+
+paso 'Una serie de tasas sin observaciones no se agrega'
+elige 6 6
+espera_ventana 'Tipo Tasa Variables'
+nuevo ZQ
+teclea alt+a
+responde 'Mensaje' Return serie-sin-observaciones
+exige_dato "SELECT count(*) FROM tipotasa WHERE tipotasa = 'ZQ'" 0
+
+paso 'Con ellas se agrega sin preguntar'
+espera_ventana 'Tipo Tasa Variables'
+nuevo ZQ 'Tasa del año'
+captura serie-nueva
+teclea alt+a
+responde 'Mensaje' Return serie-agregada
+exige_dato "SELECT descripcion FROM tipotasa WHERE tipotasa = 'ZQ'" 'Tasa del año'
+
+# The last row; without &Nuevo, after which &Aceptar would insert. The keyboard is on a button, and then on the name.
+paso 'Se elige en la lista y se modifica'
+espera_ventana 'Tipo Tasa Variables'
+teclea shift+Tab
+exige_campo ''
+teclea shift+Tab End Tab
+exige_campo ZQ
+llena ZQS 'Tasa del otoño'
+confirma alt+a 'Modifica tasa' serie-guardar
+exige_dato "SELECT tipotasa, descripcion FROM tipotasa WHERE tipotasa LIKE 'ZQ%'" 'ZQS|Tasa del otoño'
+
+paso 'Y se borra'
+espera_ventana 'Tipo Tasa Variables'
+teclea alt+n shift+Tab End
+confirma alt+r 'Elimina tasa' serie-borrar
+exige_dato "SELECT string_agg(tipotasa, ' ' ORDER BY tipotasa) FROM tipotasa" 'CCP CETES TIIE'
+espera_ventana 'Tipo Tasa Variables'
+teclea alt+c
+
+paso 'El servidor rechaza un periodo que termina antes de empezar'
+espera_ventana "$principal"
+elige 6 7
+espera_ventana 'Tasas Variables'
+nuevo TIIE 01/10/2031
+adelante 1
+llena 30/09/2031
+adelante 1
+llena 5.5 5.25
+confirma alt+a 'tasasinteres' periodo-al-reves
+responde 'Error en Validación' Return periodo-rechazado
+exige_dato "SELECT count(*) FROM tasavariable WHERE fechainicial > '2031-01-01'" 0
+
+paso 'Uno con la fecha del calendario se agrega, y sus valores se pierden'
+espera_ventana 'Tasas Variables'
+nuevo TIIE 01/10/2031
+adelante 1
+llena 15/11/2031
+elige_dia periodo-calendario
+adelante 1
+llena 5.5 5.25
+captura periodo-nuevo
+confirma alt+a 'tasasinteres' periodo-registrar
+exige_dato "SELECT tipotasa, fechainicial, fechafinal, valor1 = 5.5, valor2 = 5.25 FROM tasavariable
+             WHERE fechainicial > '2031-01-01'" 'TIIE|2031-10-01|2031-11-02|f|f'
+
+paso 'Se elige en la lista y se modifica: así se guardan'
+espera_ventana 'Tasas Variables'
+elige_ultimo
+exige_campo 01/10/2031
+captura periodo-elegido
+adelante 4
+llena 5.5 5.25
+confirma alt+a 'tasasinteres' periodo-guardar
+exige_dato "SELECT valor1, valor2 FROM tasavariable WHERE fechainicial > '2031-01-01'" '5.500000|5.250000'
+
+paso 'Y se borra'
+espera_ventana 'Tasas Variables'
+confirma alt+r 'tasasinteres' periodo-borrar
+exige_dato "SELECT count(*) FROM tasavariable WHERE fechainicial > '2031-01-01'" 0
+espera_ventana 'Tasas Variables'
+teclea alt+c
