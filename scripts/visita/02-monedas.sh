@@ -46,7 +46,7 @@ responde 'Error en Validación' Return clave-repetida
 exige_dato "SELECT monedadescri FROM moneda WHERE monedaid = 'QZ'" 'Corona modificada'
 
 paso 'Se borra'
-teclea alt+Delete
+teclea alt+r
 responde 'Moneda' alt+s borrar
 exige_dato "SELECT count(*) FROM moneda WHERE monedaid = 'QZ'" 0
 captura moneda-borrada

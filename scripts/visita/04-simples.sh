@@ -17,7 +17,7 @@ exige_dato "SELECT descripciongarantia FROM tipo_garantia WHERE clavegarantia = 
 
 paso 'Y se borra'
 espera_ventana 'Tipo de Garantia'
-confirma alt+Delete 'Tipo de Garantía' garantia-borrar
+confirma alt+r 'Tipo de Garantía' garantia-borrar
 exige_dato "SELECT count(*) FROM tipo_garantia WHERE clavegarantia = 'QZ'" 0
 espera_ventana 'Tipo de Garantia'
 teclea alt+c
@@ -47,7 +47,7 @@ exige_dato "SELECT descritipomovibanco, operacionsumaresta FROM tipomovibanco WH
   'Ajuste dañado|-'
 
 paso 'Y se borra'
-confirma alt+Delete 'Tipo de Movimientos Bancarios' movimiento-borrar
+confirma alt+r 'Tipo de Movimientos Bancarios' movimiento-borrar
 exige_dato "SELECT count(*) FROM tipomovibanco WHERE tipomovibancoid = 'QZ'" 0
 teclea alt+c
 
@@ -68,7 +68,7 @@ exige_dato "SELECT ocupacion FROM ocupacion ORDER BY ocupacionid DESC LIMIT 1" '
 
 paso 'Y se borra'
 elige_ultimo
-confirma alt+Delete 'Ocupacion' ocupacion-borrar
+confirma alt+r 'Ocupacion' ocupacion-borrar
 exige_dato "SELECT count(*) FROM ocupacion WHERE ocupacion = 'Leñador nocturno'" 0
 teclea alt+c
 
@@ -91,7 +91,7 @@ exige_dato "SELECT count(*) FROM conceptoscoring WHERE conceptoscoring = 'Puntua
 
 paso 'Y se borra'
 espera_ventana 'Concepto Scoring'
-confirma alt+Delete 'Concepto Scoring' concepto-borrar
+confirma alt+r 'Concepto Scoring' concepto-borrar
 exige_dato "SELECT count(*) FROM conceptoscoring WHERE conceptoscoring = 'Puntualidad de pago'" 0
 espera_ventana 'Concepto Scoring'
 teclea alt+c

@@ -26,7 +26,7 @@ llena 'Tasa corregida'
 confirma alt+a 'Calculo' formula-guardar
 exige_dato "SELECT formula FROM calculo WHERE descripcioncalculo = 'Tasa corregida'" 'saldo * tasa / 100'
 espera_ventana 'Formulas de Calculos'
-confirma alt+Delete 'Calculo' formula-borrar
+confirma alt+r 'Calculo' formula-borrar
 exige_dato "SELECT count(*) FROM calculo WHERE descripcioncalculo = 'Tasa corregida'" 0
 espera_ventana 'Formulas de Calculos'
 teclea alt+c
@@ -59,7 +59,7 @@ exige_campo 'Ahorro de prueba'
 llena 'Ahorro corregido'
 confirma alt+a 'Tipo de Movimiento' tipo-de-movimiento-guardar
 exige_dato "SELECT desctipomovimiento FROM tipomovimiento WHERE tipomovimientoid = 'QZ'" 'Ahorro corregido'
-confirma alt+Delete 'Tipo de Movimiento' tipo-de-movimiento-borrar
+confirma alt+r 'Tipo de Movimiento' tipo-de-movimiento-borrar
 exige_dato "SELECT count(*) FROM tipomovimiento WHERE tipomovimientoid = 'QZ'" 0
 teclea alt+c
 
@@ -87,14 +87,13 @@ exige_campo 'Plazo de otoño'
 llena 'Plazo corregido'
 confirma alt+a 'Tipo de Inversión' tipo-de-inversion-guardar
 exige_dato "SELECT desctipoinversion FROM tipoinversion WHERE tipoinversionid = 'QZ'" 'Plazo corregido'
-confirma alt+Delete 'Tipo de Inversión' tipo-de-inversion-borrar
+confirma alt+r 'Tipo de Inversión' tipo-de-inversion-borrar
 exige_dato "SELECT count(*) FROM tipoinversion WHERE tipoinversionid = 'QZ'" 0
 teclea alt+c
 
 paso 'Un tipo de préstamo con solo la clave se rechaza'
 elige 6 1
 exige_traza 'terminando creacion frm tipoprestamo'
-pulsa() { xdotool mousemove "$1" "$2" click 1; }
 pulsa 417 186 # the key
 escribe QZ
 teclea alt+a

@@ -14,12 +14,7 @@ LPR
 paso 'Se abre el muestrario'
 pon_impresora
 abre_cliente muestrario
-espera_ventana 'Login'
-teclea shift+Tab
-llena "$usuario"
-escribe "$(clave_de "$usuario")"
-teclea Return
-responde 'Validando usuario' Return bienvenida-al-muestrario
+entra "$usuario" "$(clave_de "$usuario")" bienvenida-al-muestrario
 
 # Chooses the entry of the pane "Muestra" at place $1.
 muestra_ventana() {
@@ -38,7 +33,7 @@ nuevo 97 'Ñico Lagos'
 captura asesores
 confirma alt+a 'Asesor' asesor-registrar
 exige_dato "SELECT nomasesor FROM asesor WHERE asesorid = 97" 'Ñico Lagos'
-confirma alt+Delete 'Asesor' asesor-borrar
+confirma alt+r 'Asesor' asesor-borrar
 exige_dato "SELECT count(*) FROM asesor WHERE asesorid = 97" 0
 teclea alt+c
 
@@ -57,7 +52,7 @@ exige_dato "SELECT count(*) FROM grupo WHERE grupo = 'Grupo de los Soñadores'" 
 elige_ultimo
 exige_campo 'Grupo de los Soñadores'
 captura grupos
-confirma alt+Delete 'Grupo' grupo-borrar
+confirma alt+r 'Grupo' grupo-borrar
 exige_dato "SELECT count(*) FROM grupo WHERE grupo = 'Grupo de los Soñadores'" 0
 teclea alt+c
 

@@ -2,12 +2,7 @@
 # standard output and ends in good order.
 paso 'Se pierde la conexión con las series abiertas'
 abre_cliente
-espera_ventana 'Login'
-teclea shift+Tab
-llena "$usuario"
-escribe "$(clave_de "$usuario")"
-teclea Return
-responde 'Validando usuario' Return bienvenida-antes-del-fin
+entra "$usuario" "$(clave_de "$usuario")" bienvenida-antes-del-fin
 espera_ventana "$principal"
 elige 6 6
 espera_ventana 'Tipo Tasa Variables'
@@ -15,7 +10,7 @@ captura series
 exige_dato "SELECT count(pg_terminate_backend(pid)) FROM pg_stat_activity WHERE usename = '$usuario'" 1
 
 paso 'Borrar una lo dice y termina el programa'
-teclea alt+Delete
+teclea alt+r
 espera_ventana 'Elimina tasa'
 captura serie-que-no-se-borra
 teclea alt+s

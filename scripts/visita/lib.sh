@@ -117,6 +117,9 @@ termino() { ! kill -0 "$cliente"; }
 teclea() { xdotool key --delay 30 "$@"; }
 escribe() { xdotool type --delay 15 -- "$1"; }
 
+# Clicks at a place of the screen.
+pulsa() { xdotool mousemove "$1" "$2" click 1; }
+
 # Opens a pane of the menu bar. Always by way of the first one: the keys of the others can belong to a button as well.
 menu() {
   teclea alt+i
@@ -155,7 +158,7 @@ elige_ultimo() { teclea alt+n shift+Tab End Tab Tab; }
 
 adelante() { teclea $(printf 'Tab %.0s' $(seq "$1")); }
 
-# &Aceptar or &Borrar (alt+Delete) by its key $1, and yes to the question with the title $2, which may be that of its form as well;
+# &Aceptar or &Borrar (alt+r) by its key $1, and yes to the question with the title $2, which may be that of its form as well;
 # its picture is $3.
 confirma() {
   local forma
@@ -167,6 +170,17 @@ confirma() {
   espera_cierre
 }
 es_otra() { es_activa "$1" && [[ $ventana != "$2" ]]; }
+
+# Answers the login, which the keyboard is at the password of, for the user $1 with the password $2; the picture of the welcome
+# is $3.
+entra() {
+  espera_ventana 'Login'
+  teclea shift+Tab
+  llena "$1"
+  escribe "$2"
+  teclea Return
+  responde 'Validando usuario' Return "$3"
+}
 
 # Fills the fields from the one with the keyboard on.
 llena() {
