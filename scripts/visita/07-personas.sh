@@ -86,7 +86,6 @@ permisos_de_nueva ''
 
 paso 'En la rejilla se le dan dos opciones'
 ve fila
-exige_traza "SELECT * FROM spspermisosmodulos('$nueva');"
 exige_traza 'Termian permisos'
 ve accesos
 alterna monedas
