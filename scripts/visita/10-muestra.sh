@@ -146,6 +146,11 @@ captura activo-generales
 pulsa 479 250 # the second page, and its first field
 pulsa 560 274
 llena '1/2/2026'
+teclea space
+espera_sin_titulo
+teclea Tab Tab space # the second day
+teclea alt+a
+espera_ventana 'Activo'
 teclea Tab
 llena 10 20
 teclea Down
@@ -160,7 +165,7 @@ escribe 500
 captura activo-fiscal
 confirma alt+a 'Activo' activo-registrar
 exige_dato "SELECT activodescripcion, feciniciodepconta, actdeduccioninme FROM activo WHERE activoclave = 'QZ-1'" \
-  'Torno de prueba|2026-02-01|S'
+  'Torno de prueba|2026-02-02|S'
 
 paso 'Se modifica y se borra'
 espera_ventana 'Activo'
