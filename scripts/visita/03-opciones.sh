@@ -29,11 +29,12 @@ opciones=(
   'conceptos-scoring|10|5|0452|dialogo|Concepto Scoring'
 )
 
-for opcion in "${opciones[@]}"; do
-  IFS='|' read -r nombre lugar cascada modulo clase muestra <<<"$opcion"
+# The option of a row, chosen by $2 (the user of the session if not told): opens, and is closed again.
+abre_opcion() {
+  IFS='|' read -r nombre lugar cascada modulo clase muestra <<<"$1"
   paso "Se abre la opción $nombre"
   elige "$lugar" "$cascada"
-  exige_traza "SELECT * FROM spspermisomodulo('$usuario','$modulo');"
+  exige_traza "SELECT * FROM spspermisomodulo('${2:-$usuario}','$modulo');"
   case $clase in
     hija) exige_traza "$muestra" ;;
     dialogo) espera_ventana "$muestra" ;;
@@ -42,6 +43,20 @@ for opcion in "${opciones[@]}"; do
   teclea alt+c
   [[ $clase != dialogo ]] || espera_cierre
   espera_ventana "$principal"
+}
+
+# The same when $2 has no right to it.
+niega_opcion() {
+  IFS='|' read -r nombre lugar cascada modulo _ <<<"$1"
+  paso "Se niega a $2 la opción $nombre"
+  espera_ventana "$principal"
+  elige "$lugar" "$cascada"
+  responde 'Acceso NO AUTORIZADO' Return "negada-a-$2-$nombre"
+  exige_traza "SELECT * FROM spspermisomodulo('$2','$modulo');"
+}
+
+for opcion in "${opciones[@]}"; do
+  abre_opcion "$opcion"
 done
 
 paso 'Motivos Baja se abre sin preguntar por un permiso'

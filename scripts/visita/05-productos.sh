@@ -94,7 +94,6 @@ teclea alt+c
 paso 'Un tipo de préstamo con solo la clave se rechaza'
 elige 6 1
 exige_traza 'terminando creacion frm tipoprestamo'
-pulsa() { xdotool mousemove "$1" "$2" click 1; }
 pulsa 417 186 # the key
 escribe QZ
 teclea alt+a

@@ -20,12 +20,7 @@ responde 'Validando usuario' Return bienvenida-de-otro-usuario
 exige_dato "SELECT count(*) FROM pg_stat_activity WHERE usename = 'camila'" 1
 
 for opcion in "${opciones[@]}"; do
-  IFS='|' read -r nombre lugar cascada modulo _ <<<"$opcion"
-  paso "Se le niega la opción $nombre"
-  espera_ventana "$principal"
-  elige "$lugar" "$cascada"
-  responde 'Acceso NO AUTORIZADO' Return "negada-$nombre"
-  exige_traza "SELECT * FROM spspermisomodulo('camila','$modulo');"
+  niega_opcion "$opcion" camila
 done
 
 paso 'Motivos Baja se le abre también'

@@ -14,12 +14,7 @@ LPR
 paso 'Se abre el muestrario'
 pon_impresora
 abre_cliente muestrario
-espera_ventana 'Login'
-teclea shift+Tab
-llena "$usuario"
-escribe "$(clave_de "$usuario")"
-teclea Return
-responde 'Validando usuario' Return bienvenida-al-muestrario
+entra "$usuario" "$(clave_de "$usuario")" bienvenida-al-muestrario
 
 # Chooses the entry of the pane "Muestra" at place $1.
 muestra_ventana() {
@@ -113,6 +108,118 @@ teclea shift+Tab
 exige_campo '02/01/2026'
 captura fecha-elegida
 teclea alt+c
+
+paso 'Un tipo de depreciación se agrega, se modifica y se borra'
+muestra_ventana 8
+espera_ventana 'Depreciaciones'
+nuevo '' 'Herramienta' 12.5 10 5000
+teclea Down Tab Tab
+llena 90
+pon_cuentas 4
+captura depreciacion-nueva
+confirma alt+a 'Tipo de Depreciacion' depreciacion-registrar
+exige_dato "SELECT depretasacontable, depreporcentaje FROM depreciacion WHERE depredescripcion = 'Herramienta'" '12.500000|90.000000'
+espera_ventana 'Depreciaciones'
+elige_ultimo
+exige_campo 'Herramienta'
+llena 'Herramienta del taller'
+confirma alt+a 'Tipo de Depreciacion' depreciacion-guardar
+exige_dato "SELECT count(*) FROM depreciacion WHERE depredescripcion = 'Herramienta del taller'" 1
+espera_ventana 'Depreciaciones'
+confirma alt+Delete 'Tipo de Depreciacion' depreciacion-borrar
+exige_dato "SELECT count(*) FROM depreciacion WHERE depredescripcion = 'Herramienta del taller'" 0
+espera_ventana 'Depreciaciones'
+teclea alt+c
+
+paso 'Un activo se agrega por sus tres páginas'
+muestra_ventana 9
+espera_ventana 'Activo'
+captura activos
+pulsa 500 274 # the code
+llena 'QZ-1' 'Torno de prueba'
+teclea Down Tab Tab
+llena 1000 50 900 'Bodega' 'S-77' 1200
+teclea Down Tab Tab Down
+captura activo-generales
+pulsa 479 250 # the second page, and its first field
+pulsa 560 274
+llena '1/2/2026'
+teclea space
+espera_sin_titulo
+teclea Tab Tab space # the second day
+teclea alt+a
+espera_ventana 'Activo'
+teclea Tab
+llena 10 20
+teclea Down
+captura activo-contable
+pulsa 605 250 # the third
+pulsa 560 274
+llena '3/2/2026'
+teclea Tab space Tab
+llena 10 20
+teclea Down Tab Tab
+escribe 500
+captura activo-fiscal
+confirma alt+a 'Activo' activo-registrar
+exige_dato "SELECT activodescripcion, feciniciodepconta, actdeduccioninme FROM activo WHERE activoclave = 'QZ-1'" \
+  'Torno de prueba|2026-02-02|S'
+
+paso 'Se modifica y se borra'
+espera_ventana 'Activo'
+pulsa 376 250 # the first page
+elige_ultimo
+pulsa 500 274
+exige_campo 'QZ-1'
+llena 'QZ-2'
+confirma alt+a 'Activo' activo-guardar
+exige_dato "SELECT activoclave FROM activo WHERE activodescripcion = 'Torno de prueba'" 'QZ-2'
+espera_ventana 'Activo'
+confirma alt+Delete 'Activo' activo-borrar
+exige_dato "SELECT count(*) FROM activo WHERE activodescripcion = 'Torno de prueba'" 0
+espera_ventana 'Activo'
+teclea alt+c
+
+paso 'Una ciudad se agrega y se borra'
+muestra_ventana 13
+espera_ventana 'Ciudad'
+nuevo '' QZ 'Villa de la Peña'
+teclea Down # the first state
+captura ciudad-nueva
+confirma alt+a 'Ciudadades' ciudad-registrar
+exige_dato "SELECT estadomexid FROM ciudadesmex WHERE nombreciudadmex = 'Villa de la Peña'" 1
+espera_ventana 'Ciudad'
+encuentra "$(servidor psql "$sucursal" -XAtc 'SELECT max(ciudadmexid) FROM ciudadesmex')"
+teclea Tab
+exige_campo 'Villa de la Peña'
+confirma alt+Delete 'Ciudadades' ciudad-borrar
+exige_dato "SELECT count(*) FROM ciudadesmex WHERE nombreciudadmex = 'Villa de la Peña'" 0
+espera_ventana 'Ciudad'
+teclea alt+c
+
+paso 'Un estado se agrega y se borra'
+muestra_ventana 12
+espera_ventana 'Estados'
+nuevo '' QZ 'Tierra de la Peña'
+confirma alt+a 'EstadoMex' estado-registrar
+exige_dato "SELECT nombreestadomex FROM estadosmex WHERE claveestadomex = 'QZ'" 'Tierra de la Peña'
+espera_ventana 'Estados'
+elige_ultimo
+teclea Tab
+exige_campo 'Tierra de la Peña'
+captura estado-elegido
+confirma alt+Delete 'EstadoMex' estado-borrar
+exige_dato "SELECT count(*) FROM estadosmex WHERE claveestadomex = 'QZ'" 0
+espera_ventana 'Estados'
+teclea alt+c
+
+paso 'Un bien se agrega con su persona'
+muestra_ventana 14
+espera_ventana 'Bien'
+llena 'Adriana Supuesto' 'Terreno de la Peña' 'Baldo' 'Libro 3' 'Ninguna' 90000 80000 70000 50
+captura bien
+teclea alt+a
+exige_dato "SELECT valorfiscal, adjudicado FROM bienes WHERE describien = 'Terreno de la Peña'" '80000.000000|N'
 
 cierra_reporte() {
   teclea Escape

@@ -2,12 +2,7 @@
 # standard output and ends in good order.
 paso 'Se pierde la conexión con las series abiertas'
 abre_cliente
-espera_ventana 'Login'
-teclea shift+Tab
-llena "$usuario"
-escribe "$(clave_de "$usuario")"
-teclea Return
-responde 'Validando usuario' Return bienvenida-antes-del-fin
+entra "$usuario" "$(clave_de "$usuario")" bienvenida-antes-del-fin
 espera_ventana "$principal"
 elige 6 6
 espera_ventana 'Tipo Tasa Variables'

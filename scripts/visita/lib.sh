@@ -120,6 +120,9 @@ termino() { ! kill -0 "$cliente"; }
 teclea() { xdotool key --delay 30 "$@"; }
 escribe() { xdotool type --delay 15 -- "$1"; }
 
+# Clicks at a place of the screen.
+pulsa() { xdotool mousemove "$1" "$2" click 1; }
+
 # Opens a pane of the menu bar. Always by way of the first one: the keys of the others can belong to a button as well.
 menu() {
   teclea alt+i
@@ -170,6 +173,17 @@ confirma() {
   espera_cierre
 }
 es_otra() { es_activa "$1" && [[ $ventana != "$2" ]]; }
+
+# Answers the login, which the keyboard is at the password of, for the user $1 with the password $2; the picture of the welcome
+# is $3.
+entra() {
+  espera_ventana 'Login'
+  teclea shift+Tab
+  llena "$1"
+  escribe "$2"
+  teclea Return
+  responde 'Validando usuario' Return "$3"
+}
 
 # Fills the fields from the one with the keyboard on.
 llena() {
