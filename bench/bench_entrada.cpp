@@ -7,6 +7,7 @@
 #include <stdexcept>
 
 #include "app/sesion.h"
+#include "bench/Escala.h"
 #include "bench/Medida.h"
 #include "db/Catalogo.h"
 #include "tests/support/Espia.h"
@@ -15,13 +16,6 @@
 namespace {
 
 constexpr int Vueltas = 11;
-
-/// The reference database with a branch at national scale.
-void Escala(const std::string& base) {
-  pruebas::Servidor& servidor = pruebas::Servidor::Unico();
-  pruebas::Orden orden{{pruebas::Raiz() / "server" / "escala", "norte"}, "", servidor.Entorno(base)};
-  pruebas::CorreBien(orden);
-}
 
 void Carga() {
   catalogo.setLoad(false);
@@ -50,8 +44,11 @@ double BytesDelCatalogo() {
          Bytes(C::Tipo_Garantia) + Bytes(C::Estados_Credito) + Bytes(C::Finalidades) +
          Bytes(C::TipoMoviBancos) + Bytes(C::TipoInversiones) + Bytes(C::EstadosMex) + Bytes(C::CiudadesMex) +
          Bytes(C::TiposUsuarios) + Bytes(C::TiposSocios) + Bytes(C::Modulos) + Bytes(C::Calculos) +
-         Bytes(C::Asesores) + Bytes(C::TipoAsentamientos) + Bytes(C::ConceptosScoring) +
-         Bytes(catalogo.Colonias) + Bytes(catalogo.MotivosBaja) + Bytes(catalogo.ClasificacionCreditos) +
+         Bytes(C::Asesores) + Bytes(C::TipoAsentamientos) + Bytes(C::ConceptosScoring) + Bytes(C::Bancos) +
+         Bytes(C::Udis) + Bytes(C::Inpc) + Bytes(C::Recargos) + Bytes(C::Inabiles) +
+         Bytes(C::TipoTasaInteres) + Bytes(C::TasaInteres) + Bytes(C::TipoDepreciacion) + Bytes(C::Activos) +
+         Bytes(C::Usuarios) + Bytes(catalogo.TipoPromociones) + Bytes(catalogo.Colonias) +
+         Bytes(catalogo.MotivosBaja) + Bytes(catalogo.ClasificacionCreditos) +
          Bytes(catalogo.TipoAcreditadosR) + Bytes(catalogo.Grupos) + Bytes(catalogo.Ocupaciones);
 }
 
@@ -60,8 +57,7 @@ double BytesDelCatalogo() {
 int main(int argc, char* argv[]) {
   medida::Informe informe(argc, argv);
   pruebas::BaseDatos base;
-  Escala(base.nombre());
-  base.Ejecuta("analyze");
+  Escala(base);
   const pruebas::Conexion conexion = base.Conecta("adriana", pruebas::BaseDatos::Clave);
   conn = conexion.get();
   Ejecuta("set search_path to norte");

@@ -9,6 +9,8 @@
 // record includes this: the accounts are looked up in the cache, which holds the records.
 #pragma once
 
+#include <functional>
+
 #include "db/Catalogo.h"
 
 template <class Clase>
@@ -24,35 +26,38 @@ void ExigeReglas(const Clase& registro, const Regla<Clase> (&reglas)[N]) {
     if (regla.rota(registro)) Lanza(regla.mensaje);
 }
 
+// The getters are called by std::invoke: with the plain call through a template argument that is a member of
+// a base class, an optimizing compiler warns of aliasing.
+
 /// An empty text; one of blanks is not empty.
 template <auto get, class Clase>
 bool Vacio(const Clase& registro) {
-  return (registro.*get)()[0] == '\0';
+  return std::invoke(get, registro)[0] == '\0';
 }
 
 /// An account of the chart that takes no postings; an empty or unknown one passes.
 template <auto get, class Clase>
 bool NoAfectable(const Clase& registro) {
-  return !catalogo.EsAfectable((registro.*get)());
+  return !catalogo.EsAfectable(std::invoke(get, registro));
 }
 
 template <auto get, class Clase>
 bool Cero(const Clase& registro) {
-  return (registro.*get)() == 0;
+  return std::invoke(get, registro) == 0;
 }
 
 template <auto get, class Clase>
 bool Negativo(const Clase& registro) {
-  return (registro.*get)() < 0;
+  return std::invoke(get, registro) < 0;
 }
 
 template <auto get, class Clase>
 bool NoPositivo(const Clase& registro) {
-  return !((registro.*get)() > 0);
+  return !(std::invoke(get, registro) > 0);
 }
 
 /// A date that was never given: its year is 0, as that of an empty text, or 1900, as that of a blank record.
 template <auto get, class Clase>
 bool SinFecha(const Clase& registro) {
-  return FaltaFecha((registro.*get)());
+  return FaltaFecha(std::invoke(get, registro));
 }
