@@ -64,12 +64,14 @@ long TasaInteres_Window::onCmdAgregar(FXObject*, FXSelector, void*) {
   Load();
   Clear();
   flag = false;
+  EnfocaClave();
   return 1;
 }
 
 long TasaInteres_Window::onCmdClear(FXObject*, FXSelector, void*) {
   Clear();
   flag = true;
+  EnfocaClave();
   return 1;
 }
 
@@ -80,6 +82,7 @@ long TasaInteres_Window::onCmdBorrar(FXObject*, FXSelector, void*) {
     Manda(Sentencia("SELECT * FROM subtipotasa('c','%s','%s','null');", tasa.text(), des.text()));
   Load();
   Clear();
+  EnfocaClave();
   return 1;
 }
 

@@ -210,11 +210,9 @@ teclea alt+a
 responde 'Mensaje' Return serie-agregada
 exige_dato "SELECT descripcion FROM tipotasa WHERE tipotasa = 'ZQ'" 'Tasa del año'
 
-# The last row; without &Nuevo, after which &Aceptar would insert. The keyboard is on a button, and then on the name.
+# The last row; without &Nuevo, after which &Aceptar would insert.
 paso 'Se elige en la lista y se modifica'
 espera_ventana 'Tipo Tasa Variables'
-teclea shift+Tab
-exige_campo ''
 teclea shift+Tab End Tab
 exige_campo ZQ
 llena ZQS 'Tasa del otoño'
@@ -271,3 +269,27 @@ confirma alt+r 'tasasinteres' periodo-borrar
 exige_dato "SELECT count(*) FROM tasavariable WHERE fechainicial > '2031-01-01'" 0
 espera_ventana 'Tasas Variables'
 teclea alt+c
+
+# How many rates the server has.
+responde_tasas() { servidor psql "$sucursal" -XAtc 'SELECT count(*) FROM tasa'; }
+
+paso 'La historia de tasas abre dos capturas a la vez, que no guardan nada'
+espera_ventana "$principal"
+elige 10 3
+exige_traza 'terminando creacion y fijando foco del dialogo WTASA'
+captura tasas
+tasas=$(responde_tasas)
+nuevo_de_la_historia=(158 520)
+teclea alt+n
+captura tasa-nueva
+llena 01/10/2031 # the first date; the calendar's button follows
+adelante 1
+llena 31/12/2031
+adelante 1
+llena 9 18
+teclea alt+a # asks nothing
+pulsa "${nuevo_de_la_historia[@]}"
+captura dos-tasas-nuevas
+for forma in segunda primera historia; do teclea alt+c; done
+captura tasas-cerradas
+[[ $(responde_tasas) == "$tasas" ]] || no_paso 'la captura guardó una tasa'
