@@ -97,7 +97,7 @@ permisos_de_nueva '0203,0205'
 paso 'Sin contraseña no entra; el administrador del servidor le da una'
 administrador=$cliente
 ventana_administrador=$(xdotool getactivewindow)
-clave_nueva=$(servidor clave "$nueva" <<<'' | sed 's/.*: //')
+clave_nueva=$(servidor clave "$nueva" <<<'' | sed -n 's/^Contraseña .*: //p')
 mkdir "$temporal/casa-de-$nueva"
 HOME=$temporal/casa-de-$nueva abre_cliente
 entra "$nueva" "$clave_nueva" bienvenida-a-la-nueva
@@ -130,7 +130,7 @@ respuesta=$(dice_al_servidor <<<"$sentencias")
 rechazos=$(grep -c 'No tiene permiso para la opción' <<<"$respuesta" || true)
 [[ $rechazos == "$cuantas" ]] || no_paso "de $cuantas funciones rechazó $rechazos"
 for sentencia in "UPDATE permisomodulo SET permiso = 'S' WHERE usuarioid = '$nueva'" \
-  "INSERT INTO banco (nombanco) VALUES ('Directo')" 'DELETE FROM bitacora'; do
+  'DELETE FROM banco' 'DELETE FROM bitacora'; do
   respuesta=$(dice_al_servidor <<<"$sentencia;")
   [[ $respuesta == *denie* || $respuesta == *denegad* ]] || no_paso "el servidor aceptó: $sentencia"
 done
