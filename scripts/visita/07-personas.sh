@@ -4,7 +4,7 @@ nueva=ximena
 
 # Places of the form of the users, whose pages are turned with the mouse.
 declare -A sitio=([fila]='230 202' [generales]='376 336' [domicilio]='455 336' [accesos]='545 336' [parametros]='642 336'
-  [apellido]='460 358' [codigo]='430 360' [serie]='469 360' [monedas]='600 395' [movimientos]='600 433')
+  [apellido]='460 358' [codigo]='430 360' [serie]='469 360' [borrar]='870 217' [monedas]='600 395' [movimientos]='600 433')
 ve() { pulsa ${sitio[$1]}; }
 
 # Saves the user of the form, with the pictures $1.
@@ -172,7 +172,8 @@ cliente=$administrador
 pasa_a "$ventana_administrador"
 ve fila
 exige_traza 'Termian permisos'
-confirma alt+Delete 'Usuario' usuario-borrar
+ve borrar
+responde 'Usuario' alt+s usuario-borrar
 exige_dato "SELECT count(*) FROM usuario WHERE usuarioid = '$nueva'" 0
 exige_dato "SELECT count(*) FROM pg_roles WHERE rolname = '$nueva' AND rolcanlogin" 0
 teclea alt+c
