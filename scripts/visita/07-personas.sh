@@ -4,7 +4,7 @@ nueva=ximena
 
 # Places of the form of the users, whose pages are turned with the mouse.
 declare -A sitio=([fila]='230 202' [generales]='376 336' [domicilio]='455 336' [accesos]='545 336' [parametros]='642 336'
-  [apellido]='460 358' [codigo]='430 360' [serie]='469 360' [monedas]='600 395' [movimientos]='600 433')
+  [apellido]='460 358' [codigo]='430 360' [serie]='469 360' [borrar]='870 217' [monedas]='600 395' [movimientos]='600 433')
 ve() { pulsa ${sitio[$1]}; }
 
 # Saves the user of the form, with the pictures $1.
@@ -97,7 +97,7 @@ permisos_de_nueva '0203,0205'
 paso 'Sin contraseña no entra; el administrador del servidor le da una'
 administrador=$cliente
 ventana_administrador=$(xdotool getactivewindow)
-clave_nueva=$(servidor clave "$nueva" <<<'' | sed 's/.*: //')
+clave_nueva=$(servidor clave "$nueva" <<<'' | sed -n 's/^Contraseña .*: //p')
 mkdir "$temporal/casa-de-$nueva"
 HOME=$temporal/casa-de-$nueva abre_cliente
 entra "$nueva" "$clave_nueva" bienvenida-a-la-nueva
@@ -115,7 +115,7 @@ done
 # The statements of standard input as the new user says them to the server himself, past the client.
 dice_al_servidor() {
   PGPASSWORD=$clave_nueva PGOPTIONS="-c search_path=$sucursal" psql -XAtq -h 127.0.0.1 -p "$(del_servidor Puerto)" \
-    -U "$nueva" "$(del_servidor Base)" 2>&1
+    -U "$nueva" "$(del_servidor Base)" 2>&1 || true
 }
 
 paso 'Tampoco a mano escribe en otra cosa: cada función que pide otro permiso la rechaza'
@@ -126,10 +126,11 @@ sentencias=$(servidor psql "$sucursal" -XAtc "
    WHERE pronamespace = '$sucursal'::regnamespace AND prosrc LIKE '%exige_permiso(''%'
      AND prosrc !~ 'exige_permiso\(''(0203|0205)''' AND has_function_privilege('$nueva', oid, 'EXECUTE')")
 ((cuantas = $(wc -l <<<"$sentencias"), cuantas > 80)) || no_paso "solo se hallaron $cuantas funciones"
-respuesta=$(dice_al_servidor <<<"$sentencias" | grep -c 'No tiene permiso para la opción') || true
-[[ $respuesta == "$cuantas" ]] || no_paso "de $cuantas funciones no rechazó todas"
+respuesta=$(dice_al_servidor <<<"$sentencias")
+rechazos=$(grep -c 'No tiene permiso para la opción' <<<"$respuesta" || true)
+[[ $rechazos == "$cuantas" ]] || no_paso "de $cuantas funciones rechazó $rechazos"
 for sentencia in "UPDATE permisomodulo SET permiso = 'S' WHERE usuarioid = '$nueva'" \
-  "INSERT INTO banco (nombanco) VALUES ('Directo')" 'DELETE FROM bitacora'; do
+  'DELETE FROM banco' 'DELETE FROM bitacora'; do
   respuesta=$(dice_al_servidor <<<"$sentencia;")
   [[ $respuesta == *denie* || $respuesta == *denegad* ]] || no_paso "el servidor aceptó: $sentencia"
 done
@@ -171,7 +172,8 @@ cliente=$administrador
 pasa_a "$ventana_administrador"
 ve fila
 exige_traza 'Termian permisos'
-confirma alt+Delete 'Usuario' usuario-borrar
+ve borrar
+responde 'Usuario' alt+s usuario-borrar
 exige_dato "SELECT count(*) FROM usuario WHERE usuarioid = '$nueva'" 0
 exige_dato "SELECT count(*) FROM pg_roles WHERE rolname = '$nueva' AND rolcanlogin" 0
 teclea alt+c

@@ -118,7 +118,7 @@ llena 90
 pon_cuentas 4
 captura depreciacion-nueva
 confirma alt+a 'Tipo de Depreciacion' depreciacion-registrar
-exige_dato "SELECT depretasacontable, depreporcentaje FROM depreciacion WHERE depredescripcion = 'Herramienta'" '12.500000|90.000000'
+exige_dato "SELECT depretasacontable, depreporcentaje FROM depreciacion WHERE depredescripcion = 'Herramienta'" '12.5000|90.0000'
 espera_ventana 'Depreciaciones'
 elige_ultimo
 exige_campo 'Herramienta'
@@ -219,7 +219,7 @@ espera_ventana 'Bien'
 llena 'Adriana Supuesto' 'Terreno de la Peña' 'Baldo' 'Libro 3' 'Ninguna' 90000 80000 70000 50
 captura bien
 teclea alt+a
-exige_dato "SELECT valorfiscal, adjudicado FROM bienes WHERE describien = 'Terreno de la Peña'" '80000.000000|N'
+exige_dato "SELECT valorfiscal, adjudicado FROM bienes WHERE describien = 'Terreno de la Peña'" '80000.00|N'
 
 cierra_reporte() {
   teclea Escape
