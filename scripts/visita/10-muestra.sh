@@ -126,7 +126,7 @@ llena 'Herramienta del taller'
 confirma alt+a 'Tipo de Depreciacion' depreciacion-guardar
 exige_dato "SELECT count(*) FROM depreciacion WHERE depredescripcion = 'Herramienta del taller'" 1
 espera_ventana 'Depreciaciones'
-confirma alt+Delete 'Tipo de Depreciacion' depreciacion-borrar
+confirma alt+r 'Tipo de Depreciacion' depreciacion-borrar
 exige_dato "SELECT count(*) FROM depreciacion WHERE depredescripcion = 'Herramienta del taller'" 0
 espera_ventana 'Depreciaciones'
 teclea alt+c
@@ -175,7 +175,7 @@ llena 'QZ-2'
 confirma alt+a 'Activo' activo-guardar
 exige_dato "SELECT activoclave FROM activo WHERE activodescripcion = 'Torno de prueba'" 'QZ-2'
 espera_ventana 'Activo'
-confirma alt+Delete 'Activo' activo-borrar
+confirma alt+r 'Activo' activo-borrar
 exige_dato "SELECT count(*) FROM activo WHERE activodescripcion = 'Torno de prueba'" 0
 espera_ventana 'Activo'
 teclea alt+c
@@ -192,7 +192,7 @@ espera_ventana 'Ciudad'
 encuentra "$(servidor psql "$sucursal" -XAtc 'SELECT max(ciudadmexid) FROM ciudadesmex')"
 teclea Tab
 exige_campo 'Villa de la Peña'
-confirma alt+Delete 'Ciudadades' ciudad-borrar
+confirma alt+r 'Ciudadades' ciudad-borrar
 exige_dato "SELECT count(*) FROM ciudadesmex WHERE nombreciudadmex = 'Villa de la Peña'" 0
 espera_ventana 'Ciudad'
 teclea alt+c
@@ -208,7 +208,7 @@ elige_ultimo
 teclea Tab
 exige_campo 'Tierra de la Peña'
 captura estado-elegido
-confirma alt+Delete 'EstadoMex' estado-borrar
+confirma alt+r 'EstadoMex' estado-borrar
 exige_dato "SELECT count(*) FROM estadosmex WHERE claveestadomex = 'QZ'" 0
 espera_ventana 'Estados'
 teclea alt+c
