@@ -1,11 +1,5 @@
 # The products: one of each is added, refused, changed and deleted.
 
-# Picks the fourth account of the chart, which takes postings, in $1 account fields from the one with the keyboard on.
-pon_cuentas() {
-  local i
-  for ((i = 0; i < $1; i++)); do teclea Down Down Down Down Tab Tab Tab; done
-}
-
 paso 'Una fórmula sin texto se rechaza'
 elige 10 1
 espera_ventana 'Formulas de Calculos'

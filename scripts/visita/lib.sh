@@ -195,6 +195,12 @@ llena() {
   done
 }
 
+# Picks the fourth account of the chart, which takes postings, in $1 account fields from the one with the keyboard on.
+pon_cuentas() {
+  local i
+  for ((i = 0; i < $1; i++)); do teclea Down Down Down Down Tab Tab Tab; done
+}
+
 # Answers a box: waits for the one with this title, takes its picture, types a key and sees it go.
 responde() {
   local titulo=$1 tecla=$2 nombre=$3
