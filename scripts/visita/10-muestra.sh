@@ -183,17 +183,17 @@ teclea alt+c
 paso 'Una ciudad se agrega y se borra'
 muestra_ventana 13
 espera_ventana 'Ciudad'
-nuevo '' QZ 'Villa de la Peña'
+nuevo '' QZ 'Zona de la Peña'
 teclea Down # the first state
 captura ciudad-nueva
 confirma alt+a 'Ciudadades' ciudad-registrar
-exige_dato "SELECT estadomexid FROM ciudadesmex WHERE nombreciudadmex = 'Villa de la Peña'" 1
+exige_dato "SELECT estadomexid FROM ciudadesmex WHERE nombreciudadmex = 'Zona de la Peña'" 1
 espera_ventana 'Ciudad'
-encuentra "$(servidor psql "$sucursal" -XAtc 'SELECT max(ciudadmexid) FROM ciudadesmex')"
+elige_ultimo # &Buscar takes two figures
 teclea Tab
-exige_campo 'Villa de la Peña'
+exige_campo 'Zona de la Peña'
 confirma alt+r 'Ciudadades' ciudad-borrar
-exige_dato "SELECT count(*) FROM ciudadesmex WHERE nombreciudadmex = 'Villa de la Peña'" 0
+exige_dato "SELECT count(*) FROM ciudadesmex WHERE nombreciudadmex = 'Zona de la Peña'" 0
 espera_ventana 'Ciudad'
 teclea alt+c
 
