@@ -7,7 +7,7 @@ espera_ventana "$principal"
 elige 6 6
 espera_ventana 'Tipo Tasa Variables'
 captura series
-exige_dato "SELECT count(pg_terminate_backend(pid)) FROM pg_stat_activity WHERE usename = '$usuario'" 1
+exige_dato "SELECT count(pg_terminate_backend(pid)) > 0 FROM pg_stat_activity WHERE usename = '$usuario'" t
 
 paso 'Borrar una lo dice y termina el programa'
 teclea alt+r

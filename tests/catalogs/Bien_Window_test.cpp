@@ -102,7 +102,6 @@ TEST_F(BienVentana, TieneSusPiezas) {
                 Mando<V>(64, &V::onCmdCalendario),
                 {FXSEL(SEL_CLOSE, 0), FXSEL(SEL_CLOSE, 0), &V::onCmdQuit},
                 {FXSEL(SEL_SIGNAL, 65), FXSEL(SEL_SIGNAL, 65), &V::onCmdQuit}});
-  Foto("build/bien.png");
 }
 
 TEST_F(BienVentana, UnoNuevoSeAgregaALaLista) {

@@ -16,7 +16,6 @@
 #include "tests/support/Espia.h"
 #include "tests/support/Guion.h"
 #include "tests/support/Maltrato.h"
-#include "tests/support/Pantalla.h"
 #include "tests/support/Proceso.h"
 #include "tests/support/Registros.h"
 #include "tests/support/Salida.h"
@@ -266,7 +265,6 @@ TEST_F(UsuarioVentana, TieneSuLugarSusGruposYSusBotones) {
     Hojea(forma_, pagina);
     SCOPED_TRACE(pagina);
     ExigeNadaCortado(forma_);
-    Foto("build/usuario" + S(pagina) + ".png");
   }
   Pulsa(Boton(forma_, "&Cerrar"));
   EXPECT_FALSE(mdiArray[4]);
@@ -427,7 +425,6 @@ TEST_F(UsuarioVentana, UnaRejillaNuevaNiegaTodo) {
   EXPECT_EQ(Rejilla()->getItemStipple(1, 1), STIPPLE_NONE);
   exige();
   Hojea(forma_, Accesos);
-  Foto("build/usuario_adriana.png");
   Manda("&Nuevo");
   EXPECT_EQ(Letras(), std::string(37, 'N'));
   EXPECT_TRUE(espia_.Sentencias().empty());
@@ -482,7 +479,6 @@ TEST_F(UsuarioVentana, ElegirPideLoDichoYMuestraLoSuyo) {
               "EstadoMexID -->14", "ciudadid ---> 56", "asigno ciudad", SqlColonias(Zapopan),
               "Llenar permisos", "No. de modulos -->37", "Termian permisos"}));
   Hojea(forma_, Domicilio);
-  Foto("build/usuario_domicilio.png");
 }
 
 TEST_F(UsuarioVentana, LaRaizNoEsUnUsuario) {

@@ -190,7 +190,6 @@ TEST_F(GeografiaVentana, UnEstadoHechoEnSuFormaApareceEnElComboYLaCiudadConserva
     EXPECT_EQ(estados->getOwner(), forma_);
     const FXWindow* const pantalla = App().getRootWindow();
     EXPECT_NEAR(estados->getX() + estados->getWidth() / 2, pantalla->getWidth() / 2, 2);
-    Foto("build/estados.png", estados);
     Escribe(estados, "Clave:", "AZT");
     Escribe(estados, "Nombre:", "Aztlán");
     Pulsa(Boton(estados, "&Aceptar"));
@@ -286,7 +285,6 @@ TEST_F(GeografiaVentana, SinConexionAlAbrirSeDiceYQuedaAbierta) {
   Abre<CiudadMex_Window>();
   EXPECT_EQ(guion.Ultimo().texto, "Error al cargar catalogo de ciudad.");
   EXPECT_EQ(Lista(forma_)->getNumItems(), 0);
-  Foto("build/ciudades.png");
 }
 
 }  // namespace
