@@ -65,12 +65,15 @@ const char* NombreDeAsentamiento(int tipo) {
   return "";
 }
 
-/// A neighbourhood as its combo box shows it: postal code, name and kind of settlement.
-FXString RenglonDeColonia(const cColonia& colonia) {
+/// A neighbourhood as its combo box shows it: postal code, name and kind of settlement. Stays until the next
+/// call.
+const char* RenglonDeColonia(const cColonia& colonia) {
+  static char renglon[92];
+  const char* const nombre = colonia.getNombreColonia();
   const char* const tipo = NombreDeAsentamiento(colonia.getTipoAsentamientoID());
-  return FXStringFormat("%5li %45.*s %20.*s", colonia.getCP(),
-                        static_cast<int>(LargoUtf8(colonia.getNombreColonia(), 45)),
-                        colonia.getNombreColonia(), static_cast<int>(LargoUtf8(tipo, 20)), tipo);
+  FormateaTexto(renglon, "%5li %45.*s %20.*s", colonia.getCP(), static_cast<int>(LargoUtf8(nombre, 45)),
+                nombre, static_cast<int>(LargoUtf8(tipo, 20)), tipo);
+  return renglon;
 }
 
 }  // namespace

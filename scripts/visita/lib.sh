@@ -183,6 +183,7 @@ entra() {
   escribe "$2"
   teclea Return
   responde 'Validando usuario' Return "$3"
+  exige_traza '38      ' # the catalogues are loaded: keys typed before would be lost
 }
 
 # Fills the fields from the one with the keyboard on.
