@@ -4,6 +4,7 @@ paso 'Se pierde la conexión con las series abiertas'
 abre_cliente
 entra "$usuario" "$(clave_de "$usuario")" bienvenida-antes-del-fin
 espera_ventana "$principal"
+captura sesion-antes-del-fin # until nothing moves: a menu that is posted for the first time misses quick keys
 elige 6 6
 espera_ventana 'Tipo Tasa Variables'
 captura series

@@ -5,9 +5,11 @@ espera_ventana 'Login'
 escribe "$(clave_de "$usuario")"
 teclea Return
 responde 'Validando usuario' Return bienvenida-a-los-usuarios
+exige_traza '38      '
 
 paso 'Se abren los usuarios'
 espera_ventana "$principal"
+captura sesion-antes-de-los-usuarios
 elige 8 1
 exige_traza "SELECT * FROM spspermisomodulo('$usuario','0206');"
 exige_traza 'terminando creacion frm usuario'
