@@ -270,26 +270,36 @@ exige_dato "SELECT count(*) FROM tasavariable WHERE fechainicial > '2031-01-01'"
 espera_ventana 'Tasas Variables'
 teclea alt+c
 
-# How many rates the server has.
-responde_tasas() { servidor psql "$sucursal" -XAtc 'SELECT count(*) FROM tasa'; }
+# Is no child form open? The area behind them has one colour.
+area_vacia() { [[ $(import -silent -window root png:- | convert - -crop 780x500+120+130 -format '%k' info:) == 1 ]]; }
 
-paso 'La historia de tasas abre dos capturas a la vez, que no guardan nada'
+# A form that comes up because another one was closed waits for the mouse before it takes keys.
+paso 'La historia de tasas abre dos capturas a la vez'
 espera_ventana "$principal"
 elige 10 3
 exige_traza 'terminando creacion y fijando foco del dialogo WTASA'
 captura tasas
-tasas=$(responde_tasas)
-nuevo_de_la_historia=(158 520)
+tasas=$(servidor psql "$sucursal" -XAtc 'SELECT count(*) FROM tasa')
 teclea alt+n
-captura tasa-nueva
-llena 01/10/2031 # the first date; the calendar's button follows
+llena 15/10/2031 # the first date; the calendar's button follows
+elige_dia tasa-calendario
 adelante 1
 llena 31/12/2031
 adelante 1
 llena 9 18
+captura tasa-nueva
 teclea alt+a # asks nothing
-pulsa "${nuevo_de_la_historia[@]}"
+pulsa 158 520 # the history's &Nuevo
+escribe 05/10/2031
+exige_campo 05/10/2031
 captura dos-tasas-nuevas
-for forma in segunda primera historia; do teclea alt+c; done
-captura tasas-cerradas
-[[ $(responde_tasas) == "$tasas" ]] || no_paso 'la captura guardó una tasa'
+teclea alt+c
+pulsa 265 215 # the first date of the other one, which is at the same place
+exige_campo 02/10/2031
+
+paso 'Se cierran y no guardaron nada'
+teclea alt+c
+pulsa 414 136 # the title of the history
+teclea alt+c
+espera 'queda abierta una forma' area_vacia
+exige_dato 'SELECT count(*) FROM tasa' "$tasas"
