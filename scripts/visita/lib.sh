@@ -125,6 +125,7 @@ pulsa() { xdotool mousemove "$1" "$2" click 1; }
 
 # Opens a pane of the menu bar. Always by way of the first one: the keys of the others can belong to a button as well.
 menu() {
+  xdotool mousemove 1000 750 # out of the way: an entry that comes up under the pointer becomes the current one
   teclea alt+i
   case $1 in
     Catalogos) teclea Right ;;
