@@ -32,8 +32,7 @@ COMMENT ON COLUMN tipomovimiento.comision IS 'cuota fija, en pesos';
 CREATE TRIGGER bitacora AFTER INSERT OR UPDATE OR DELETE ON tipomovimiento
   FOR EACH ROW EXECUTE FUNCTION anota_bitacora('tipomovimientoid');
 
--- What the client hands over to insert and to update, in its order, and the same by name only. psql puts both in
--- where their names stand outside of quoted bodies.
+-- What the client hands over to insert and to update, in its order, and the names alone.
 SELECT $$
   clave text, descri text, aplica_saldo text, deposito text, retiro text, int_pagado text, int_cobrado text, iva text,
   isr text, poliza text, acepta_deposito text, acepta_retiro text, tasa numeric, orden_acredor text,

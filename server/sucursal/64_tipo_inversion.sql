@@ -29,8 +29,7 @@ COMMENT ON COLUMN tipoinversion.clasificacionid IS '0 inversión normal, 1 certi
 CREATE TRIGGER bitacora AFTER INSERT OR UPDATE OR DELETE ON tipoinversion
   FOR EACH ROW EXECUTE FUNCTION anota_bitacora('tipoinversionid');
 
--- What the client hands over to insert and to update, in its order, and the same by name only. psql puts both in
--- where their names stand outside of quoted bodies.
+-- What the client hands over to insert and to update, in its order, and the names alone.
 SELECT $$
   clave text, riesgo text, interes_no_cobrado text, formula bigint, pasivo text, pasivo_vencida text, interes text,
   iva text, descri text, tasa numeric, plazo_min integer, aplica_iva text, aplica_isr integer, reinvierte integer,

@@ -66,8 +66,7 @@ COMMENT ON COLUMN tipoprestamo.estatus IS '1 se ofrece, 0 ya no';
 CREATE TRIGGER bitacora AFTER INSERT OR UPDATE OR DELETE ON tipoprestamo
   FOR EACH ROW EXECUTE FUNCTION anota_bitacora('tipoprestamoid');
 
--- What the client hands over to insert and to update, in its order, and the same by name only. psql puts both in
--- where their names stand outside of quoted bodies.
+-- What the client hands over to insert and to update, in its order, and the names alone.
 SELECT $$
   clave text, descri text, veces integer, normal numeric, mora numeric, movi_garantia text, activo text,
   activo_vencida text, int_normal text, int_normal_vencida text, int_normal_no_cob text, int_mora text,
