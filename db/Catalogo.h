@@ -184,3 +184,5 @@ class Catalogo {
   long tsSocios = 0;     // newest member, seconds since 1970
   char sLetra[256] = "";
 };
+
+extern Catalogo catalogo;  // of the session: app/sesion.cpp builds it ahead of the others

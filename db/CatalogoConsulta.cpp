@@ -2,7 +2,6 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "app/sesion.h"
 #include "db/Carga.h"
 #include "db/Catalogo.h"
 #include "framework/Reglas.h"
