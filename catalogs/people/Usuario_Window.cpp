@@ -211,8 +211,8 @@ long Usuario_Window::Load() {
 
 void Usuario_Window::Clear() {
   Forma::Clear();
-  fechaNacimiento.Pon({});
-  for (DatoOpcion* opcion : {&estado, &municipio, &colonia}) opcion->Pon({});
+  fechaNacimiento.Vacia();
+  for (DatoOpcion* opcion : {&estado, &municipio, &colonia}) opcion->Vacia();
   cUsuario::Permisos.clear();
   for (const auto& [fila, modulo] : Catalogo::Modulos) {
     const cPermisosModulos permiso(0, modulo.getClaveModulo(), "", "N", modulo.getDescriModulo(), false,
@@ -357,10 +357,14 @@ long Usuario_Window::AbreWeb(const char* pagina) {
   return 1;
 }
 
-void Usuario_Window::DatoJefe::Pon(std::optional<const char*> nuevo) {
-  valor = nuevo.value_or("");
+void Usuario_Window::DatoJefe::Pon(const char* nuevo) {
+  valor = nuevo;
   Muestra();
-  if (!nuevo) combo->setCurrentItem(-1);
+}
+
+void Usuario_Window::DatoJefe::Vacia() {
+  valor.clear();
+  combo->setCurrentItem(-1);
 }
 
 void Usuario_Window::DatoJefe::Muestra() {
@@ -386,14 +390,14 @@ void Usuario_Window::OfreceCiudades() {
   LeeCiudades();
   municipio.combo->clearItems();
   for (const auto& [fila, una] : Catalogo::CiudadesMex) municipio.combo->appendItem(una.getNombreCiudadMex());
-  municipio.Pon({});
+  municipio.Vacia();
 }
 
 /// The neighbourhoods that were read last.
 void Usuario_Window::OfreceColonias() {
   colonia.combo->clearItems();
   for (const cColonia& una : catalogo.ColoniasFiltro) colonia.combo->appendItem(RenglonDeColonia(una));
-  colonia.Pon({});
+  colonia.Vacia();
 }
 
 /// State and city of a city's key. The number of a state is taken for its place in the list.
@@ -440,7 +444,7 @@ void Usuario_Window::TomaDomicilio() {
 long Usuario_Window::onCmdEstados(FXObject*, FXSelector, void*) {
   OfreceCiudades();
   colonia.combo->clearItems();
-  colonia.Pon({});
+  colonia.Vacia();
   return 1;
 }
 
