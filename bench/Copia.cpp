@@ -99,6 +99,16 @@ void Copia(FXComposite* modelo, FXComposite* padre, const LlenaLista& llena) {
   }
 }
 
+/// The first text field inside `marco` that is not part of a combo box; null if there is none.
+FXTextField* PrimerCampo(FXWindow* marco) {
+  if (dynamic_cast<FXComboBox*>(marco)) return nullptr;
+  if (auto* campo = dynamic_cast<FXTextField*>(marco)) return campo;
+  FXTextField* primero = nullptr;
+  for (FXWindow* hijo = marco->getFirst(); hijo && !primero; hijo = hijo->getNext())
+    primero = PrimerCampo(hijo);
+  return primero;
+}
+
 }  // namespace
 
 FXComposite* AbreLlana(Escenario& escenario, FXComposite* modelo, const LlenaLista& llena) {
@@ -108,12 +118,15 @@ FXComposite* AbreLlana(Escenario& escenario, FXComposite* modelo, const LlenaLis
                              hija->getWidth(), hija->getHeight());
     auto* const cuerpo = static_cast<FXComposite*>(hija->contentWindow());
     Copia(cuerpo, CopiaMarco(cuerpo, ventana), llena);
-    ventana->create();
-    ventana->setFocus();
   } else {
     ventana = new FXDialogBox(escenario.ventana, static_cast<FXDialogBox*>(modelo)->getTitle(),
                               DECOR_TITLE | DECOR_BORDER | DECOR_RESIZE);
     Copia(modelo, ventana, llena);
+  }
+  ventana->create();
+  if (FXTextField* const campo = PrimerCampo(ventana)) {
+    campo->setFocus();
+    campo->selectAll();
   }
   return ventana;
 }
