@@ -28,6 +28,8 @@ class Banco_Window : public Forma<Banco_Window, FXMDIChild> {
   CUENTAS_BANCO(CUENTA_MANEJADOR)
   long onCmdBusqueda(FXObject*, FXSelector sel, void*) { return cuentas.Busca(FXSELID(sel) - ID_BUSCAR); }
   long onCmdCalendario(FXObject*, FXSelector, void*) { return fechaInicio.Elige(this); }
+  /// The place of an account in the combo box, 0 if it has none there.
+  static int FindCuenta(const char* cuenta) { return ::FindCuenta(cuenta); }
 
  protected:
   Banco_Window() {}

@@ -77,6 +77,12 @@ class Usuario_Window : public Forma<Usuario_Window, FXMDIChild> {
   /// Always true; traces.
   bool Checkuser();
 
+  /// The place of a key in its combo box, 0 if it has none there.
+  static int FindTipoUsuario(const char* clave) { return ::FindTipoUsuario(clave); }
+  static int FindUsuario(const char* clave) { return ::FindUsuario(clave); }
+  static int FindCiudad(int clave) { return ::FindCiudad(clave); }
+  static int FindCuenta(const char* clave) { return ::FindCuenta(clave); }
+
  protected:
   Usuario_Window() {}
 
@@ -158,7 +164,7 @@ class Usuario_Window : public Forma<Usuario_Window, FXMDIChild> {
   FXTable* tabla = nullptr;
 
   DatoTexto login;
-  DatoFila<Catalogo::TiposUsuarios, &cTipoUsuario::getTipoUsuarioID, FindTipoUsuario> tipo;
+  DatoFila<Catalogo::TiposUsuarios, &cTipoUsuario::getTipoUsuarioID, ::FindTipoUsuario> tipo;
   DatoJefe jefe;
   DatoTexto contrasenia;  // without a field: goes back as it came
   DatoTexto email;
