@@ -18,7 +18,13 @@ Orden DelEscritorio(Textos argumentos) { return {std::move(argumentos), {}, ento
 void Mueve(Textos argumentos) {
   argumentos.insert(argumentos.begin(), "xdotool");
   Hijo xdotool(DelEscritorio(std::move(argumentos)), STDERR_FILENO, SIGTERM);
-  if (!BombeaHasta([&] { return xdotool.Acabo(); })) throw std::runtime_error("xdotool no termina");
+  // A key that closes a box ends the loop that runs here, too.
+  bool acabo = BombeaHasta([&] { return xdotool.Acabo(); });
+  for (int veces = 0; !acabo && veces < 200; ++veces) {
+    usleep(50000);
+    acabo = xdotool.Acabo();
+  }
+  if (!acabo) throw std::runtime_error("xdotool no termina");
   Bombea(150);
 }
 
@@ -26,9 +32,13 @@ void Mueve(Textos argumentos) {
 
 Escritorio::Escritorio()
     : administrador_((App(), DelEscritorio({"openbox", "--sm-disable"})), STDERR_FILENO, SIGTERM) {
-  if (!BombeaHasta([] { return Corre(DelEscritorio({"xdotool", "get_num_desktops"})).codigo == 0; }))
-    throw std::runtime_error("openbox no arranca");
+  for (int veces = 0; Corre(DelEscritorio({"xdotool", "get_num_desktops"})).codigo != 0; ++veces) {
+    if (veces == 200) throw std::runtime_error("openbox no arranca");
+    usleep(50000);
+  }
 }
+
+void Escritorio::Activa(FXWindow* ventana) { Mueve({"windowactivate", std::to_string(ventana->id())}); }
 
 size_t Escritorio::Teclea(const Textos& teclas) {
   Textos argumentos = {"key", "--delay", "40"};
