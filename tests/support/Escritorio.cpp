@@ -14,11 +14,17 @@ const Textos entorno = {"LC_ALL=C.UTF-8"};  // in which xdotool reads what it ty
 
 Orden DelEscritorio(Textos argumentos) { return {std::move(argumentos), {}, entorno}; }
 
-/// Runs xdotool while the program goes on.
+/// Runs xdotool while the program goes on. A key that closes a box ends the loop of events that waits for it
+/// here.
 void Mueve(Textos argumentos) {
   argumentos.insert(argumentos.begin(), "xdotool");
   Hijo xdotool(DelEscritorio(std::move(argumentos)), STDERR_FILENO, SIGTERM);
-  if (!BombeaHasta([&] { return xdotool.Acabo(); })) throw std::runtime_error("xdotool no termina");
+  bool acabo = BombeaHasta([&] { return xdotool.Acabo(); });
+  for (int vuelta = 0; !acabo && vuelta < 1000; ++vuelta) {
+    usleep(10000);
+    acabo = xdotool.Acabo();
+  }
+  if (!acabo) throw std::runtime_error("xdotool no termina");
   Bombea(150);
 }
 
