@@ -10,7 +10,12 @@
 namespace pruebas {
 namespace {
 
-class TecladoTest : public ConCaja {
+/// Ahead of the windows: a window manager gives the keyboard to those that come up while it is there.
+struct ConEscritorio {
+  Escritorio escritorio_;
+};
+
+class TecladoTest : public ConEscritorio, public ConCaja {
  protected:
   void SetUp() override {
     ConCaja::SetUp();
@@ -49,7 +54,6 @@ class TecladoTest : public ConCaja {
     return 1;
   }
 
-  Escritorio escritorio_;
   std::unique_ptr<Sesion> sesion_;
   Monedas_Window* monedas_ = nullptr;
 };
