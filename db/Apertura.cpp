@@ -140,6 +140,7 @@ void PideEspanol() {
   if (mensajes == "C" || mensajes == "POSIX") setlocale(LC_MESSAGES, "C.UTF-8");
   const std::string dominio = "libpq5-" + std::to_string(PQlibVersion() / 10000);
   bind_textdomain_codeset(dominio.c_str(), "UTF-8");
+  bind_textdomain_codeset("libc", "UTF-8");  // whose words for a failed call it quotes
 }
 
 /// Executes `sql` and answers its first field; throws when it is refused.

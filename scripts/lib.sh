@@ -5,7 +5,7 @@ paquetes_programa=(g++ cmake ninja-build pkg-config libfox-1.6-dev libpq-dev fon
 paquetes_servidor=(postgresql-15 postgresql-15-cron)
 paquetes_pantalla=(xvfb openbox xdotool xclip imagemagick)
 paquetes_pruebas=(libgtest-dev python3) # whose csv reads the exports back
-paquetes_revision=(clang-format postgresql-15-pgtap libtap-parser-sourcehandler-pgtap-perl)
+paquetes_revision=(clang-format postgresql-15-pgtap libtap-parser-sourcehandler-pgtap-perl pgbackrest)
 
 falla() {
   printf '%s: %s\n' "$(basename "$0")" "$*" >&2

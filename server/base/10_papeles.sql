@@ -6,8 +6,10 @@
 --   tolvara_altas        owns only the functions that make and retire logins (30_logins.sql), and is therefore the
 --                        only role that may create roles: a flaw elsewhere cannot reach that power
 --   tolvara_auditores    reads the log of every branch and nothing else
+--   tolvara_registro     owns only the function that reads the server's own log for them (60_registro.sql)
 SELECT format('CREATE ROLE %I NOLOGIN%s', papel, facultad)
-  FROM (VALUES ('tolvara_usuarios', ''), ('tolvara_propietario', ''), ('tolvara_altas', ' CREATEROLE'), ('tolvara_auditores', ''))
+  FROM (VALUES ('tolvara_usuarios', ''), ('tolvara_propietario', ''), ('tolvara_altas', ' CREATEROLE'),
+               ('tolvara_auditores', ''), ('tolvara_registro', ''))
        AS papeles (papel, facultad)
  WHERE NOT EXISTS (SELECT FROM pg_roles WHERE rolname = papel)
 \gexec

@@ -14,14 +14,14 @@ const Textos entorno = {"LC_ALL=C.UTF-8"};  // in which xdotool reads what it ty
 
 Orden DelEscritorio(Textos argumentos) { return {std::move(argumentos), {}, entorno}; }
 
-/// Runs xdotool while the program goes on.
+/// Runs xdotool while the program goes on. A key that closes a box ends the loop of events that waits for it
+/// here.
 void Mueve(Textos argumentos) {
   argumentos.insert(argumentos.begin(), "xdotool");
   Hijo xdotool(DelEscritorio(std::move(argumentos)), STDERR_FILENO, SIGTERM);
-  // A key that closes a box ends the loop that runs here, too.
   bool acabo = BombeaHasta([&] { return xdotool.Acabo(); });
-  for (int veces = 0; !acabo && veces < 200; ++veces) {
-    usleep(50000);
+  for (int vuelta = 0; !acabo && vuelta < 1000; ++vuelta) {
+    usleep(10000);
     acabo = xdotool.Acabo();
   }
   if (!acabo) throw std::runtime_error("xdotool no termina");
@@ -32,13 +32,9 @@ void Mueve(Textos argumentos) {
 
 Escritorio::Escritorio()
     : administrador_((App(), DelEscritorio({"openbox", "--sm-disable"})), STDERR_FILENO, SIGTERM) {
-  for (int veces = 0; Corre(DelEscritorio({"xdotool", "get_num_desktops"})).codigo != 0; ++veces) {
-    if (veces == 200) throw std::runtime_error("openbox no arranca");
-    usleep(50000);
-  }
+  if (!BombeaHasta([] { return Corre(DelEscritorio({"xdotool", "get_num_desktops"})).codigo == 0; }))
+    throw std::runtime_error("openbox no arranca");
 }
-
-void Escritorio::Activa(FXWindow* ventana) { Mueve({"windowactivate", std::to_string(ventana->id())}); }
 
 size_t Escritorio::Teclea(const Textos& teclas) {
   Textos argumentos = {"key", "--delay", "40"};
