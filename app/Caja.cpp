@@ -8,7 +8,7 @@
 #include "app/sesion.h"
 #include "db/Apertura.h"
 #include "db/Login_Window.h"
-#include "framework/Iconos.h"
+#include "icons/Icono.h"
 #include "icons/iconos.h"
 
 namespace {

@@ -2,7 +2,7 @@
 #include <initializer_list>
 
 #include "app/Caja.h"
-#include "framework/Iconos.h"
+#include "icons/Icono.h"
 #include "icons/iconos.h"
 
 namespace {

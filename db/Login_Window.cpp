@@ -3,13 +3,12 @@
 #include <cstring>
 #include <iostream>
 
-#include "app/Caja.h"
 #include "app/sesion.h"
 #include "db/Apertura.h"
 #include "db/Catalogo.h"
 #include "db/Engine.h"
-#include "framework/Iconos.h"
 #include "framework/Sentencia.h"
+#include "icons/Icono.h"
 #include "icons/iconos.h"
 #include "widgets/TextoAcotado.h"
 #include "widgets/cajas.h"
@@ -48,7 +47,7 @@ const Login_Window::Ajuste Login_Window::ajustes[] = {
     {"userdb", "xxx", &Login_Window::sUserDb},
 };
 
-Login_Window::Login_Window(Caja* owner)
+Login_Window::Login_Window(FXWindow* owner)
     : FXDialogBox(owner, "Login", DECOR_TITLE | DECOR_BORDER | DECOR_RESIZE, 0, 0, 0, 0, 0, 0, 0, 0) {
   auto* marco = new FXHorizontalFrame(this, LAYOUT_FILL_X | LAYOUT_FILL_Y);
   ArmaCampos(new FXVerticalFrame(marco, LAYOUT_FILL_X | LAYOUT_FILL_Y));

@@ -20,7 +20,7 @@
 #include <memory>
 
 #include "framework/Campos.h"
-#include "framework/Iconos.h"
+#include "icons/Icono.h"
 #include "icons/iconos.h"
 #include "widgets/TextoAcotado.h"
 

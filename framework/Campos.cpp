@@ -42,9 +42,8 @@ long CampoReal::onCmdSetRealValue(FXObject*, FXSelector, void* valor) {
   return 1;
 }
 
-void DatoOpcion::Pon(std::optional<int> nuevo) {
-  const int opcion = nuevo.value_or(-1);
-  combo->setCurrentItem(opcion >= 0 && opcion < combo->getNumItems() ? opcion : -1);
+void DatoOpcion::Pon(int nuevo) {
+  combo->setCurrentItem(nuevo >= 0 && nuevo < combo->getNumItems() ? nuevo : -1);
 }
 
 FXComposite* campoRenglon(FXMatrix* matriz, const char* etiqueta) {

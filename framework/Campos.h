@@ -9,12 +9,12 @@
 
 #include <cstdlib>
 #include <memory>
-#include <optional>
 #include <string>
 #include <type_traits>
 
 /// A member of a form and what binds it to its field: what the user types is in `valor` at once, and Pon
-/// shows in the field what the program stores. T is FXString, FXint or FXdouble.
+/// shows in the field what the program stores. T is FXString, FXint or FXdouble. As every `Dato` it has Pon,
+/// Vacia, which leaves it as in a form that was just opened, and Valor.
 template <class T>
 struct Dato {
   T valor{};
@@ -26,6 +26,8 @@ struct Dato {
     valor = nuevo;
     if (campo != nullptr) destino.handle(campo, FXSEL(SEL_UPDATE, FXDataTarget::ID_VALUE), nullptr);
   }
+  /// Nothing: no text, or 0.
+  void Vacia() { Pon(T{}); }
   /// What the field holds.
   const T& Valor() const { return valor; }
 };
@@ -43,12 +45,14 @@ struct DatoParrafo {
     valor = nuevo;
     campo->setText(valor);
   }
+  void Vacia() { Pon({}); }
   const FXString& Valor() { return valor = campo->getText(); }
 };
 
 /// A whole number with more digits than an FXint has; nothing in the field is 0.
 struct DatoLargo : DatoTexto {
   void Pon(long nuevo) { DatoTexto::Pon(FXString(std::to_string(nuevo).c_str())); }
+  void Vacia() { Pon(0); }
   long Valor() const { return strtol(valor.text(), nullptr, 10); }
 };
 
@@ -65,6 +69,7 @@ class DatoCasilla {
       boton->setCheck(static_cast<FXbool>(nuevo));
     }
   }
+  void Vacia() { Pon(T{}); }
   T Valor() const { return boton->getCheck() ? si : no; }
 
   FXCheckButton* boton = nullptr;
@@ -75,13 +80,14 @@ class DatoCasilla {
 };
 
 /// A check button that says "S" or "N" from the moment it is pressed; until then what was read stays as it
-/// is. Null, which is what `Pon({})` passes, is "N".
+/// is.
 class DatoSN {
  public:
   void Pon(const char* nuevo) {
-    valor = nuevo != nullptr ? nuevo : "N";
+    valor = nuevo;
     boton->setCheck(valor == "S");
   }
+  void Vacia() { Pon("N"); }
   const FXString& Valor() const { return valor; }
   /// What the handler of the button does.
   long Elige() {
@@ -95,10 +101,11 @@ class DatoSN {
   FXString valor;
 };
 
-/// A combo box of which the number of the current item is the value, -1 for none. Nothing, which is what
-/// `Pon({})` passes, and a number that it does not have leave it without one.
+/// A combo box of which the number of the current item is the value, -1 for none. A number that it does not
+/// have leaves it without one.
 struct DatoOpcion {
-  void Pon(std::optional<int> nuevo);
+  void Pon(int nuevo);
+  void Vacia() { Pon(-1); }
   FXint Valor() const { return combo->getCurrentItem(); }
 
   FXComboBox* combo = nullptr;

@@ -3,18 +3,19 @@
 // A form `class X_Window : public Forma<X_Window, Base>`, Base being FXMDIChild or FXDialogBox, states its
 // title and size, its rows of fields, its message map (MAPA_FORMA), and (open to `friend Forma`):
 //
-//   auto& Actual()          the global record on which the form works
+//   auto& Actual()          the global record on which the form works, which outlives it
 //   auto& Filas()           the cached container that the list shows: a map keyed by row, or a `lista`
 //   void Relee()            the load of that catalogue
 //   void Prepara()          the loads that its combo boxes need, if any, and what they offer then
 //   auto Datos()            std::tuple of Liga(member, getter, setter) for every field in the order of the
 //                           screen, the key first; where it has several fields, camposDeClave of them
 //
-// A form without &Buscar names SinBuscar as the third argument. A form that differs in a step defines that
-// step itself under the same name: calls go down to the form. Its constructor builds in this order:
-// ArmaLista (or ArmaSinLista), ArmaGrupo with its rows (as often as there are groups), ArmaBotones, and Abre
-// (a child form) or Comienza (a dialog). catalogs/simple/Monedas_Window.cpp is the model of a child form,
-// Tipo_Garantia_Window.cpp of a dialog.
+// The header of a form declares that record, and behind it the text into which its rows are written, where
+// they go by way of one (EnBorrador). A form without &Buscar names SinBuscar as the third argument. A form
+// that differs in a step defines that step itself under the same name: calls go down to the form. Its
+// constructor builds in this order: ArmaLista (or ArmaSinLista), ArmaGrupo with its rows (as often as there
+// are groups), ArmaBotones, and Abre (a child form) or Comienza (a dialog). catalogs/simple/Grupo_Window.cpp
+// is the model of a child form, Modulo_Window.cpp of a dialog.
 #pragma once
 
 #include <fx.h>
@@ -30,7 +31,7 @@
 #include "framework/Campos.h"
 #include "framework/Filas.h"
 #include "framework/Foco.h"
-#include "framework/Iconos.h"
+#include "icons/Icono.h"
 #include "icons/iconos.h"
 #include "widgets/TextoAcotado.h"
 #include "widgets/cajas.h"
@@ -367,7 +368,7 @@ void Forma<Ventana, Base, busqueda>::Update() {
 
 template <class Ventana, class Base, Busqueda busqueda>
 void Forma<Ventana, Base, busqueda>::Clear() {
-  CadaDato([](const auto& campo) { campo.dato.Pon({}); });
+  CadaDato([](const auto& campo) { campo.dato.Vacia(); });
 }
 
 template <class Ventana, class Base, Busqueda busqueda>

@@ -17,7 +17,7 @@
 
 #include "db/Engine.h"
 #include "framework/Campos.h"
-#include "framework/Iconos.h"
+#include "icons/Icono.h"
 #include "icons/iconos.h"
 #include "reports/Preview_Window.h"
 

@@ -15,7 +15,7 @@ falla() {
 instalado() { [[ $(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null) == installed ]]; }
 
 # Installs the packages of the list that are missing. Without any, needs neither the network nor root.
-instala() {
+asegura_paquetes() {
   local paquete faltan=() root=()
   for paquete; do instalado "$paquete" || faltan+=("$paquete"); done
   ((${#faltan[@]})) || return 0

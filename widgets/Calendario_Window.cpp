@@ -1,6 +1,6 @@
 #include "widgets/Calendario_Window.h"
 
-#include "framework/Iconos.h"
+#include "icons/Icono.h"
 #include "icons/iconos.h"
 #include "widgets/FXCalendar.h"
 

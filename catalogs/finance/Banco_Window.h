@@ -1,16 +1,15 @@
 // The form of the bank accounts.
 #pragma once
 
+#include "catalogs/finance/CampoCuenta.h"
 #include "catalogs/finance/cBanco.h"
 #include "db/Catalogo.h"
-#include "framework/Busqueda_Window.h"
-#include "framework/CampoCuenta.h"
 #include "framework/CampoFecha.h"
 #include "framework/Forma.h"
 
-extern cBanco banco;  // the record on which the form works; outlives it
+extern cBanco banco;
 
-#define CUENTAS_BANCO(CUENTA) CUENTA("Cta. Contable:", CuentaID, onCmdCuenta, true)
+#define CUENTAS_BANCO(CUENTA) CUENTA("Cta. Contable:", CuentaID, onCmdCuenta)
 
 class Banco_Window : public Forma<Banco_Window, FXMDIChild> {
   FXDECLARE(Banco_Window)

@@ -55,8 +55,8 @@ void TasaInteres_Window::Update() {
 }
 
 void TasaInteres_Window::Clear() {
-  nombre.Pon({});
-  descripcion.Pon({});
+  nombre.Vacia();
+  descripcion.Vacia();
 }
 
 /// Is there no description? Then says so.

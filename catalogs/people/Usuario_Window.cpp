@@ -84,7 +84,7 @@ void Renueva(DatoOpcion& opcion, std::vector<const char*>& textos) {
   textos.push_back(nullptr);
   opcion.combo->clearItems();
   opcion.combo->fillItems(textos.data());
-  opcion.Pon({});
+  opcion.Vacia();
 }
 
 }  // namespace
@@ -222,8 +222,8 @@ long Usuario_Window::Load() {
 
 void Usuario_Window::Clear() {
   Forma::Clear();
-  fechaNacimiento.Pon({});
-  for (DatoOpcion* opcion : {&estado, &municipio, &colonia}) opcion->Pon({});
+  fechaNacimiento.Vacia();
+  for (DatoOpcion* opcion : {&estado, &municipio, &colonia}) opcion->Vacia();
   cUsuario::Permisos.clear();
   for (const auto& [fila, modulo] : Catalogo::Modulos) {
     const cPermisosModulos permiso(0, modulo.getClaveModulo(), "", "N", modulo.getDescriModulo(), false,
@@ -368,10 +368,14 @@ long Usuario_Window::AbreWeb(const char* pagina) {
   return 1;
 }
 
-void Usuario_Window::DatoJefe::Pon(std::optional<const char*> nuevo) {
-  valor = nuevo.value_or("");
+void Usuario_Window::DatoJefe::Pon(const char* nuevo) {
+  valor = nuevo;
   Muestra();
-  if (!nuevo) combo->setCurrentItem(-1);
+}
+
+void Usuario_Window::DatoJefe::Vacia() {
+  valor.clear();
+  combo->setCurrentItem(-1);
 }
 
 void Usuario_Window::DatoJefe::Muestra() {
@@ -454,7 +458,7 @@ void Usuario_Window::TomaDomicilio() {
 long Usuario_Window::onCmdEstados(FXObject*, FXSelector, void*) {
   OfreceCiudades();
   colonia.combo->clearItems();
-  colonia.Pon({});
+  colonia.Vacia();
   return 1;
 }
 

@@ -4,17 +4,17 @@
 // postal code all three. Each step reads the server and leaves what it read in the cache.
 #pragma once
 
+#include "catalogs/Posiciones.h"
+#include "catalogs/finance/CampoCuenta.h"
 #include "catalogs/people/cUsuario.h"
-#include "framework/Busqueda_Window.h"
-#include "framework/CampoCuenta.h"
 #include "framework/CampoFecha.h"
 #include "framework/CampoFila.h"
 #include "framework/Forma.h"
 
-extern cUsuario usuario;    // the record on which the form works; outlives it
-extern char sUsuario[121];  // a row of the list: name and login
+extern cUsuario usuario;
+extern char sUsuario[121];  // a row: name and login
 
-#define CUENTAS_USUARIO(CUENTA) CUENTA("Cta. Caja:", CuentaCaja, onCmdCuenta, true)
+#define CUENTAS_USUARIO(CUENTA) CUENTA("Cta. Caja:", CuentaCaja, onCmdCuenta)
 
 class Usuario_Window : public Forma<Usuario_Window, FXMDIChild> {
   FXDECLARE(Usuario_Window)
@@ -143,8 +143,8 @@ class Usuario_Window : public Forma<Usuario_Window, FXMDIChild> {
 
   /// The boss: the login of a user, behind "Ninguno" in its combo box.
   struct DatoJefe {
-    /// Nothing, which is what `Pon({})` passes, empties both.
-    void Pon(std::optional<const char*> nuevo);
+    void Pon(const char* nuevo);
+    void Vacia();
     void Muestra();
     FXString& Valor() { return valor; }
     long Elige();

@@ -42,15 +42,18 @@ ALTER DATABASE :"base" SET log_min_duration_sample = -1;
 
 CREATE SCHEMA IF NOT EXISTS comun AUTHORIZATION tolvara_propietario;
 
--- The version of these objects (`comun`) and of each branch; one that is not here is of version 1.
+-- The version of these objects (`comun`) and of each branch, and the digest of the template that made them; a branch that
+-- is not here is of version 1.
 CREATE TABLE IF NOT EXISTS comun.version (
   objeto name PRIMARY KEY,
   version integer NOT NULL,
   desde timestamptz NOT NULL DEFAULT now()
 );
+ALTER TABLE comun.version ADD COLUMN IF NOT EXISTS huella text;
 ALTER TABLE comun.version OWNER TO tolvara_propietario;
-INSERT INTO comun.version (objeto, version) VALUES ('comun', :version)
-ON CONFLICT (objeto) DO UPDATE SET version = excluded.version, desde = now() WHERE version.version <> excluded.version;
+INSERT INTO comun.version (objeto, version, huella) VALUES ('comun', :version, :'huella')
+ON CONFLICT (objeto) DO UPDATE SET version = excluded.version, huella = excluded.huella, desde = now()
+ WHERE (version.version, version.huella) IS DISTINCT FROM (excluded.version, excluded.huella);
 
 -- A function is for its owner until a line of its own file grants it.
 ALTER DEFAULT PRIVILEGES FOR ROLE tolvara_propietario REVOKE EXECUTE ON FUNCTIONS FROM PUBLIC;

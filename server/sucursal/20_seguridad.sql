@@ -77,6 +77,15 @@ BEGIN
   END IF;
 END $$;
 
+-- Statement trigger of the tables that the client writes directly; its argument is the module. Stored functions run as
+-- the owner and have asked already.
+CREATE FUNCTION exige_permiso_directo() RETURNS trigger
+LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
+BEGIN
+  PERFORM exige_permiso(TG_ARGV[0]);
+  RETURN NULL;
+END $$;
+
 -- Waits until no other transaction is at the same matter, and keeps it to the end of this one: for what is looked at
 -- first and written afterwards.
 CREATE FUNCTION por_turno(asunto text) RETURNS void

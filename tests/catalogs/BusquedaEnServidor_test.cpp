@@ -3,9 +3,9 @@
 #include <type_traits>
 
 #include "app/sesion.h"
-#include "framework/BusquedaSocio_Window.h"
-#include "framework/BusquedaSujeto_Window.h"
-#include "tests/framework/Cuentas.h"
+#include "catalogs/people/BusquedaSocio_Window.h"
+#include "catalogs/people/BusquedaSujeto_Window.h"
+#include "tests/catalogs/Cuentas.h"
 #include "tests/support/Espia.h"
 #include "tests/support/Salida.h"
 #include "tests/support/Sesion.h"

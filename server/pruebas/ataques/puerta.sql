@@ -49,6 +49,10 @@ SELECT matches(entra('m', 'lucia', 'norte'), 'lucia', 'la contraseña de la prim
 SELECT is(di('a', $$select spdusuario('lucia')$$), '', 'y se va también');
 SELECT dblink_disconnect('l'), dblink_disconnect('a');
 
+SELECT abre('n', 'camila', 'norte');
+SELECT is(di('n', $$select spimoneda('Q', 'x', 1)$$), 'No tiene permiso para la opción Monedas (módulo 0203)', 'se niega');
+SELECT dblink_disconnect('n');
+
 -- The server's own log has every refusal and every failed entry, and no password.
 SELECT CASE WHEN esta THEN matches(registro, patron, que) ELSE doesnt_match(registro, patron, que) END
   FROM pg_read_file(pg_current_logfile()) AS registro,

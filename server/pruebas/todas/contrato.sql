@@ -1,39 +1,9 @@
--- The functions that the client calls, one row each: name, argument types, result. And the shape that every object of
--- a branch keeps, so that a new file cannot forget it.
+-- The functions that the client calls are there and nothing else is; and the shape that every object of a branch keeps,
+-- so that a new file cannot forget it.
 BEGIN;
 SELECT no_plan();
 
-CREATE TEMPORARY TABLE contrato (nombre text, argumentos text, resultado text);
-INSERT INTO contrato VALUES
-  ('spsmoneda', 'text', 'TABLE(monedaid character, monedavalor numeric, monedadescri character varying)'),
-  ('spimoneda', 'text, text, numeric', 'void'),
-  ('spumoneda', 'text, text, numeric', 'void'),
-  ('spdmoneda', 'text', 'void'),
-  ('spsparametro', 'text',
-   'TABLE(parametroid bigint, usuarioid character varying, serieuser character varying, cuentacaja character, '
-   'impresoracaja character varying, impresorareporte character varying, reporteslaser integer, '
-   'clavesocioint character varying)'),
-  ('spiparametro', 'text, text, text, text, text, integer, text', 'void'),
-  ('spuparametro', 'text, text, text, text, text, integer, text', 'void'),
-  ('spdparametro', 'text', 'void'),
-  ('nombreusuario', 'text', 'text'),
-  ('spspermisomodulo', 'text, text',
-   'TABLE(permisomoduloid bigint, clavemodulo character, usuarioid character varying, permiso character varying, '
-   'descripcionmodulo character varying)'),
-  ('spspermisosmodulos', 'bigint',
-   'TABLE(permisomoduloid bigint, clavemodulo character, usuarioid character varying, permiso character varying, '
-   'descripcionmodulo character varying)'),
-  ('spspermisosmodulos', 'text',
-   'TABLE(permisomoduloid bigint, clavemodulo character, usuarioid character varying, permiso character varying, '
-   'descripcionmodulo character varying)'),
-  ('spipermisomodulo', 'text, text, text', 'bigint'),
-  ('spupermisomodulo', 'bigint, text, text, text', 'void'),
-  ('spdpermisosmodulos', 'bigint', 'void'),
-  ('creausuario', 'text, text', 'integer'),
-  ('serverdate', 'text', 'integer'),
-  ('fechacobroiva', '', 'date');
-\ir contrato/60_finanzas.sql
-\ir contrato/80_personas.sql
+\ir ../apoyo/contrato.sql
 
 CREATE TEMPORARY VIEW funcion AS
 SELECT p.oid, p.proname::text AS nombre, coalesce(tipos.lista, '') AS argumentos,
