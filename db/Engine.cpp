@@ -1,11 +1,29 @@
 #include "db/Engine.h"
 
+#include <cstring>
 #include <iostream>
+#include <string>
 
 int Engine::miTransactionCount = 0;
 int Engine::miNestedTransaction = 1;
 
 namespace {
+
+/// The server's text without the two lines that point into our statement, which no setting of the library
+/// leaves out. Stays until the next refusal.
+const char* TextoDeLaRespuesta() {
+  const char* const frase = PQresultErrorField(res, PG_DIAG_MESSAGE_PRIMARY);
+  if (frase == nullptr || PQresultErrorField(res, PG_DIAG_STATEMENT_POSITION) == nullptr)
+    return PQresultErrorMessage(res);
+  static std::string texto;
+  texto = PQresultErrorMessage(res);
+  size_t resto = texto.find(frase);
+  if (resto == std::string::npos) return texto.c_str();
+  resto = texto.find('\n', resto + strlen(frase));
+  const size_t marca = texto.find("^\n", resto);
+  if (marca != std::string::npos) texto.erase(resto, marca + 1 - resto);
+  return texto.c_str();
+}
 
 /// Executes a transaction command with a result of its own: a thrown server text that is still to be shown
 /// points into the shared one.
@@ -41,7 +59,7 @@ bool Rechazada() {
 }
 
 void LanzaSiRechazada() {
-  if (Rechazada()) Lanza(PQresultErrorMessage(res));
+  if (Rechazada()) Lanza(TextoDeLaRespuesta());
 }
 
 void AbreTransaccion(const char* mensaje) {

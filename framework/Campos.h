@@ -12,6 +12,8 @@
 #include <string>
 #include <type_traits>
 
+#include "widgets/CampoDeTexto.h"
+
 /// A member of a form and what binds it to its field: what the user types is in `valor` at once, and Pon
 /// shows in the field what the program stores. T is FXString, FXint or FXdouble. As every `Dato` it has Pon,
 /// Vacia, which leaves it as in a form that was just opened, and Valor.
@@ -24,7 +26,9 @@ struct Dato {
   /// Stores a value and shows it, also in a field that is being edited.
   void Pon(const T& nuevo) {
     valor = nuevo;
-    if (campo != nullptr) destino.handle(campo, FXSEL(SEL_UPDATE, FXDataTarget::ID_VALUE), nullptr);
+    if (campo == nullptr) return;
+    destino.handle(campo, FXSEL(SEL_UPDATE, FXDataTarget::ID_VALUE), nullptr);
+    CampoDeTexto::Olvida(campo);
   }
   /// Nothing: no text, or 0.
   void Vacia() { Pon(T{}); }
@@ -112,9 +116,9 @@ struct DatoOpcion {
 };
 
 /// A text field as wide as its columns, and narrower where its row has no room for them.
-class Campo : public FXTextField {
+class Campo : public CampoDeTexto {
  public:
-  using FXTextField::FXTextField;
+  using CampoDeTexto::CampoDeTexto;
   void position(FXint x, FXint y, FXint ancho, FXint alto) override {
     FXTextField::position(x, y, FXMIN(ancho, getDefaultWidth()), alto);
   }
@@ -142,6 +146,31 @@ class CampoReal : public Campo {
 
  protected:
   CampoReal() {}
+};
+
+/// A combo box for the keyboard too: a letter, F4 and Alt with the down arrow open its list; there the keys
+/// that move in a list only look, Enter takes the item, Escape keeps the one before, and no other key reaches
+/// what lies behind.
+class CampoOpciones : public FXComboBox {
+  FXDECLARE(CampoOpciones)
+ public:
+  using FXComboBox::FXComboBox;
+  long onKeyPress(FXObject* emisor, FXSelector sel, void* evento);
+  long onKeyRelease(FXObject* emisor, FXSelector sel, void* evento);
+  long onUpdate(FXObject* emisor, FXSelector sel, void* datos);
+  void killFocus() override;
+
+ protected:
+  CampoOpciones() {}
+
+ private:
+  void Abre();
+  void Cierra();
+  void Mira(void* evento);
+  void Toma();
+
+  static constexpr FXint nada = -2;
+  FXint elegida = nada;  // the item before the user began to look around
 };
 
 /// A row of several fields: its label, if any, and the frame that they go into.

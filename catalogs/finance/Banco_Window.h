@@ -1,6 +1,7 @@
 // The form of the bank accounts.
 #pragma once
 
+#include "catalogs/finance/Busqueda_Window.h"
 #include "catalogs/finance/CampoCuenta.h"
 #include "catalogs/finance/cBanco.h"
 #include "db/Catalogo.h"

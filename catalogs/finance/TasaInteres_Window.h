@@ -47,6 +47,7 @@ class TasaInteres_Window : public Forma<TasaInteres_Window, FXDialogBox> {
  private:
   friend Forma;
   void EnfocaClave() { DaTeclado(nombre.campo); }
+  void Falla(const char* texto) { cajaError(this, "Error en Validación", texto); }
   bool EstaVacia(const char* aviso);
   void Manda(const Sentencia& sql);
 

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "catalogs/Posiciones.h"
+#include "catalogs/finance/Busqueda_Window.h"
 #include "catalogs/finance/CampoCuenta.h"
 #include "catalogs/people/cUsuario.h"
 #include "framework/CampoFecha.h"
