@@ -16,11 +16,6 @@ namespace {
 constexpr FXuint Limitado = TEXTFIELD_LIMITED;
 const std::string Acumulativa = Cuenta("1000");  // an account of the demonstration that adds up
 
-Textos operator+(Textos unas, const Textos& otras) {
-  unas.insert(unas.end(), otras.begin(), otras.end());
-  return unas;
-}
-
 class FormasProductos : public ConForma, public testing::WithParamInterface<FormaProducto (*)()> {
  protected:
   FormasProductos() : ConForma(GetParam()()) {}
