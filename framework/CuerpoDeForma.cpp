@@ -141,7 +141,10 @@ FXGroupBox* CuerpoDeForma::ArmaBotones() {
 void CuerpoDeForma::Acomoda() {
   auto* const hija = static_cast<FXMDIChild*>(forma);
   FXWindow* const area = hija->getParent();
-  constexpr int vueltas = 8;  // what one box gets, another may still lack
+  constexpr FXuint resolucion = 100;  // of the screen, for which the sizes of the forms are made
+  const bool grande =
+      forma->getApp()->reg().readUnsignedEntry("SETTINGS", "screenres", resolucion) > resolucion;
+  const int vueltas = grande ? 8 : 0;  // what one box gets, another may still lack
   for (int vuelta = 0; vuelta < vueltas && !hija->isMaximized(); ++vuelta) {
     hija->layout();
     Falta falta;
