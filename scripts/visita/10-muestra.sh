@@ -16,16 +16,16 @@ pon_impresora
 abre_cliente muestrario
 entra "$usuario" "$(clave_de "$usuario")" bienvenida-al-muestrario
 
-# Chooses the entry of the pane "Muestra" at place $1.
+# Chooses the window with this name in the pane "Muestra".
 muestra_ventana() {
   espera_ventana "$principal"
   teclea alt+m
-  baja "$1"
+  baja "${muestra_en[$1]:?}"
   teclea Return
 }
 
 paso 'Un asesor se agrega y se borra'
-muestra_ventana 1
+muestra_ventana asesor
 exige_traza 'terminando creacion frm pais'
 nuevo 97 'Ñico Lagos'
 captura asesores
@@ -36,13 +36,13 @@ exige_dato "SELECT count(*) FROM asesor WHERE asesorid = 97" 0
 teclea alt+c
 
 paso 'Se ven las clasificaciones de créditos'
-muestra_ventana 2
+muestra_ventana clasificacion
 exige_traza 'terminando creacion frm clasificacioncredito'
 captura clasificaciones
 teclea alt+c
 
 paso 'Un grupo se agrega y se borra'
-muestra_ventana 6
+muestra_ventana grupo
 exige_traza 'terminando creacion frm grupo'
 nuevo '' 'Grupo de los Soñadores'
 confirma alt+a 'Grupo' grupo-registrar
@@ -55,65 +55,71 @@ exige_dato "SELECT count(*) FROM grupo WHERE grupo = 'Grupo de los Soñadores'" 
 teclea alt+c
 
 paso 'Se busca una cuenta'
-muestra_ventana 7
+muestra_ventana cuenta
 espera_sin_titulo
 escribe '1301x' # no account continues so: the letter is taken back
 exige_campo '1301'
 captura cuentas
-teclea Tab Tab
+salta buscar lista
 escribe 'Bancos'
-teclea Tab space Tab Tab End
+salta filtro
+teclea space
+salta lupa buscar
+teclea End
 captura cuentas-filtradas
 teclea alt+a
 espera_cierre
 
 paso 'Se busca una persona'
-muestra_ventana 3
+muestra_ventana persona
 espera_sin_titulo
-teclea Tab Tab
+salta buscar lista
 escribe 'Mar'
-teclea Tab space # the lens
+salta filtro
+teclea space # the lens
 exige_traza "SELECT * FROM spssujetos('Mar');"
-teclea Tab Tab End # the last row of the list
+salta lupa buscar
+teclea End # the last row of the list
 captura personas
 teclea alt+a
 espera_cierre
 
 paso 'Se busca un socio'
-muestra_ventana 4
+muestra_ventana socio
 espera_sin_titulo
-teclea Tab Tab
+salta buscar lista
 escribe 'Quimera'
-teclea Tab space
+salta filtro
+teclea space
 exige_traza "SELECT * FROM spssociocajaf('Quimera');"
-teclea Tab Tab End
+salta lupa buscar
+teclea End
 captura socios
 teclea alt+a
 espera_cierre
 
 paso 'Una fecha se escribe y se cambia en el calendario'
-muestra_ventana 5
+muestra_ventana fecha
 espera_ventana 'Fecha'
-teclea Tab
+salta cerrar
 escribe '31x/1/2026' # the letter is refused
 exige_campo '31/1/2026'
-teclea Tab space
+salta fecha
+teclea space
 espera_sin_titulo
 captura calendario
-teclea Tab Tab space # the second day
-captura calendario-otro-dia
-teclea alt+a
+pon_dia 2 calendario-otro-dia
 espera_ventana 'Fecha'
-teclea shift+Tab
+vuelve calendario
 exige_campo '02/01/2026'
 captura fecha-elegida
 teclea alt+c
 
 paso 'Un tipo de depreciación se agrega, se modifica y se borra'
-muestra_ventana 8
+muestra_ventana depreciacion
 espera_ventana 'Depreciaciones'
 nuevo '' 'Herramienta' 12.5 10 5000
-teclea Down Tab Tab
+opta 1
 llena 90
 pon_cuentas 4
 captura depreciacion-nueva
@@ -132,33 +138,35 @@ espera_ventana 'Depreciaciones'
 teclea alt+c
 
 paso 'Un activo se agrega por sus tres páginas'
-muestra_ventana 9
+muestra_ventana activo
 espera_ventana 'Activo'
 captura activos
-pulsa 500 274 # the code
+pulsa activo-clave
 llena 'QZ-1' 'Torno de prueba'
-teclea Down Tab Tab
+opta 1
 llena 1000 50 900 'Bodega' 'S-77' 1200
-teclea Down Tab Tab Down
+opta 1
+baja 1
 captura activo-generales
-pulsa 479 250 # the second page, and its first field
-pulsa 560 274
+pulsa activo-contable
+pulsa activo-fecha-contable
 llena '1/2/2026'
 teclea space
 espera_sin_titulo
-teclea Tab Tab space # the second day
-teclea alt+a
+pon_dia 2
 espera_ventana 'Activo'
-teclea Tab
+salta calendario
 llena 10 20
-teclea Down
+baja 1
 captura activo-contable
-pulsa 605 250 # the third
-pulsa 560 274
+pulsa activo-fiscal
+pulsa activo-fecha-fiscal
 llena '3/2/2026'
-teclea Tab space Tab
+salta calendario
+teclea space
+salta deduccion
 llena 10 20
-teclea Down Tab Tab
+opta 1
 escribe 500
 captura activo-fiscal
 confirma alt+a 'Activo' activo-registrar
@@ -167,9 +175,9 @@ exige_dato "SELECT activodescripcion, feciniciodepconta, actdeduccioninme FROM a
 
 paso 'Se modifica y se borra'
 espera_ventana 'Activo'
-pulsa 376 250 # the first page
+pulsa activo-generales
 elige_ultimo
-pulsa 500 274
+pulsa activo-clave
 exige_campo 'QZ-1'
 llena 'QZ-2'
 confirma alt+a 'Activo' activo-guardar
@@ -181,16 +189,16 @@ espera_ventana 'Activo'
 teclea alt+c
 
 paso 'Una ciudad se agrega y se borra'
-muestra_ventana 13
+muestra_ventana ciudad
 espera_ventana 'Ciudad'
 nuevo '' QZ 'Zona de la Peña'
-teclea Down # the first state
+baja 1 # the first state
 captura ciudad-nueva
 confirma alt+a 'Ciudadades' ciudad-registrar
 exige_dato "SELECT estadomexid FROM ciudadesmex WHERE nombreciudadmex = 'Zona de la Peña'" 1
 espera_ventana 'Ciudad'
 elige_ultimo # &Buscar takes two figures
-teclea Tab
+salta clave
 exige_campo 'Zona de la Peña'
 confirma alt+r 'Ciudadades' ciudad-borrar
 exige_dato "SELECT count(*) FROM ciudadesmex WHERE nombreciudadmex = 'Zona de la Peña'" 0
@@ -198,14 +206,14 @@ espera_ventana 'Ciudad'
 teclea alt+c
 
 paso 'Un estado se agrega y se borra'
-muestra_ventana 12
+muestra_ventana estado
 espera_ventana 'Estados'
 nuevo '' QZ 'Tierra de la Peña'
 confirma alt+a 'EstadoMex' estado-registrar
 exige_dato "SELECT nombreestadomex FROM estadosmex WHERE claveestadomex = 'QZ'" 'Tierra de la Peña'
 espera_ventana 'Estados'
 elige_ultimo
-teclea Tab
+salta clave
 exige_campo 'Tierra de la Peña'
 captura estado-elegido
 confirma alt+r 'EstadoMex' estado-borrar
@@ -214,7 +222,7 @@ espera_ventana 'Estados'
 teclea alt+c
 
 paso 'Un bien se agrega con su persona'
-muestra_ventana 14
+muestra_ventana bien
 espera_ventana 'Bien'
 llena 'Adriana Supuesto' 'Terreno de la Peña' 'Baldo' 'Libro 3' 'Ninguna' 90000 80000 70000 50
 captura bien
@@ -228,7 +236,7 @@ cierra_reporte() {
 
 paso 'Se corre el pre-cierre del mes pasado y se exporta'
 dia=$(date -d "$(date +%Y-%m-01) -1 day" +%d/%m/%Y)
-muestra_ventana 10
+muestra_ventana precierre
 espera_ventana 'Pre-Cierre'
 escribe "$dia"
 captura precierre
@@ -240,7 +248,8 @@ espera 'no aparece el resultado' es_otra 'Pre-Corte' "$ventana"
 exige_traza "select * from precierre('$dia');"
 responde 'Pre-Corte' Return precierre-resultado
 espera_ventana 'Pre-Cierre'
-teclea Tab space # &Consulta, whose key is that of &Cerrar too
+salta ejecutar
+teclea space # &Consulta, whose key is that of &Cerrar too
 espera_ventana 'Reporte'
 exige_traza 'Termina generacion correctamente'
 captura precierre-exportado
@@ -249,16 +258,20 @@ cierra_reporte 'Pre-Cierre'
 teclea Escape
 
 paso 'Se pide el reporte de personas, de la sucursal y consolidado, y se imprime'
-muestra_ventana 11
+muestra_ventana reporte-de-personas
 espera_ventana 'Busqueda Sujeto'
 escribe 'Mar'
 captura reporte-personas
-teclea Tab Tab Tab Tab Tab Tab space # &Consulta
+salta paterno materno nombre otros consolidado imprimir
+teclea space # &Consulta
 espera_ventana 'Reporte'
 exige_traza "SELECT * FROM spssujeto('Mar','','','');"
 captura reporte-personas-visto
 cierra_reporte 'Busqueda Sujeto'
-teclea shift+Tab shift+Tab space Tab Tab space # CONSOLIDADO, &Consulta
+vuelve consulta imprimir
+teclea space # CONSOLIDADO
+salta consolidado imprimir
+teclea space # &Consulta
 espera_ventana 'Reporte'
 exige_traza "SELECT * FROM spssujetoc('Mar','','','');"
 captura reporte-personas-consolidado

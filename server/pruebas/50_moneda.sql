@@ -16,7 +16,7 @@ SELECT is(como(usuario, 'norte', sentencia), esperado, usuario || ': ' || senten
     ('braulio', $$SELECT count(*) FROM spsmoneda('  ')$$, '11'),
     ('braulio', $$SELECT count(*) FROM spsmoneda('')$$, '11'),
     ('braulio', $$SELECT count(*) FROM spsmoneda(NULL)$$, '11'),
-    ('braulio', $$SELECT string_agg(rtrim(monedaid), ' ') FROM spsmoneda('  ')$$, 'CA CH CO EU GB GT JP MX UD US X'),
+    ('braulio', $$SELECT string_agg(rtrim(monedaid), ' ') FROM spsmoneda('  ')$$, 'CA US X EU CH GB CO MX GT UD JP'),
     ('braulio', $$SELECT spimoneda('','Sin clave',1)$$, 'Falta la clave'),
     ('braulio', $$SELECT spimoneda(NULL,NULL,NULL)$$, 'Falta la clave'),
     ('braulio', $$SELECT spimoneda('ABC','Larga',1)$$, 'No cabe la clave: tiene 3 caracteres y admite 2'),

@@ -172,8 +172,10 @@ order by p.diasvencidos,s.clavesocioint $$ AS exporta \gset
 UPDATE norte.prestamos SET condicionid = prestamoid % 4 WHERE fecha_otorga = '2024-01-01';
 INSERT INTO norte.movimiento (socioid, tipomovimientoid, prestamoid, fecha, importe)
 VALUES (1, 'GL', :atrasado, '2024-03-15', 500), (1, 'GL', :atrasado, '2024-03-16', 70);
-SELECT is(como('camila', 'norte', format('SELECT count(*) FROM (%s) AS e', :'exporta')), '5',
-          'el estado de cuenta lo lee cualquiera de la sucursal');
+SELECT is(como('hilda', 'norte', format('SELECT count(*) FROM (%s) AS e', :'exporta')), '5',
+          'el estado de cuenta lo lee quien cierra');
+SELECT is(como('camila', 'norte', format('SELECT count(*) FROM (%s) AS e', :'exporta')),
+          'No tiene permiso para leer estos datos (módulo 0910)', 'y nadie más');
 SET LOCAL search_path TO tap, public, norte;
 SELECT bag_eq(:'exporta', 'SELECT * FROM norte.precorte_detalle WHERE ejercicio = 2024 AND periodo = 3',
               'el consolidado dice de la sucursal lo mismo que la consulta del cliente');

@@ -92,7 +92,7 @@ BEGIN ATOMIC
          t.porcomision, t.porivacomision, t.cuentacomision, t.cuentaivacomision, t.desglosaiva::integer
     FROM tipomovimiento t
    WHERE coalesce(btrim(clave), '') = '' OR t.tipomovimientoid = clave::bpchar
-   ORDER BY t.tipomovimientoid;
+   ORDER BY t.desctipomovimiento COLLATE "es-MX-x-icu", t.tipomovimientoid;
 END;
 
 CREATE FUNCTION inserta_tipomovimiento(fila tipomovimiento) RETURNS void

@@ -88,7 +88,7 @@ BEGIN ATOMIC
          t.montomin, t.plazomax
     FROM tipoinversion t
    WHERE coalesce(btrim(clave), '') = '' OR t.tipoinversionid = clave::bpchar
-   ORDER BY t.tipoinversionid;
+   ORDER BY t.desctipoinversion COLLATE "es-MX-x-icu", t.tipoinversionid;
 END;
 
 CREATE FUNCTION inserta_tipoinversion(fila tipoinversion) RETURNS void

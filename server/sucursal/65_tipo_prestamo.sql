@@ -202,7 +202,7 @@ BEGIN ATOMIC
          t.clasificacioncontable
     FROM tipoprestamo t
    WHERE coalesce(btrim(clave), '') = '' OR t.tipoprestamoid = clave::bpchar
-   ORDER BY t.tipoprestamoid;
+   ORDER BY t.desctipoprestamo COLLATE "es-MX-x-icu", t.tipoprestamoid;
 END;
 
 CREATE FUNCTION inserta_tipoprestamo(fila tipoprestamo) RETURNS void

@@ -52,7 +52,7 @@ BEGIN ATOMIC
          b.nocheque
     FROM banco b
    WHERE coalesce(btrim(clave), '') = '' OR b.no_cuenta = clave::bpchar
-   ORDER BY b.no_cuenta;
+   ORDER BY b.banco COLLATE "es-MX-x-icu", b.no_cuenta;
 END;
 
 CREATE FUNCTION inserta_banco(fila banco) RETURNS void

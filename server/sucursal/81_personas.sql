@@ -82,7 +82,8 @@ LANGUAGE sql STABLE SECURITY DEFINER SET search_path FROM CURRENT
 BEGIN ATOMIC
   SELECT s.sujetoid, s.paterno, s.materno, s.nombre, s.rfc, s.curp, s.edad, s.fechanacimiento, s.razonsocial
     FROM sujeto s
-   WHERE sin_acentos(concat_ws(' ', s.nombre, s.paterno, s.materno, s.rfc, s.razonsocial))
+   WHERE (SELECT puede_leer('0206', '0442', '0907'))
+     AND sin_acentos(concat_ws(' ', s.nombre, s.paterno, s.materno, s.rfc, s.razonsocial))
          LIKE ALL ((SELECT patrones(filtro))::text[])
    ORDER BY s.paterno, s.materno, s.nombre, s.sujetoid;
 END;
@@ -239,6 +240,10 @@ BEGIN
   END IF;
 END $$;
 
+ALTER TABLE sujeto ENABLE ROW LEVEL SECURITY;
+CREATE POLICY lectura ON sujeto FOR SELECT TO :"grupo" USING ((SELECT puede_leer('0206', '0442', '0907', '0910')));
+ALTER TABLE domicilio ENABLE ROW LEVEL SECURITY;
+CREATE POLICY lectura ON domicilio FOR SELECT TO :"grupo" USING ((SELECT puede_leer('0206', '0442', '0907', '0910')));
 GRANT SELECT ON sujeto, domicilio TO :"grupo";
 GRANT EXECUTE ON FUNCTION spssujeto(bigint), spssujetos, spisujeto, spusujeto, spsujeto, spsdomicilio,
   spsdomiciliosujeto, spidomicilio, spudomicilio, spdomicilio TO :"grupo";

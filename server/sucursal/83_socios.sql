@@ -16,10 +16,11 @@ CREATE INDEX ON socio (fechaalta);
 CREATE TRIGGER bitacora AFTER INSERT OR UPDATE OR DELETE ON socio
   FOR EACH ROW EXECUTE FUNCTION anota_bitacora('socioid');
 
+-- The names of members, which is all of a person that is told without a module.
 CREATE FUNCTION spssociocaja()
 RETURNS TABLE (socioid bigint, clavesocioint varchar(15), paterno varchar(20), materno varchar(20),
                nombre varchar(50), estatus varchar(32))
-LANGUAGE sql STABLE
+LANGUAGE sql STABLE SECURITY DEFINER SET search_path FROM CURRENT
 BEGIN ATOMIC
   SELECT s.socioid, s.clavesocioint, p.paterno, p.materno, p.nombre, s.estatus
     FROM socio s JOIN sujeto p USING (sujetoid)

@@ -108,5 +108,7 @@ EXCEPTION WHEN foreign_key_violation THEN
   PERFORM rechaza_uso('bienes', id::text, 'el bien ' || id);
 END $$;
 
+ALTER TABLE bienes ENABLE ROW LEVEL SECURITY;
+CREATE POLICY lectura ON bienes FOR SELECT TO :"grupo" USING ((SELECT puede_leer('0206', '0442', '0907')));
 GRANT SELECT ON bienes TO :"grupo";
 GRANT EXECUTE ON FUNCTION spsbienes, spibienes, spubienes, spdbienes TO :"grupo";

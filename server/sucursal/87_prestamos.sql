@@ -82,5 +82,7 @@ BEGIN ATOMIC
      AND m.fecha <= coalesce(fecha(dia), 'infinity');
 END;
 
+ALTER TABLE prestamos ENABLE ROW LEVEL SECURITY;
+CREATE POLICY lectura ON prestamos FOR SELECT TO :"grupo" USING ((SELECT puede_leer('0910')));
 GRANT SELECT ON prestamos TO :"grupo";
 GRANT EXECUTE ON FUNCTION saldodemovr TO :"grupo";

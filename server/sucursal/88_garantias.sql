@@ -117,5 +117,7 @@ BEGIN
   END IF;
 END $$;
 
+ALTER TABLE garantia ENABLE ROW LEVEL SECURITY;
+CREATE POLICY lectura ON garantia FOR SELECT TO :"grupo" USING ((SELECT puede_leer('0907')));
 GRANT SELECT ON garantia TO :"grupo";
 GRANT EXECUTE ON FUNCTION spsgarantiap, spsgarantias, spigarantia, spugarantia, spdgarantia TO :"grupo";

@@ -288,6 +288,8 @@ BEGIN
     USING anio, mes;
 END $$;
 
+ALTER TABLE precorte ENABLE ROW LEVEL SECURITY;
+CREATE POLICY lectura ON precorte FOR SELECT TO :"grupo" USING ((SELECT puede_leer('0910')));
 GRANT SELECT ON precorte TO :"grupo";
 GRANT EXECUTE ON FUNCTION precierre, precorteconsolidado TO :"grupo";
 

@@ -1,6 +1,6 @@
 // What the form of the types of loan saves and reads, field by field, and what it does when something is
 // missing, dead, gone, out of range or cut off.
-#include "framework/Busqueda_Window.h"
+#include "catalogs/finance/Busqueda_Window.h"
 #include "tests/catalogs/PrestamoDePrueba.h"
 #include "tests/support/Maltrato.h"
 #include "tests/support/Pantalla.h"
@@ -521,7 +521,7 @@ TEST_F(TipoPrestamoGuardadoTest, UnaLineaCortadaAlGuardarNoDejaNadaAMediasYSeSig
         for (const std::string& dicho : dichos) EXPECT_NE(dicho, "");
         espia_.Vacia();
 
-        Conecta();
+        Reconecta();
         const bool escrito = n > commit || (despues && n == commit);
         Valores esperado = alta;
         if (cambio && escrito) {

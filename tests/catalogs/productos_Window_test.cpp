@@ -2,8 +2,8 @@
 // each field feeds, what each command sends to the server, and what becomes of it when something is missing,
 // gone or cut off.
 #include "app/sesion.h"
-#include "framework/Busqueda_Window.h"
-#include "framework/Iconos.h"
+#include "catalogs/finance/Busqueda_Window.h"
+#include "icons/Icono.h"
 #include "icons/iconos.h"
 #include "tests/catalogs/FormaProducto.h"
 #include "tests/support/Cortes.h"
@@ -15,11 +15,6 @@ namespace {
 
 constexpr FXuint Limitado = TEXTFIELD_LIMITED;
 const std::string Acumulativa = Cuenta("1000");  // an account of the demonstration that adds up
-
-Textos operator+(Textos unas, const Textos& otras) {
-  unas.insert(unas.end(), otras.begin(), otras.end());
-  return unas;
-}
 
 class FormasProductos : public ConForma, public testing::WithParamInterface<FormaProducto (*)()> {
  protected:
@@ -176,9 +171,8 @@ TEST_P(FormasProductos, RegistraBuscaCambiaYBorra) {
   Llena(otra);
   EXPECT_EQ(Acepta(), Textos{"Guardar cambios realizados ?"});
   EXPECT_EQ(Enviado(), Guardado(producto.cambio[0], otra));
-  EXPECT_EQ(RenglonActual(), otra.at(ColumnaDescripcion()));
   EXPECT_EQ(EnElServidor(Clave()), otra);
-  EligeRenglon(Lista(forma_), Lista(forma_)->getCurrentItem());
+  EligeRenglon(Lista(forma_), Lista(forma_)->findItem(otra.at(ColumnaDescripcion()).c_str()));
   EXPECT_EQ(Pantalla(), Vistos(otra));
   EXPECT_EQ(tabla.banderas(), std::pair(false, false));
 

@@ -9,6 +9,7 @@
 
 #include "tests/support/Guion.h"
 #include "tests/support/Pantalla.h"
+#include "tests/support/Textos.h"
 
 namespace pruebas {
 namespace {
@@ -47,12 +48,6 @@ Textos EnLineas(const std::string& texto) {
 
 std::string SinSaltos(std::string texto) {
   texto.erase(std::remove(texto.begin(), texto.end(), '\n'), texto.end());
-  return texto;
-}
-
-std::string Repetida(const std::string& letra, size_t veces) {
-  std::string texto;
-  while (veces-- > 0) texto += letra;
   return texto;
 }
 
@@ -107,6 +102,20 @@ TEST_F(CajasTest, ElTituloTampocoEsUnFormato) {
 
 TEST_F(CajasTest, UnTextoVacioDiceQueNoHayConexion) {
   EXPECT_EQ(Visto(""), "No hay conexión con el servidor.");
+}
+
+TEST_F(CajasTest, LaSentenciaSenaladaNoSeMuestra) {
+  const struct {
+    std::string texto, visto;
+  } tabla[] = {
+      {"ERROR:  no\nLINE 1: select no();\n               ^\nHINT:  si\n", "ERROR:  no\nHINT:  si\n"},
+      {"ERROR:  no\nLÍNEA 12: select no();\n ^\n", "ERROR:  no\n"},
+      {"ERROR:  no\nSUGERENCIA:  2 ^ 3\n", "ERROR:  no\nSUGERENCIA:  2 ^ 3\n"},
+      {"ERROR:  no\notra\n  ^\n", "ERROR:  no\notra\n  ^\n"},
+      {"LINE 1: x\n ^", "LINE 1: x\n ^"},
+      {"^", "^"},
+  };
+  for (const auto& [texto, visto] : tabla) EXPECT_EQ(Visto(texto), visto);
 }
 
 TEST_F(CajasTest, UnaLineaLargaSeParteTrasUnBlanco) {

@@ -23,6 +23,11 @@ SELECT is((SELECT string_agg(rolname || ' ' || rolconnlimit, ' ' ORDER BY rolnam
             WHERE rolname IN ('adriana', 'camila', 'dario')), 'adriana 13 camila 13 dario 7',
           'siguen a la institución, y valen las de la sucursal que permite más');
 
+-- Memory: a session has its bound, so that the system need not kill the server for want of any.
+SELECT matches(como('camila', 'norte', $$SELECT length(string_agg(x, '')) + length(string_agg(x, ','))
+                                           FROM (SELECT repeat('y', 100000000) FROM generate_series(1, 9)) AS t (x)$$),
+               'out of memory', 'la memoria de una sesión tiene fin');
+
 -- The right to write follows the permission: in whatever way the row comes, goes or changes.
 CREATE FUNCTION pg_temp.puede(login text) RETURNS text LANGUAGE sql AS $$
   SELECT concat(CASE WHEN has_table_privilege(login, 'norte.inabil', 'INSERT') THEN 'i' END,

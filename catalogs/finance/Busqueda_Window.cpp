@@ -1,4 +1,4 @@
-#include "framework/Busqueda_Window.h"
+#include "catalogs/finance/Busqueda_Window.h"
 
 #include "framework/Filas.h"
 

@@ -1,13 +1,14 @@
 // The search for an account: what the list shows, what each key does, and the round trip of an account
 // through the dialog.
-#include "framework/Busqueda_Window.h"
+#include "catalogs/finance/Busqueda_Window.h"
 
 #include <fxkeys.h>
 
 #include <functional>
 #include <memory>
 
-#include "tests/framework/Cuentas.h"
+#include "app/sesion.h"
+#include "tests/catalogs/Cuentas.h"
 #include "tests/support/Espia.h"
 #include "tests/support/Guion.h"
 #include "tests/support/Sesion.h"

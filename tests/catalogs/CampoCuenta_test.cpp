@@ -1,14 +1,14 @@
 // The account field, on a dialog with three accounts of which one has a dead search button: what its combo
 // box offers, what a choice and a search store, and what the form's commands make of it.
-#include "framework/CampoCuenta.h"
+#include "catalogs/finance/CampoCuenta.h"
 
 #include <functional>
 #include <memory>
 
-#include "framework/Busqueda_Window.h"
+#include "catalogs/finance/Busqueda_Window.h"
 #include "framework/Forma.h"
 #include "framework/Registro.h"
-#include "tests/framework/Cuentas.h"
+#include "tests/catalogs/Cuentas.h"
 #include "tests/support/Guion.h"
 #include "tests/support/Maltrato.h"
 #include "tests/support/Sesion.h"
@@ -51,10 +51,10 @@ class cFicha : public Registro<cFicha> {
 cFicha ficha;
 std::map<int, cFicha> fichas;
 
-#define CUENTAS_FICHA(CUENTA)                                         \
-  CUENTA("Cta. Deposito:", CuentaDeposito, onCmdCuentaDeposito, true) \
-  CUENTA("Cta. Retiro:", CuentaRetiro, onCmdCuentaRetiro, false)      \
-  CUENTA("Cuenta ISR:", CuentaISR, onCmdImpuesto, true)
+#define CUENTAS_FICHA(CUENTA)                                             \
+  CUENTA("Cta. Deposito:", CuentaDeposito, onCmdCuentaDeposito)           \
+  CUENTA("Cta. Retiro:", CuentaRetiro, onCmdCuentaRetiro, BusquedaMuerta) \
+  CUENTA("Cuenta ISR:", CuentaISR, onCmdImpuesto)
 
 class Ficha_Window : public Forma<Ficha_Window, FXDialogBox, SinBuscar> {
   FXDECLARE(Ficha_Window)

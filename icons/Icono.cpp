@@ -1,4 +1,4 @@
-#include "framework/Iconos.h"
+#include "icons/Icono.h"
 
 #include <map>
 

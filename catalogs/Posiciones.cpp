@@ -1,6 +1,6 @@
-#include "framework/CampoFila.h"
+#include "catalogs/Posiciones.h"
 
-#include "framework/CampoCuenta.h"
+#include "catalogs/finance/CampoCuenta.h"
 #include "framework/Filas.h"
 #include "widgets/TextoAcotado.h"
 

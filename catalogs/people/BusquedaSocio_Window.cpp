@@ -1,4 +1,4 @@
-#include "framework/BusquedaSocio_Window.h"
+#include "catalogs/people/BusquedaSocio_Window.h"
 
 #include "app/sesion.h"
 #include "widgets/rtrim.h"

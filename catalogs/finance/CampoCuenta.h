@@ -4,9 +4,9 @@
 // the value is empty or unknown, and nothing reads it but the handler of a choice in it.
 //
 // A form declares its accounts once, in a table that names for each its label, its field of the record, the
-// handler of its combo box, and whether its search button works:
+// handler of its combo box, and, where its search button is dead, BusquedaMuerta:
 //
-//   #define CUENTAS_BANCO(CUENTA) CUENTA("Cta. Contable:", CuentaID, onCmdCuenta, true)
+//   #define CUENTAS_BANCO(CUENTA) CUENTA("Cta. Contable:", CuentaID, onCmdCuenta)
 //
 // and lets all else follow from it, its numbers, which are named as the fields, its handlers, its fields:
 //
@@ -29,12 +29,12 @@
 #include <vector>
 
 // clang-format off
-#define CUENTA_NUMERO(etiqueta, campo, manejador, busca) campo,
-#define CUENTA_MANEJADOR(etiqueta, campo, manejador, busca) \
+#define CUENTA_NUMERO(etiqueta, campo, manejador, ...) campo,
+#define CUENTA_MANEJADOR(etiqueta, campo, manejador, ...) \
   long manejador(FXObject*, FXSelector, void*) { return cuentas.Elige(campo); }
-#define CUENTA_LIGA(etiqueta, campo, manejador, busca) \
+#define CUENTA_LIGA(etiqueta, campo, manejador, ...) \
   , Liga(cuentas[campo], &cRegistro::get##campo, &cRegistro::set##campo)
-#define CUENTA_FILA(etiqueta, campo, manejador, busca) {etiqueta, busca},
+#define CUENTA_FILA(etiqueta, campo, manejador, ...) {etiqueta __VA_OPT__(,) __VA_ARGS__},
 
 /// Entries of a map: a choice in the combo box of an account, and the search buttons of the accounts from
 /// `primera` to `ultima`.
@@ -45,14 +45,18 @@
              Clase::manejador)
 // clang-format on
 
+/// Marks an account of a table whose search button does nothing.
+constexpr bool BusquedaMuerta = true;
+
 extern char sCuenta[55];  // an item of the combo boxes
 
 /// The value of an account, as Forma knows a field.
 class DatoCuenta {
  public:
-  /// Stores a value and shows its account. Null, which is what `Pon({})` passes, empties the field and leaves
-  /// the combo box without a current item.
+  /// Stores a value and shows its account.
   void Pon(const char* nuevo);
+  /// No account, and none current in the combo box.
+  void Vacia();
   const FXString& Valor() const { return valor; }
 
  private:
@@ -68,7 +72,7 @@ class Cuentas {
  public:
   struct Fila {
     const char* etiqueta;
-    bool busca;  // does the search button work
+    bool muerta = false;  // does its search button come to nothing
   };
 
   /// Combo box n sends `forma` the message `idCombo` + n, its search button `idBusca` + n.

@@ -1,13 +1,18 @@
-#include "framework/CampoCuenta.h"
+#include "catalogs/finance/CampoCuenta.h"
 
-#include "framework/Busqueda_Window.h"
+#include "catalogs/finance/Busqueda_Window.h"
 
 char sCuenta[55];
 
 void DatoCuenta::Pon(const char* nuevo) {
   valor = nuevo;
-  const int posicion = nuevo != nullptr ? FindCuenta(nuevo) : -1;
+  const int posicion = FindCuenta(nuevo);
   combo->setCurrentItem(posicion < combo->getNumItems() ? posicion : -1);
+}
+
+void DatoCuenta::Vacia() {
+  valor.clear();
+  combo->setCurrentItem(-1);
 }
 
 Cuentas::Cuentas(FXWindow* forma, FXSelector idCombo, FXSelector idBusca, const std::vector<Fila>& tabla)
@@ -49,6 +54,6 @@ long Cuentas::Elige(int cual) {
 }
 
 long Cuentas::Busca(int cual) {
-  if (tabla[cual].busca) datos[cual].Pon(EligeCuenta(forma, datos[cual].valor));
+  if (!tabla[cual].muerta) datos[cual].Pon(EligeCuenta(forma, datos[cual].valor));
   return 1;
 }

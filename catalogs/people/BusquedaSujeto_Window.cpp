@@ -1,4 +1,4 @@
-#include "framework/BusquedaSujeto_Window.h"
+#include "catalogs/people/BusquedaSujeto_Window.h"
 
 #include "app/sesion.h"
 
