@@ -348,6 +348,10 @@ TEST_F(CajaConServidorTest, CreceHastaQueCabeLaFormaMasAncha) {
 TEST_F(CajaConServidorTest, ConLetraGrandeUnaFormaCreceLoQueLeFalta) {
   const Sesion sesion(*base_);
   IsConectado = true;
+  FXFont* const comun = App().getNormalFont();
+  FXFont grande(&App(), "arial", 180);
+  grande.create();
+  App().setNormalFont(&grande);  // as a screen of that resolution shows the common one
   for (const FXuint resolucion : {100u, 144u}) {
     App().reg().writeUnsignedEntry(Seccion, "screenres", resolucion);
     Escoge("&Tipo de Movimientos");
@@ -356,6 +360,7 @@ TEST_F(CajaConServidorTest, ConLetraGrandeUnaFormaCreceLoQueLeFalta) {
     EXPECT_EQ(formas[0]->getWidth() == 830, resolucion == 100) << formas[0]->getWidth();
     delete formas[0];
   }
+  App().setNormalFont(comun);
 }
 
 /// The main window as the program makes it, its first login closed.
