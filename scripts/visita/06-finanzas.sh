@@ -170,11 +170,11 @@ baja 1 # in force
 captura promocion-nueva
 confirma alt+a 'TipoPromocion' promocion-registrar
 exige_dato "SELECT tipomovimientoid, fechainicial, fechafinal, condicion, estatus FROM tipopromocion
-             WHERE descripcion = 'Otoño'" 'AH|2031-10-01|2031-11-02|Una sombrilla al señor que ahorre|0'
+             WHERE descripcion = 'Otoño'" 'MN|2031-10-01|2031-11-02|Una sombrilla al señor que ahorre|0'
 
 paso 'Se elige en la lista y se modifica'
 elige_ultimo
-salta movimiento flecha
+salta movimiento
 exige_campo 'Otoño'
 captura promocion-elegida
 llena 'Otoño lluvioso'

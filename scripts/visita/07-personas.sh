@@ -33,7 +33,7 @@ responde 'Error en Validación' Return usuario-rechazado
 paso 'Se escribe una usuaria nueva, y la fecha de nacimiento trae su RFC'
 nuevo "$nueva"
 opta 3 # Consulta, whose users begin with no right at all
-salta jefe flecha
+salta jefe
 llena "$nueva@ensueno.example" caja 'De prueba'
 pulsa usuario-apellido
 llena 'Peña' 'Acuña' 'Ximena'
@@ -59,9 +59,9 @@ pulsa usuario-codigo
 llena 44720
 teclea space
 exige_traza 'EstadoMexID 14'
-salta estado flecha municipio flecha colonia
+salta estado municipio colonia
 baja 1 # the first neighbourhood
-salta colonia flecha
+salta colonia
 llena 'Calle del Sol' 12 B 'La Peña' '33 1234 5678'
 pulsa usuario-domicilio
 captura usuario-domicilio

@@ -178,7 +178,7 @@ vuelve() { teclea ${@/*/shift+Tab}; }
 # The item at place $1 of the combo box with the keyboard, counted from 1; the keyboard is then behind it.
 opta() {
   baja "$1"
-  salta lista flecha
+  salta lista
 }
 
 # The day $1 in the calendar that has just opened, with the picture $2 if that is told, and &Aceptar.
