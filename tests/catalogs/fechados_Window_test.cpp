@@ -1047,6 +1047,11 @@ TEST_F(BancoVentana, LaLupaParteDeSuCuentaYDejaLaHallada) {
             "1102-02-00-00-0000      ");
 }
 
+TEST_F(BancoVentana, FindCuentaDiceElLugarEnLaLista) {
+  EXPECT_EQ(Banco_Window::FindCuenta(std::next(Catalogo::Catalogo_Ctas.begin())->second.getCuentaID()), 1);
+  EXPECT_EQ(Banco_Window::FindCuenta("??"), 0);
+}
+
 TEST_F(BancoVentana, UnaCuentaVaciaMuestraLaPrimeraYNoLaToma) {
   espia_.Cuando("spsbanco('  ')", [](PGconn* conexion, const char*) {
     return __real_PQexec(conexion, "select '1', '', 'Banco', null, 0, 0, 0, 'A', 1");
