@@ -40,8 +40,8 @@ class Variable {
   bool habia_;
 };
 
-/// The certificates of two servers, of which the test's own has the first. Both are good for its address
-/// alone.
+/// The certificates of two servers, of which the test's own has the first. Both name its
+/// address, and not localhost.
 class Cifrado : public testing::Test {
  protected:
   static void SetUpTestSuite() {
