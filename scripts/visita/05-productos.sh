@@ -95,22 +95,21 @@ teclea alt+c
 paso 'Un tipo de préstamo con solo la clave se rechaza'
 elige tipo-de-prestamos
 exige_traza 'terminando creacion frm tipoprestamo'
-pulsa prestamo-clave
 escribe QZ
 teclea alt+a
 responde 'Error en Validación' Return prestamo-rechazado
 
 paso 'Se ven las páginas de uno, y se modifica'
 teclea alt+n
-pulsa prestamo-clave
 escribe ORD
-pulsa prestamo-buscar
+teclea alt+b
+exige_campo ORD
 captura prestamo-generales
 for pagina in parametros activo pasivo resultados orden generales; do
-  pulsa "prestamo-$pagina"
+  hojea
   captura "prestamo-$pagina"
 done
-pulsa prestamo-descripcion
+salta clave
 llena 'Ordinario de otoño'
 confirma alt+a 'Tipo de Prestamo' prestamo-guardar
 exige_dato "SELECT desctipoprestamo FROM tipoprestamo WHERE tipoprestamoid = 'ORD'" 'Ordinario de otoño'
