@@ -42,7 +42,7 @@ void Tasa_Window::ArmaTabla(const char* titulo, std::initializer_list<Columna> c
   tabla->setVisibleColumns(1);
   FXint numero = 0;
   for (const auto& [texto, ancho] : columnas) {
-    constexpr FXint orillas = 10;
+    constexpr FXint orillas = 4;
     tabla->setColumnText(numero, texto);
     tabla->setColumnWidth(numero++, std::max(ancho, tabla->getFont()->getTextWidth(texto) + orillas));
   }
