@@ -70,16 +70,7 @@ class Navegador {
   const std::filesystem::path abridor_;
 };
 
-/// One for all, and ahead of the windows.
-struct ConAdministrador {
-  static Escritorio& Unico() {
-    static Escritorio unico;
-    return unico;
-  }
-  Escritorio& escritorio_ = Unico();
-};
-
-class AyudaTest : public ConAdministrador, public ConCaja {
+class AyudaTest : public ConEscritorio, public ConCaja {
  protected:
   void SetUp() override {
     ConCaja::SetUp();
