@@ -3,6 +3,20 @@
 #include <X11/Xlib.h>
 #include <X11/keysym.h>
 
+#include <cstdlib>
+#include <cstring>
+#include <iostream>
+
+void Aplicacion::init(int& argc, char** argv, bool connect) {
+  const char* pantalla = nullptr;  // the toolkit's own option goes before the environment
+  for (int i = 1; i + 1 < argc; ++i)
+    if (strcmp(argv[i], "-display") == 0) pantalla = argv[i + 1];
+  FXApp::init(argc, argv, false);
+  if (!connect || openDisplay(pantalla)) return;
+  std::cerr << "No hay pantalla: abra el programa desde una sesión gráfica." << std::endl;
+  std::exit(1);  // not the one of the toolkit, which ends an event loop
+}
+
 bool Aplicacion::getNextEvent(FXRawEvent& evento, bool espera) {
   if (!FXApp::getNextEvent(evento, espera)) return false;
   if (evento.type != KeyPress && evento.type != KeyRelease) return true;

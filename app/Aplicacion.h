@@ -9,6 +9,9 @@ class Aplicacion : public FXApp {
  public:
   Aplicacion() : FXApp("corvena", "Tolvara"), ayuda(this) {}  // the two names select the file of the settings
 
+  /// Says so and ends with 1 when the screen cannot be opened.
+  void init(int& argc, char** argv, bool connect = true) override;
+
  protected:
   /// Gives the keys of an accent ("´", then "a") to the field with the focus. The toolkit itself composes
   /// them only while the pointer is over that field.

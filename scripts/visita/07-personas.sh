@@ -45,7 +45,7 @@ captura usuario-nacimiento
 pon_dia 5
 espera_ventana "$principal"
 exige_traza "Query==select * from generarfc('Peña','Acuña','Ximena','05/03/1990');"
-captura usuario-rfc
+captura usuario-rfc usuario-generales
 
 paso 'Un código postal que no existe se rechaza'
 pulsa usuario-domicilio
@@ -64,7 +64,7 @@ baja 1 # the first neighbourhood
 salta colonia
 llena 'Calle del Sol' 12 B 'La Peña' '33 1234 5678'
 pulsa usuario-domicilio
-captura usuario-domicilio
+captura usuario-domicilio usuario-domicilio
 
 paso 'Con su serie y su cuenta se agrega'
 pulsa usuario-parametros
@@ -72,7 +72,7 @@ pulsa usuario-serie
 escribe XI
 salta serie
 baja 4 # an account that takes postings
-captura usuario-parametros
+captura usuario-parametros usuario-parametros
 guarda_usuario registrar
 exige_traza "select * from creausuario('$nueva','tolvara_usuarios');"
 exige_dato "SELECT s.nombre, s.paterno, s.fechanacimiento, s.rfc = generarfc.rfc, d.codpostal, c.nombrecolonia
@@ -87,7 +87,7 @@ exige_traza 'Termian permisos'
 pulsa usuario-accesos
 alterna monedas
 alterna movimientos
-captura usuario-accesos
+captura usuario-accesos usuario-accesos
 guarda_usuario permisos
 permisos_de_nueva '0203,0205'
 

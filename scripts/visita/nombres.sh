@@ -52,8 +52,10 @@ declare -A punto=(
   [usuario-domicilio]='455 336' [usuario-codigo]='430 360'
   [usuario-accesos]='545 336' [usuario-monedas]='600 395' [usuario-movimientos]='600 433'
   [usuario-parametros]='642 336' [usuario-serie]='469 360'
-  [activo-clave]='500 274' [activo-generales]='376 250' [activo-contable]='479 250' [activo-fiscal]='605 250'
-  [activo-fecha-contable]='560 274' [activo-fecha-fiscal]='560 274'
 )
 # The same inside the active window.
-declare -A punto_de_ventana=([usuario-login]='337 101' [usuario-buscar]='757 104')
+declare -A punto_de_ventana=(
+  [usuario-login]='337 101' [usuario-buscar]='757 104'
+  [activo-clave]='355 109' [activo-generales]='231 85' [activo-contable]='334 85' [activo-fiscal]='460 85'
+  [activo-fecha-contable]='415 109' [activo-fecha-fiscal]='415 109'
+)
