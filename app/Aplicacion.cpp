@@ -7,14 +7,31 @@
 #include <cstring>
 #include <iostream>
 
+namespace {
+
+/// Ends a program that has not begun.
+void Desiste(const char* texto) {
+  std::cerr << texto << std::endl;
+  std::_Exit(1);
+}
+
+}  // namespace
+
 void Aplicacion::init(int& argc, char** argv, bool connect) {
   const char* pantalla = nullptr;  // the toolkit's own option goes before the environment
   for (int i = 1; i + 1 < argc; ++i)
     if (strcmp(argv[i], "-display") == 0) pantalla = argv[i + 1];
   FXApp::init(argc, argv, false);
-  if (!connect || openDisplay(pantalla)) return;
-  std::cerr << "No hay pantalla: abra el programa desde una sesión gráfica." << std::endl;
-  std::exit(1);  // not the one of the toolkit, which ends an event loop
+  if (connect && !openDisplay(pantalla))
+    Desiste("No hay pantalla: abra el programa desde una sesión gráfica.");
+}
+
+void Aplicacion::create() {
+  try {
+    FXApp::create();
+  } catch (const FXFontException&) {
+    Desiste("No hay letras en este equipo: instale el paquete fonts-liberation.");
+  }
 }
 
 bool Aplicacion::getNextEvent(FXRawEvent& evento, bool espera) {

@@ -11,6 +11,8 @@ class Aplicacion : public FXApp {
 
   /// Says so and ends with 1 when the screen cannot be opened.
   void init(int& argc, char** argv, bool connect = true) override;
+  /// The same when the machine has no letters to write with.
+  void create() override;
 
  protected:
   /// Gives the keys of an accent ("´", then "a") to the field with the focus. The toolkit itself composes
