@@ -15,7 +15,7 @@ exige_dato "SELECT formula FROM calculo WHERE descripcioncalculo = 'Tasa del añ
 espera_ventana 'Formulas de Calculos'
 elige_ultimo
 exige_campo 'Tasa del año'
-captura formula-elegida
+captura formula-elegida formulas
 llena 'Tasa corregida'
 confirma alt+a 'Calculo' formula-guardar
 exige_dato "SELECT formula FROM calculo WHERE descripcioncalculo = 'Tasa corregida'" 'saldo * tasa / 100'
@@ -42,7 +42,7 @@ salta cuentas-de-orden
 pon_cuentas 2
 llena 1 2 16
 pon_cuentas 2
-captura tipo-de-movimiento-nuevo
+captura tipo-de-movimiento-nuevo tipo-de-movimientos
 confirma alt+a 'Tipo de Movimiento' tipo-de-movimiento-registrar
 exige_dato "SELECT desctipomovimiento, tasainteres, rtrim(cuentaivacomision) FROM tipomovimiento
              WHERE tipomovimientoid = 'QZ'" 'Ahorro de prueba|3.500000|1101-01-00-00-0000'
@@ -77,7 +77,7 @@ salta iva
 opta 1
 salta isr
 baja 1 # the classification
-captura tipo-de-inversion-nuevo
+captura tipo-de-inversion-nuevo tipo-de-inversion
 confirma alt+a 'Tipo de Inversión' tipo-de-inversion-registrar
 exige_dato "SELECT desctipoinversion, rtrim(cuentapasivo) FROM tipoinversion WHERE tipoinversionid = 'QZ'" \
   'Plazo de otoño|1101-01-00-00-0000'
@@ -139,10 +139,10 @@ hojea # from the last page to the first
 escribe ORD
 teclea alt+b
 exige_campo ORD
-captura prestamo-generales
+captura prestamo-generales prestamo-generales
 for pagina in parametros activo pasivo resultados orden generales; do
   hojea
-  captura "prestamo-$pagina"
+  captura "prestamo-$pagina" "prestamo-$pagina"
 done
 salta clave
 llena 'Ordinario de otoño'

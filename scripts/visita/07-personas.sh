@@ -48,7 +48,7 @@ captura usuario-nacimiento
 pon_dia 5
 espera_ventana "$principal"
 exige_traza "Query==select * from generarfc('Peña','Acuña','Ximena','05/03/1990');"
-captura usuario-rfc
+captura usuario-rfc usuario-generales
 
 paso 'Un código postal que no existe se rechaza'
 hojea
@@ -66,7 +66,7 @@ baja 1 # the first neighbourhood
 salta colonia
 llena 'Calle del Sol' 12 B 'La Peña'
 escribe '33 1234 5678'
-captura usuario-domicilio
+captura usuario-domicilio usuario-domicilio
 
 paso 'Con su serie y su cuenta se agrega'
 hojea
@@ -74,7 +74,7 @@ hojea
 escribe XI
 salta serie
 baja 4 # an account that takes postings
-captura usuario-parametros
+captura usuario-parametros usuario-parametros
 guarda_usuario registrar
 exige_traza "select * from creausuario('$nueva','tolvara_usuarios');"
 exige_dato "SELECT s.nombre, s.paterno, s.fechanacimiento, s.rfc = generarfc.rfc, d.codpostal, c.nombrecolonia
@@ -91,7 +91,7 @@ va_a_los_accesos
 teclea space
 baja 2 # Movimientos Bancarios
 teclea space
-captura usuario-accesos
+captura usuario-accesos usuario-accesos
 guarda_usuario permisos
 permisos_de_nueva '0203,0205'
 

@@ -28,7 +28,7 @@ paso 'Un asesor se agrega y se borra'
 muestra_ventana asesor
 exige_traza 'terminando creacion frm pais'
 nuevo 97 'Ñico Lagos'
-captura asesores
+captura asesores asesores
 confirma alt+a 'Asesor' asesor-registrar
 exige_dato "SELECT nomasesor FROM asesor WHERE asesorid = 97" 'Ñico Lagos'
 confirma alt+r 'Asesor' asesor-borrar
@@ -38,7 +38,7 @@ teclea alt+c
 paso 'Se ven las clasificaciones de créditos'
 muestra_ventana clasificacion
 exige_traza 'terminando creacion frm clasificacioncredito'
-captura clasificaciones
+captura clasificaciones clasificacion-de-creditos
 teclea alt+c
 
 paso 'Un grupo se agrega y se borra'
@@ -49,7 +49,7 @@ confirma alt+a 'Grupo' grupo-registrar
 exige_dato "SELECT count(*) FROM grupo WHERE grupo = 'Grupo de los Soñadores'" 1
 elige_ultimo
 exige_campo 'Grupo de los Soñadores'
-captura grupos
+captura grupos grupos
 confirma alt+r 'Grupo' grupo-borrar
 exige_dato "SELECT count(*) FROM grupo WHERE grupo = 'Grupo de los Soñadores'" 0
 teclea alt+c
@@ -59,7 +59,7 @@ muestra_ventana cuenta
 espera_sin_titulo
 escribe '1301x' # no account continues so: the letter is taken back
 exige_campo '1301'
-captura cuentas
+captura cuentas busqueda
 salta buscar lista
 escribe 'Bancos'
 salta filtro
@@ -80,7 +80,7 @@ teclea space # the lens
 exige_traza "SELECT * FROM spssujetos('Mar');"
 salta lupa buscar
 teclea End # the last row of the list
-captura personas
+captura personas busqueda-personas
 teclea alt+a
 espera_cierre
 
@@ -94,7 +94,7 @@ teclea space
 exige_traza "SELECT * FROM spssociocajaf('Quimera');"
 salta lupa buscar
 teclea End
-captura socios
+captura socios busqueda-socios
 teclea alt+a
 espera_cierre
 
@@ -107,7 +107,7 @@ exige_campo '31/1/2026'
 salta fecha
 teclea space
 espera_sin_titulo
-captura calendario
+captura calendario calendario
 pon_dia 2 calendario-otro-dia
 espera_ventana 'Fecha'
 vuelve calendario
@@ -122,7 +122,7 @@ nuevo '' 'Herramienta' 12.5 10 5000
 opta 1
 llena 90
 pon_cuentas 4
-captura depreciacion-nueva
+captura depreciacion-nueva depreciaciones
 confirma alt+a 'Tipo de Depreciacion' depreciacion-registrar
 exige_dato "SELECT depretasacontable, depreporcentaje FROM depreciacion WHERE depredescripcion = 'Herramienta'" '12.5000|90.0000'
 espera_ventana 'Depreciaciones'
@@ -147,7 +147,7 @@ opta 1
 llena 1000 50 900 'Bodega' 'S-77' 1200
 opta 1
 baja 1
-captura activo-generales
+captura activo-generales activo-generales
 hojea
 llena '1/2/2026'
 teclea space
@@ -157,7 +157,7 @@ espera_ventana 'Activo'
 salta calendario
 llena 10 20
 baja 1
-captura activo-contable
+captura activo-contable activo-contable
 hojea
 llena '3/2/2026'
 salta calendario
@@ -166,7 +166,7 @@ salta deduccion
 llena 10 20
 opta 1
 escribe 500
-captura activo-fiscal
+captura activo-fiscal activo-fiscal
 confirma alt+a 'Activo' activo-registrar
 exige_dato "SELECT activodescripcion, feciniciodepconta, actdeduccioninme FROM activo WHERE activoclave = 'QZ-1'" \
   'Torno de prueba|2026-02-02|S'
@@ -190,7 +190,7 @@ muestra_ventana ciudad
 espera_ventana 'Ciudad'
 nuevo '' QZ 'Zona de la Peña'
 baja 1 # the first state
-captura ciudad-nueva
+captura ciudad-nueva ciudades
 confirma alt+a 'Ciudadades' ciudad-registrar
 exige_dato "SELECT estadomexid FROM ciudadesmex WHERE nombreciudadmex = 'Zona de la Peña'" 1
 espera_ventana 'Ciudad'
@@ -212,7 +212,7 @@ espera_ventana 'Estados'
 elige_ultimo
 salta clave
 exige_campo 'Tierra de la Peña'
-captura estado-elegido
+captura estado-elegido estados
 confirma alt+r 'EstadoMex' estado-borrar
 exige_dato "SELECT count(*) FROM estadosmex WHERE claveestadomex = 'QZ'" 0
 espera_ventana 'Estados'
@@ -222,7 +222,7 @@ paso 'Un bien se agrega con su persona'
 muestra_ventana bien
 espera_ventana 'Bien'
 llena 'Adriana Supuesto' 'Terreno de la Peña' 'Baldo' 'Libro 3' 'Ninguna' 90000 80000 70000 50
-captura bien
+captura bien bien
 teclea alt+a
 exige_dato "SELECT valorfiscal, adjudicado FROM bienes WHERE describien = 'Terreno de la Peña'" '80000.00|N'
 
@@ -236,7 +236,7 @@ dia=$(date -d "$(date +%Y-%m-01) -1 day" +%d/%m/%Y)
 muestra_ventana precierre
 espera_ventana 'Pre-Cierre'
 escribe "$dia"
-captura precierre
+captura precierre precierre
 teclea alt+p
 espera_ventana 'Pre-Corte'
 captura precierre-pregunta
@@ -258,12 +258,12 @@ paso 'Se pide el reporte de personas, de la sucursal y consolidado, y se imprime
 muestra_ventana reporte-de-personas
 espera_ventana 'Busqueda Sujeto'
 escribe 'Mar'
-captura reporte-personas
+captura reporte-personas reporte-personas
 salta paterno materno nombre otros consolidado imprimir
 teclea space # &Consulta
 espera_ventana 'Reporte'
 exige_traza "SELECT * FROM spssujeto('Mar','','','');"
-captura reporte-personas-visto
+captura reporte-personas-visto reporte
 cierra_reporte 'Busqueda Sujeto'
 vuelve consulta imprimir
 teclea space # CONSOLIDADO

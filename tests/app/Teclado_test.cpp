@@ -10,15 +10,6 @@
 namespace pruebas {
 namespace {
 
-/// One for all, and ahead of the windows.
-struct ConEscritorio {
-  static Escritorio& Unico() {
-    static Escritorio unico;
-    return unico;
-  }
-  Escritorio& escritorio_ = Unico();
-};
-
 class TecladoTest : public ConEscritorio, public ConCaja {
  protected:
   void SetUp() override {
