@@ -1,5 +1,4 @@
-// An account of the chart of accounts. The client picks accounts from the chart and never edits it; the
-// writing operations stand ready without a caller.
+// An account of the chart of accounts.
 #pragma once
 
 #include "framework/Registro.h"
@@ -52,6 +51,7 @@ class cCatalogo_Ctas : public Registro<cCatalogo_Ctas> {
   void Clear();
   /// True, or throws the message of the first rule that is broken.
   bool Check();
+  const char* clase() const { return "Cuenta"; }
   /// As in every record, but isNew stays.
   void Update();
   /// AddNew in every branch that lacks the account; traced.

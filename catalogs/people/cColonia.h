@@ -1,4 +1,4 @@
-// A neighbourhood of a city, with its postal code. No form edits it: it is looked up in the cache.
+// A neighbourhood of a city, with its postal code.
 #pragma once
 
 #include "framework/Registro.h"
@@ -25,6 +25,7 @@ class cColonia : public Registro<cColonia> {
 
   /// True, or throws the message of the first rule that is broken.
   bool Check();
+  const char* clase() const { return "Colonia"; }
 
  private:
   friend Registro<cColonia>;

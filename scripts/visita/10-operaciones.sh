@@ -1,4 +1,4 @@
-# The windows that no option opens yet, and a date as the forms ask for one.
+# The second program: its forms, its reports, and how both are reached.
 # A stand-in for the printer, first on the path of the client: keeps what it is called with and what it would print.
 pon_impresora() {
   mkdir -p "$temporal/bin"
@@ -11,21 +11,26 @@ LPR
   PATH=$temporal/bin:$PATH
 }
 
-paso 'Se abre el muestrario'
-pon_impresora
-abre_cliente muestrario
-entra "$usuario" "$(clave_de "$usuario")" bienvenida-al-muestrario
+operaciones='Tolvara Operaciones V. 0.0.7a' # title of its main window
 
-# Chooses the entry of the pane "Muestra" at place $1.
-muestra_ventana() {
-  espera_ventana "$principal"
-  teclea alt+m
-  baja "$1"
+# Chooses the entry at place $2 of the pane at place $1 behind "Inicio".
+opcion() {
+  espera_ventana "$operaciones"
+  menu Inicio
+  teclea $(printf 'Right %.0s' $(seq "$1"))
+  baja "$2"
   teclea Return
 }
 
+paso 'Se abre el segundo programa'
+pon_impresora
+abre_cliente tolvara-operaciones
+entra "$usuario" "$(clave_de "$usuario")" bienvenida-a-operaciones
+espera_ventana "$operaciones"
+captura operaciones
+
 paso 'Un asesor se agrega y se borra'
-muestra_ventana 1
+opcion 4 1
 exige_traza 'terminando creacion frm pais'
 nuevo 97 'Ñico Lagos'
 captura asesores
@@ -36,13 +41,13 @@ exige_dato "SELECT count(*) FROM asesor WHERE asesorid = 97" 0
 teclea alt+c
 
 paso 'Se ven las clasificaciones de créditos'
-muestra_ventana 2
+opcion 3 1
 exige_traza 'terminando creacion frm clasificacioncredito'
 captura clasificaciones
 teclea alt+c
 
 paso 'Un grupo se agrega y se borra'
-muestra_ventana 6
+opcion 4 2
 exige_traza 'terminando creacion frm grupo'
 nuevo '' 'Grupo de los Soñadores'
 confirma alt+a 'Grupo' grupo-registrar
@@ -54,63 +59,8 @@ confirma alt+r 'Grupo' grupo-borrar
 exige_dato "SELECT count(*) FROM grupo WHERE grupo = 'Grupo de los Soñadores'" 0
 teclea alt+c
 
-paso 'Se busca una cuenta'
-muestra_ventana 7
-espera_sin_titulo
-escribe '1301x' # no account continues so: the letter is taken back
-exige_campo '1301'
-captura cuentas
-teclea Tab Tab
-escribe 'Bancos'
-teclea Tab space Tab Tab End
-captura cuentas-filtradas
-teclea alt+a
-espera_cierre
-
-paso 'Se busca una persona'
-muestra_ventana 3
-espera_sin_titulo
-teclea Tab Tab
-escribe 'Mar'
-teclea Tab space # the lens
-exige_traza "SELECT * FROM spssujetos('Mar');"
-teclea Tab Tab End # the last row of the list
-captura personas
-teclea alt+a
-espera_cierre
-
-paso 'Se busca un socio'
-muestra_ventana 4
-espera_sin_titulo
-teclea Tab Tab
-escribe 'Quimera'
-teclea Tab space
-exige_traza "SELECT * FROM spssociocajaf('Quimera');"
-teclea Tab Tab End
-captura socios
-teclea alt+a
-espera_cierre
-
-paso 'Una fecha se escribe y se cambia en el calendario'
-muestra_ventana 5
-espera_ventana 'Fecha'
-teclea Tab
-escribe '31x/1/2026' # the letter is refused
-exige_campo '31/1/2026'
-teclea Tab space
-espera_sin_titulo
-captura calendario
-teclea Tab Tab space # the second day
-captura calendario-otro-dia
-teclea alt+a
-espera_ventana 'Fecha'
-teclea shift+Tab
-exige_campo '02/01/2026'
-captura fecha-elegida
-teclea alt+c
-
 paso 'Un tipo de depreciación se agrega, se modifica y se borra'
-muestra_ventana 8
+opcion 2 2
 espera_ventana 'Depreciaciones'
 nuevo '' 'Herramienta' 12.5 10 5000
 teclea Down Tab Tab
@@ -132,7 +82,7 @@ espera_ventana 'Depreciaciones'
 teclea alt+c
 
 paso 'Un activo se agrega por sus tres páginas'
-muestra_ventana 9
+opcion 2 1
 espera_ventana 'Activo'
 captura activos
 pulsa 500 274 # the code
@@ -181,7 +131,7 @@ espera_ventana 'Activo'
 teclea alt+c
 
 paso 'Una ciudad se agrega y se borra'
-muestra_ventana 13
+opcion 5 2
 espera_ventana 'Ciudad'
 nuevo '' QZ 'Zona de la Peña'
 teclea Down # the first state
@@ -198,7 +148,7 @@ espera_ventana 'Ciudad'
 teclea alt+c
 
 paso 'Un estado se agrega y se borra'
-muestra_ventana 12
+opcion 5 1
 espera_ventana 'Estados'
 nuevo '' QZ 'Tierra de la Peña'
 confirma alt+a 'EstadoMex' estado-registrar
@@ -213,13 +163,60 @@ exige_dato "SELECT count(*) FROM estadosmex WHERE claveestadomex = 'QZ'" 0
 espera_ventana 'Estados'
 teclea alt+c
 
+paso 'Un tipo de asentamiento se agrega y se borra'
+opcion 5 3
+espera_ventana 'Tipos de asentamiento'
+nuevo 77 'Ranchería Ñandú'
+captura tipo-de-asentamiento
+confirma alt+a 'Tipo de asentamiento' tipo-de-asentamiento-registrar
+exige_dato "SELECT rtrim(asentamiento) FROM tipoasentamiento WHERE tipoasentamientoid = 77" 'Ranchería Ñandú'
+espera_ventana 'Tipos de asentamiento'
+confirma alt+r 'Tipo de asentamiento' tipo-de-asentamiento-borrar
+exige_dato "SELECT count(*) FROM tipoasentamiento WHERE tipoasentamientoid = 77" 0
+espera_ventana 'Tipos de asentamiento'
+teclea alt+c
+
+paso 'Las colonias se buscan por código postal'
+opcion 5 4
+espera_ventana 'Colonias'
+codigo=$(servidor psql "$sucursal" -XAtc 'SELECT cp FROM colonias ORDER BY coloniaid LIMIT 1')
+teclea shift+Tab shift+Tab # from the key back to the postal code
+escribe "$codigo"
+teclea alt+m
+exige_traza "SELECT * FROM spscoloniacp($codigo);"
+captura colonias
+teclea alt+c
+
+paso 'Una cuenta se busca en el árbol del catálogo'
+opcion 6 1
+espera_ventana 'Catálogo de cuentas'
+captura cuentas
+teclea alt+c
+
 paso 'Un bien se agrega con su persona'
-muestra_ventana 14
+opcion 4 3
+espera_ventana 'Bienes de una persona'
+teclea alt+p
+espera_sin_titulo
+teclea Tab Tab
+escribe 'Mar'
+teclea Tab space # the lens
+exige_traza "SELECT * FROM spssujetos('Mar');"
+teclea Tab Tab End # the last row of the list
+captura personas
+teclea alt+a
+espera_ventana 'Bienes de una persona'
+teclea alt+n
 espera_ventana 'Bien'
 llena 'Adriana Supuesto' 'Terreno de la Peña' 'Baldo' 'Libro 3' 'Ninguna' 90000 80000 70000 50
 captura bien
 teclea alt+a
+espera_ventana 'Bienes de una persona'
+captura bienes
+confirma alt+a 'Bienes' bienes-guardar
 exige_dato "SELECT valorfiscal, adjudicado FROM bienes WHERE describien = 'Terreno de la Peña'" '80000.00|N'
+espera_ventana 'Bienes de una persona'
+teclea alt+c
 
 cierra_reporte() {
   teclea Escape
@@ -228,7 +225,7 @@ cierra_reporte() {
 
 paso 'Se corre el pre-cierre del mes pasado y se exporta'
 dia=$(date -d "$(date +%Y-%m-01) -1 day" +%d/%m/%Y)
-muestra_ventana 10
+opcion 1 1
 espera_ventana 'Pre-Cierre'
 escribe "$dia"
 captura precierre
@@ -249,7 +246,7 @@ cierra_reporte 'Pre-Cierre'
 teclea Escape
 
 paso 'Se pide el reporte de personas, de la sucursal y consolidado, y se imprime'
-muestra_ventana 11
+opcion 1 2
 espera_ventana 'Busqueda Sujeto'
 escribe 'Mar'
 captura reporte-personas
@@ -267,6 +264,6 @@ teclea alt+i
 espera 'no se imprime el reporte' cmp "$HOME/reporte.txt" "$HOME/impreso.txt"
 espera 'no se imprime con su orden' grep -qx -- '-l reporte.txt' "$HOME/impreso.orden"
 teclea Escape
-espera_ventana "$principal"
+espera_ventana "$operaciones"
 teclea ctrl+q
 espera_fin
