@@ -1,6 +1,4 @@
--- From version 1: what logins get one by one since then, and how a retired one is told from a suspended one.
-SELECT prepara_intentos(usuarioid), ajusta_sesiones(usuarioid) FROM usuario;
-SELECT ajusta_escritura(usuarioid, modulo) FROM usuario, unnest(ARRAY['0208', '0217', '0448']) AS modulo;
+-- From version 1: how a retired login is told from a suspended one.
 RESET ROLE;
 SELECT format('ALTER ROLE %I PASSWORD NULL VALID UNTIL ''-infinity''', rolname)
   FROM pg_roles AS r

@@ -6,8 +6,10 @@
 --   tolvara_altas        owns only the functions that make and retire logins (30_logins.sql), and is therefore the
 --                        only role that may create roles: a flaw elsewhere cannot reach that power
 --   tolvara_auditores    reads the log of every branch and nothing else
+--   tolvara_registro     owns only the function that reads the server's own log for them (60_registro.sql)
 SELECT format('CREATE ROLE %I NOLOGIN%s', papel, facultad)
-  FROM (VALUES ('tolvara_usuarios', ''), ('tolvara_propietario', ''), ('tolvara_altas', ' CREATEROLE'), ('tolvara_auditores', ''))
+  FROM (VALUES ('tolvara_usuarios', ''), ('tolvara_propietario', ''), ('tolvara_altas', ' CREATEROLE'),
+               ('tolvara_auditores', ''), ('tolvara_registro', ''))
        AS papeles (papel, facultad)
  WHERE NOT EXISTS (SELECT FROM pg_roles WHERE rolname = papel)
 \gexec
@@ -42,15 +44,18 @@ ALTER DATABASE :"base" SET log_min_duration_sample = -1;
 
 CREATE SCHEMA IF NOT EXISTS comun AUTHORIZATION tolvara_propietario;
 
--- The version of these objects (`comun`) and of each branch; one that is not here is of version 1.
+-- The version of these objects (`comun`) and of each branch, and the digest of the template that made them; a branch that
+-- is not here is of version 1.
 CREATE TABLE IF NOT EXISTS comun.version (
   objeto name PRIMARY KEY,
   version integer NOT NULL,
   desde timestamptz NOT NULL DEFAULT now()
 );
+ALTER TABLE comun.version ADD COLUMN IF NOT EXISTS huella text;
 ALTER TABLE comun.version OWNER TO tolvara_propietario;
-INSERT INTO comun.version (objeto, version) VALUES ('comun', :version)
-ON CONFLICT (objeto) DO UPDATE SET version = excluded.version, desde = now() WHERE version.version <> excluded.version;
+INSERT INTO comun.version (objeto, version, huella) VALUES ('comun', :version, :'huella')
+ON CONFLICT (objeto) DO UPDATE SET version = excluded.version, huella = excluded.huella, desde = now()
+ WHERE (version.version, version.huella) IS DISTINCT FROM (excluded.version, excluded.huella);
 
 -- A function is for its owner until a line of its own file grants it.
 ALTER DEFAULT PRIVILEGES FOR ROLE tolvara_propietario REVOKE EXECUTE ON FUNCTIONS FROM PUBLIC;

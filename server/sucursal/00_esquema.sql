@@ -13,5 +13,5 @@ CREATE SCHEMA :"sucursal" AUTHORIZATION tolvara_propietario;
 SET LOCAL ROLE tolvara_propietario;
 SET LOCAL search_path TO :"sucursal", comun, pg_temp;
 GRANT USAGE ON SCHEMA :"sucursal" TO :"grupo";
-INSERT INTO version (objeto, version) VALUES (:'sucursal', :version)
-ON CONFLICT (objeto) DO UPDATE SET version = excluded.version, desde = now();
+INSERT INTO version (objeto, version, huella) VALUES (:'sucursal', :version, :'huella')
+ON CONFLICT (objeto) DO UPDATE SET version = excluded.version, huella = excluded.huella, desde = now();

@@ -39,24 +39,27 @@ CREATE TABLE bitacora_resto PARTITION OF bitacora DEFAULT;
 CREATE TRIGGER inalterable BEFORE UPDATE OR DELETE OR TRUNCATE ON bitacora_resto
   FOR EACH STATEMENT EXECUTE FUNCTION protege_bitacora();
 
--- Makes the partitions of this month and the next three where they are missing.
+-- Makes the partition of the month of a moment, unless there are lines of it elsewhere.
+CREATE FUNCTION prepara_mes(momento timestamptz) RETURNS void
+LANGUAGE plpgsql SET search_path FROM CURRENT SET timezone TO 'UTC' AS $$
+DECLARE
+  mes CONSTANT date := date_trunc('month', momento);
+  siguiente CONSTANT date := mes + interval '1 month';
+  parte CONSTANT text := to_char(mes, '"bitacora_"YYYY"_"MM');
+BEGIN
+  IF to_regclass(parte) IS NULL
+     AND NOT EXISTS (SELECT FROM bitacora_resto r WHERE r.momento >= mes AND r.momento < siguiente) THEN
+    EXECUTE format('CREATE TABLE %I PARTITION OF bitacora FOR VALUES FROM (%L) TO (%L)', parte, mes, siguiente);
+    EXECUTE format('CREATE TRIGGER inalterable BEFORE UPDATE OR DELETE OR TRUNCATE ON %I
+                      FOR EACH STATEMENT EXECUTE FUNCTION protege_bitacora()', parte);
+  END IF;
+END $$;
+
+-- This month's and those of the next three.
 CREATE FUNCTION prepara_bitacora() RETURNS void
 LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT SET timezone TO 'UTC' AS $$
-DECLARE
-  mes date;
-  parte text;
 BEGIN
-  FOR n IN 0 .. 3 LOOP
-    mes := date_trunc('month', now()) + make_interval(months => n);
-    parte := to_char(mes, '"bitacora_"YYYY"_"MM');
-    IF to_regclass(parte) IS NULL
-       AND NOT EXISTS (SELECT FROM bitacora_resto WHERE momento >= mes AND momento < mes + interval '1 month') THEN
-      EXECUTE format('CREATE TABLE %I PARTITION OF bitacora FOR VALUES FROM (%L) TO (%L)', parte, mes,
-                     mes + interval '1 month');
-      EXECUTE format('CREATE TRIGGER inalterable BEFORE UPDATE OR DELETE OR TRUNCATE ON %I
-                        FOR EACH STATEMENT EXECUTE FUNCTION protege_bitacora()', parte);
-    END IF;
-  END LOOP;
+  PERFORM prepara_mes(date_trunc('month', now()) + make_interval(months => n)) FROM generate_series(0, 3) AS n;
 END $$;
 SELECT prepara_bitacora();
 
