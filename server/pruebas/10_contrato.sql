@@ -34,7 +34,6 @@ INSERT INTO contrato VALUES
   ('fechacobroiva', '', 'date');
 \ir contrato/60_finanzas.sql
 \ir contrato/80_personas.sql
-\ir contrato/95_consultas.sql
 
 CREATE TEMPORARY VIEW funcion AS
 SELECT p.oid, p.proname::text AS nombre, coalesce(tipos.lista, '') AS argumentos,
