@@ -1,5 +1,7 @@
 #include "app/Caja.h"
 
+#include <fxkeys.h>
+
 #include <algorithm>
 #include <cstring>
 #include <iostream>
@@ -8,13 +10,18 @@
 #include "app/sesion.h"
 #include "db/Apertura.h"
 #include "db/Login_Window.h"
-#include "framework/Iconos.h"
+#include "icons/Icono.h"
 #include "icons/iconos.h"
 
 namespace {
 
 constexpr char seccion[] = "SETTINGS";
 constexpr char desconectado[] = "¡DESCONECTADO!";
+
+// Where the window stood, in a section of its own.
+constexpr char lugar[] = "VENTANA";
+constexpr FXint ninguna = -1;
+constexpr FXint anchoMinimo = 400, altoMinimo = 300;
 
 }  // namespace
 
@@ -73,6 +80,10 @@ Caja::Caja(FXApp* app) : FXMainWindow(app, "Tolvara V. 0.0.7a", nullptr, nullptr
   TraduceMenu(mdiMenu);
   ArmaMenu();
   ArmaBotonesDeHija();
+  // From a minimised form, too, the next one is reached.
+  getAccelTable()->addAccel(MKUINT(KEY_Tab, CONTROLMASK), mdiClient,
+                            FXSEL(SEL_COMMAND, FXMDIClient::ID_MDI_NEXT));
+  avisos = new FXToolTip(app);
   std::fill_n(mdiArray, RanurasMdi, false);
 }
 
@@ -121,6 +132,7 @@ Caja::~Caja() {
   delete toolBar;
   delete dragShellMenu;
   delete dragShellTool;
+  delete avisos;
   getApp()->setNormalFont(fuenteAnterior);
   delete fuente;
 }
@@ -128,9 +140,40 @@ Caja::~Caja() {
 void Caja::create() {
   FXMainWindow::create();
   getApp()->addTimeout(this, ID_CLOCK, 1);
-  show(PLACEMENT_SCREEN);
+  avisos->create();
+  MuestraDondeEstaba();
   Login();
   std::cout << "Formato Cuenta " << formatocuenta << std::endl;
+}
+
+/// In the middle of the screen, or where it stood when the program was last used, if that is on the screen.
+void Caja::MuestraDondeEstaba() {
+  FXRegistry& ajustes = getApp()->reg();
+  const auto lee = [&ajustes](const char* llave) { return ajustes.readIntEntry(lugar, llave, ninguna); };
+  const FXint x = lee("x"), y = lee("y"), ancho = lee("ancho"), alto = lee("alto");
+  const FXint pantallaAncho = getRoot()->getWidth(), pantallaAlto = getRoot()->getHeight();
+  const bool cabe =
+      anchoMinimo <= ancho && ancho <= pantallaAncho && altoMinimo <= alto && alto <= pantallaAlto;
+  if (cabe) resize(ancho, alto);
+  if (cabe && 0 <= x && x <= pantallaAncho - ancho && 0 <= y && y <= pantallaAlto - alto) {
+    move(x, y);
+    show();
+  } else {
+    show(PLACEMENT_SCREEN);
+  }
+  if (lee("maximizada") == 1) maximize();
+}
+
+/// Where the window stands now, for the next start. A maximised one will go back to the size it had before.
+void Caja::AnotaLugar() {
+  FXRegistry& ajustes = getApp()->reg();
+  const bool grande = isMaximized();
+  ajustes.writeIntEntry(lugar, "maximizada", grande);
+  if (grande || isMinimized()) return;
+  ajustes.writeIntEntry(lugar, "x", getX());
+  ajustes.writeIntEntry(lugar, "y", getY());
+  ajustes.writeIntEntry(lugar, "ancho", getWidth());
+  ajustes.writeIntEntry(lugar, "alto", getHeight());
 }
 
 void Caja::Login() {
@@ -150,6 +193,7 @@ void Caja::readRegistry() {
 
 long Caja::onClock(FXObject*, FXSelector, void*) {
   clockField->setText(FXSystem::time("%I:%M:%S %p", FXSystem::now()));
+  if (shown()) AnotaLugar();
   getApp()->addTimeout(this, ID_CLOCK, 500);
   return 1;
 }

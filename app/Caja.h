@@ -104,6 +104,8 @@ class Caja : public FXMainWindow {
   void ArmaMenu();
   void ArmaBotonesDeHija();
   void Login();
+  void MuestraDondeEstaba();
+  void AnotaLugar();
   bool PermiteOpciones() const;
   bool TieneAcceso(const char* modulo);
   template <class Ventana>
@@ -130,6 +132,7 @@ class Caja : public FXMainWindow {
   FXStatusBar* statusBar = nullptr;
   FXTextField* clockField = nullptr;
   FXLabel* statusLabel = nullptr;
+  FXToolTip* avisos = nullptr;  // of all windows of the program
   FXIcon* bigIcon = nullptr;
   FXIcon* smallIcon = nullptr;
   FXFont* fuente = nullptr;          // the application's normal font while this window lives

@@ -1,8 +1,10 @@
 // The menu of the main window.
+#include <fxkeys.h>
+
 #include <initializer_list>
 
 #include "app/Caja.h"
-#include "framework/Iconos.h"
+#include "icons/Icono.h"
 #include "icons/iconos.h"
 
 namespace {
@@ -96,7 +98,9 @@ void Caja::ArmaMenu() {
                             separador});
   new FXMenuCommand(menuInicio, "&Salir\tCtl-Q\tSalir del sistema", iconoGif(getApp(), iconos::quit_gif),
                     getApp(), FXApp::ID_QUIT);
-  new FXMenuTitle(menuBar, "&Inicio", nullptr, menuInicio);
+  auto* const inicio = new FXMenuTitle(menuBar, "&Inicio", nullptr, menuInicio);
+  getAccelTable()->addAccel(KEY_F10, inicio, FXSEL(SEL_KEYPRESS, ID_HOTKEY),
+                            FXSEL(SEL_KEYRELEASE, ID_HOTKEY));
 
   menuCatalogos = Panel(this, catalogos);
   menuPrestamos = cascada("Prestamos", prestamos);

@@ -5,19 +5,12 @@
 // so a longer one is cut at a whole character.
 #pragma once
 
-#include <libpq-fe.h>
-
+#include "db/Conexion.h"
 #include "widgets/date.h"
 
 class Catalogo;
 class Engine;
 class cPermisosModulos;
-
-// Connection. A closed connection is a null `conn`: libpq answers every call on it with an ordinary failure.
-extern PGconn* conn;
-extern PGconn* connR;  // second connection; nothing opens it
-extern bool bLocal;    // true for the whole run: reads that could use connR go to conn
-extern PGresult* res;  // the one shared result; null after a clear
 
 // Objects of the whole process.
 extern Catalogo catalogo;

@@ -1,5 +1,8 @@
 #include "bench/Copia.h"
 
+#include <memory>
+#include <vector>
+
 namespace {
 
 /// A frame like `modelo`, empty; null when that is no frame.
@@ -17,12 +20,22 @@ FXComposite* CopiaMarco(FXWindow* modelo, FXComposite* padre) {
   return nullptr;
 }
 
+/// The letters of the bare window that stands, made for it as a form makes those that are its own.
+std::vector<std::unique_ptr<FXFont>> letras;
+
+FXFont* CopiaLetra(FXFont* modelo) {
+  FXApp* const app = modelo->getApp();
+  if (modelo == app->getNormalFont()) return modelo;
+  letras.push_back(std::make_unique<FXFont>(app, modelo->getName(), modelo->getSize() / 10));
+  return letras.back().get();
+}
+
 void CopiaCombo(FXComboBox* modelo, FXComposite* padre) {
   auto* const combo =
       new FXComboBox(padre, modelo->getNumColumns(), nullptr, 0,
                      modelo->getComboStyle() | modelo->getFrameStyle() | modelo->getLayoutHints());
   combo->setNumVisible(modelo->getNumVisible());
-  combo->setFont(modelo->getFont());
+  combo->setFont(CopiaLetra(modelo->getFont()));
   for (FXint fila = 0; fila < modelo->getNumItems(); ++fila) combo->appendItem(modelo->getItemText(fila));
 }
 
@@ -99,21 +112,35 @@ void Copia(FXComposite* modelo, FXComposite* padre, const LlenaLista& llena) {
   }
 }
 
+/// The first text field inside `marco` that is not part of a combo box; null if there is none.
+FXTextField* PrimerCampo(FXWindow* marco) {
+  if (dynamic_cast<FXComboBox*>(marco)) return nullptr;
+  if (auto* campo = dynamic_cast<FXTextField*>(marco)) return campo;
+  FXTextField* primero = nullptr;
+  for (FXWindow* hijo = marco->getFirst(); hijo && !primero; hijo = hijo->getNext())
+    primero = PrimerCampo(hijo);
+  return primero;
+}
+
 }  // namespace
 
 FXComposite* AbreLlana(Escenario& escenario, FXComposite* modelo, const LlenaLista& llena) {
+  letras.clear();
   FXComposite* ventana;
   if (auto* hija = dynamic_cast<FXMDIChild*>(modelo)) {
     ventana = new FXMDIChild(escenario.area, hija->getTitle(), nullptr, escenario.menu, 0, 20, 20,
                              hija->getWidth(), hija->getHeight());
     auto* const cuerpo = static_cast<FXComposite*>(hija->contentWindow());
     Copia(cuerpo, CopiaMarco(cuerpo, ventana), llena);
-    ventana->create();
-    ventana->setFocus();
   } else {
     ventana = new FXDialogBox(escenario.ventana, static_cast<FXDialogBox*>(modelo)->getTitle(),
                               DECOR_TITLE | DECOR_BORDER | DECOR_RESIZE);
     Copia(modelo, ventana, llena);
+  }
+  ventana->create();
+  if (FXTextField* const campo = PrimerCampo(ventana)) {
+    campo->setFocus();
+    campo->selectAll();
   }
   return ventana;
 }

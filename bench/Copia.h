@@ -25,13 +25,15 @@ struct Escenario {
 
 using LlenaLista = std::function<void(FXList*)>;
 
-/// The bare window like `modelo`: its frames, labels, buttons, fields, lists, pages and grids in their
-/// styles, letters and drawings. Combo boxes, trees and grids come with the rows of the model's, a list as
-/// `llena` fills it.
+/// The bare window like `modelo`, one at a time: its frames, labels, buttons, fields, lists, pages and grids
+/// in their styles, letters and drawings. Combo boxes, trees and grids come with the rows of the model's, a
+/// list as `llena` fills it. It is created, with the keyboard in its first field as in every form: a user who
+/// can type at once has an input context of the X server made for that field, whoever builds the window.
 FXComposite* AbreLlana(Escenario& escenario, FXComposite* modelo, const LlenaLista& llena);
 
 /// Processor time until the window that `abre` gives stands, laid out and up to date, that many times; each
-/// is closed outside the measure. `mide` may be another clock, as medida::Segundos.
+/// is closed outside the measure, and what the server told about it is heard and painted there, or the queue
+/// of that would grow and be what is measured. `mide` may be another clock, as medida::Segundos.
 template <class Abridor, class Reloj>
 double Aperturas(int veces, Abridor abre, Reloj mide) {
   double segundos = 0;
@@ -44,6 +46,9 @@ double Aperturas(int veces, Abridor abre, Reloj mide) {
       ventana->layout();
       pruebas::App().forceRefresh();
     });
+    ventana.reset();
+    pruebas::App().runWhileEvents();
+    pruebas::App().repaint();
   }
   return segundos;
 }

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "catalogs/finance/Busqueda_Window.h"
 #include "db/Catalogo.h"
-#include "framework/Busqueda_Window.h"
 
 inline void PonCarta(int cuantas) {
   Catalogo::Catalogo_Ctas.clear();

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "bench/Medida.h"
-#include "framework/Busqueda_Window.h"
-#include "framework/CampoCuenta.h"
+#include "catalogs/finance/Busqueda_Window.h"
+#include "catalogs/finance/CampoCuenta.h"
 #include "tests/support/Pantalla.h"
 
 namespace {
@@ -62,7 +62,7 @@ struct BusquedaLlana : FXDialogBox {
   FXFont letra{&pruebas::App(), "helvica", 8};
 };
 
-const std::vector<Cuentas::Fila> tabla(Campos, Cuentas::Fila{"Cuenta:", true});
+const std::vector<Cuentas::Fila> tabla(Campos, Cuentas::Fila{"Cuenta:"});
 
 /// A window with the accounts of the largest form.
 struct Forma : FXDialogBox {

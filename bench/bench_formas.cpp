@@ -58,12 +58,35 @@ constexpr char Periodos[] =
     "i as clave, 'TIIE' as tipo, date '1990-01-01' + i as inicio, date '1990-02-01' + i as fin,"
     " i * 0.37 as valor1, i * 0.38 as valor2";
 
+// What the list of a bare form shows of a row of the answer, the text of ours. Stays until the next call.
+template <int columna>
+const char* Columna(const PGresult* r, int fila) {
+  return PQgetvalue(r, fila, columna);
+}
+/// The day in the first column, from yyyy-mm-dd.
+const char* Dia(const PGresult* r, int fila) {
+  static char texto[24];
+  const char* const dia = PQgetvalue(r, fila, 0);
+  snprintf(texto, sizeof texto, "%.2s/%.2s/%.4s", dia + 8, dia + 5, dia);
+  return texto;
+}
+const char* Mes(const PGresult* r, int fila) {
+  static char texto[24];
+  snprintf(texto, sizeof texto, "%4s %2s", PQgetvalue(r, fila, 0), PQgetvalue(r, fila, 1));
+  return texto;
+}
+const char* Periodo(const PGresult* r, int fila) {
+  static char texto[80];
+  snprintf(texto, sizeof texto, "%s %10s", PQgetvalue(r, fila, 0), PQgetvalue(r, fila, 1));
+  return texto;
+}
+
 struct Caso {
   const char* nombre;
   FXComposite* (*abre)(Escenario& escenario);
   const char* origen;  ///< what its load selects from: a function with the arguments that mean all rows
   const char* firma;   ///< the types of these; null where it selects from a table
-  int columna = 1;     ///< of the text that the list shows
+  const char* (*texto)(const PGresult* respuesta, int fila) = Columna<1>;
   const char* fila = Descripciones;
 };
 
@@ -77,7 +100,7 @@ FXComposite* Abre(Escenario& escenario) {
 }
 
 const Caso casos[] = {
-    {"Monedas_Window", Abre<Monedas_Window>, "spsmoneda('  ')", "text", 2},
+    {"Monedas_Window", Abre<Monedas_Window>, "spsmoneda('  ')", "text", Columna<2>},
     {"Tipo_Garantia_Window", Abre<Tipo_Garantia_Window>, "spstipo_garantia('  ')", "text"},
     {"Estados_Credito_Window", Abre<Estados_Credito_Window>, "spsestados_credito('  ')", "text"},
     {"Finalidades_Window", Abre<Finalidades_Window>, "spsfinalidades('  ')", "text"},
@@ -92,15 +115,17 @@ const Caso casos[] = {
     {"Grupo_Window", Abre<Grupo_Window>, "spsgrupo(0)", "integer"},
     {"Ocupacion_Window", Abre<Ocupacion_Window>, "spsocupacion(0)", "integer"},
     {"ConceptoScoring_Window", Abre<ConceptoScoring_Window>, "spsconceptoscoring(0)", "integer"},
-    {"Udis_Window", Abre<Udis_Window>, "spsudis('1900-01-01')", "date", 0, Valores},
-    {"Inpc_Window", Abre<Inpc_Window>, "spsinpc(0,0)", "integer, integer", 0, Meses},
-    {"Recargos_Window", Abre<Recargos_Window>, "spsrecargos(0,0)", "integer, integer", 0, Meses},
-    {"Inabil_Window", Abre<Inabil_Window>, "inabil", nullptr, 0, Dias},
-    {"Banco_Window", Abre<Banco_Window>, "spsbanco('  ')", "text", 2, Bancos},
-    {"TipoPromocion_Window", Abre<TipoPromocion_Window>, "spstipopromocion(0)", "integer", 6, Promociones},
-    {"TipoTasaInteres_Window", Abre<TipoTasaInteres_Window>, "spstasavariable(0)", "integer", 0, Periodos},
+    {"Udis_Window", Abre<Udis_Window>, "spsudis('1900-01-01')", "date", Dia, Valores},
+    {"Inpc_Window", Abre<Inpc_Window>, "spsinpc(0,0)", "integer, integer", Mes, Meses},
+    {"Recargos_Window", Abre<Recargos_Window>, "spsrecargos(0,0)", "integer, integer", Mes, Meses},
+    {"Inabil_Window", Abre<Inabil_Window>, "inabil", nullptr, Dia, Dias},
+    {"Banco_Window", Abre<Banco_Window>, "spsbanco('  ')", "text", Columna<2>, Bancos},
+    {"TipoPromocion_Window", Abre<TipoPromocion_Window>, "spstipopromocion(0)", "integer", Columna<6>,
+     Promociones},
+    {"TipoTasaInteres_Window", Abre<TipoTasaInteres_Window>, "spstasavariable(0)", "integer", Periodo,
+     Periodos},
     {"TasaInteres_Window", Abre<TasaInteres_Window>, "subtipotasa('a','null','null','null')",
-     "text, text, text, text", 0},
+     "text, text, text, text", Columna<0>},
 };
 
 /// The select of a load, on any table of that many rows.
@@ -119,7 +144,7 @@ void PreparaCatalogo(pruebas::BaseDatos& base, const Caso& caso, int filas) {
 void LlenaDirecto(FXList* lista, const Caso& caso) {
   const std::string sql = std::string("SELECT * FROM ") + caso.origen + ";";
   PGresult* const r = PQexec(conn, sql.c_str());
-  for (int fila = 0; fila < PQntuples(r); ++fila) lista->appendItem(PQgetvalue(r, fila, caso.columna));
+  for (int fila = 0; fila < PQntuples(r); ++fila) lista->appendItem(caso.texto(r, fila));
   PQclear(r);
 }
 

@@ -116,29 +116,54 @@ void MideAperturas(medida::Informe& informe, Escenario& escenario) {
 /// The combo boxes of the form, in the order of their creation.
 enum Combo { Tipo, Jefe, ComboEstado, Municipio, Colonia };
 
-void Llena(FXComboBox* combo, const std::vector<FXString>& textos) {
+/// What a bare combo box shows of a row of an answer. Stays until the next call.
+using Texto = const char* (*)(const PGresult* respuesta, int fila);
+
+const char* TextoDeCiudad(const PGresult* respuesta, int fila) { return PQgetvalue(respuesta, fila, 3); }
+
+const char* TextoDeColonia(const PGresult* respuesta, int fila) {
+  static char texto[92];
+  const int tipo = atoi(PQgetvalue(respuesta, fila, 4));
+  const char* nombreDelTipo = "";
+  for (const auto& [clave, asentamiento] : Catalogo::TipoAsentamientos)
+    if (asentamiento.getTipoAsentamientoID() == tipo) {
+      nombreDelTipo = asentamiento.getAsentamiento();
+      break;
+    }
+  snprintf(texto, sizeof texto, "%5s %45.45s %20.20s", PQgetvalue(respuesta, fila, 3),
+           PQgetvalue(respuesta, fila, 2), nombreDelTipo);
+  return texto;
+}
+
+/// The statements, and the rows of the last one straight into a combo box.
+void Llena(FXComboBox* combo, const pruebas::Textos& sentencias, Texto texto) {
   combo->clearItems();
-  for (const FXString& texto : textos) combo->appendItem(texto);
+  for (const auto& sentencia : sentencias) {
+    PGresult* const respuesta = PQexec(conn, sentencia.c_str());
+    for (int fila = 0; &sentencia == &sentencias.back() && fila < PQntuples(respuesta); ++fila)
+      combo->appendItem(texto(respuesta, fila));
+    PQclear(respuesta);
+  }
   combo->setCurrentItem(-1);
 }
 
 /// A step of the cascade: what its handler does, against its statements and a bare combo box that takes the
-/// same items.
+/// rows of their answer.
 void MidePaso(medida::Informe& informe, const char* que, Escenario& escenario, Usuario_Window& forma,
-              long (Usuario_Window::*paso)(FXObject*, FXSelector, void*), Combo destino, int renglones) {
+              long (Usuario_Window::*paso)(FXObject*, FXSelector, void*), Combo destino, int renglones,
+              Texto texto) {
   const auto da = [&] { (forma.*paso)(nullptr, 0, nullptr); };
   const pruebas::Textos sentencias = Sentencias(da);
   FXComboBox* const combo = pruebas::Todos<FXComboBox>(&forma).at(destino);
   if (combo->getNumItems() < renglones) throw std::runtime_error("faltan lugares");
-  std::vector<FXString> textos;
-  for (FXint fila = 0; fila < combo->getNumItems(); ++fila) textos.push_back(combo->getItemText(fila));
   const std::unique_ptr<FXComposite> llana(AbreLlana(escenario, &forma, {}));
   FXComboBox* const llano = pruebas::Todos<FXComboBox>(llana.get()).at(destino);
-  const auto daLlano = [&] {
-    Manda(sentencias);
-    Llena(llano, textos);
-  };
+  const auto daLlano = [&] { Llena(llano, sentencias, texto); };
+  daLlano();
+  for (FXint fila = 0; fila < combo->getNumItems(); ++fila)
+    if (combo->getItemText(fila) != llano->getItemText(fila)) throw std::runtime_error("otros lugares");
   const auto mide = [](auto accion) {
+    pruebas::App().runWhileEvents();
     return medida::SegundosDeProcesador([&] {
       for (int vez = 0; vez < Pasos; ++vez) accion();
     });
@@ -155,10 +180,10 @@ void MideCascada(medida::Informe& informe, Escenario& escenario) {
   const std::vector<FXComboBox*> combos = pruebas::Todos<FXComboBox>(forma);
   combos.at(ComboEstado)->setCurrentItem(Estado - 1);
   MidePaso(informe, "cascada de un estado de 570 ciudades", escenario, *forma, &Usuario_Window::onCmdEstados,
-           Municipio, Ciudades);
+           Municipio, Ciudades, TextoDeCiudad);
   combos.at(Municipio)->setCurrentItem(0);
   MidePaso(informe, "cascada de una ciudad de 2000 colonias", escenario, *forma,
-           &Usuario_Window::onCmdCiudades, Colonia, Colonias);
+           &Usuario_Window::onCmdCiudades, Colonia, Colonias, TextoDeColonia);
   delete forma;
 }
 

@@ -1,5 +1,8 @@
 #include "db/Apertura.h"
 
+#include <libintl.h>
+
+#include <clocale>
 #include <cstdlib>
 #include <cstring>
 #include <iostream>
@@ -129,6 +132,17 @@ void Abandona(PGconn* anterior) {
   }
 }
 
+/// The library tells in Spanish why there is no connection, where its translation is installed. Translations
+/// need a locale that has a name, and are asked for in the encoding of the program.
+void PideEspanol() {
+  setenv("LANGUAGE", "es", 0);
+  const std::string mensajes = setlocale(LC_MESSAGES, nullptr);
+  if (mensajes == "C" || mensajes == "POSIX") setlocale(LC_MESSAGES, "C.UTF-8");
+  const std::string dominio = "libpq5-" + std::to_string(PQlibVersion() / 10000);
+  bind_textdomain_codeset(dominio.c_str(), "UTF-8");
+  bind_textdomain_codeset("libc", "UTF-8");  // whose words for a failed call it quotes
+}
+
 /// Executes `sql` and answers its first field; throws when it is refused.
 std::string Campo(const char* sql) {
   Ejecuta(sql);
@@ -157,6 +171,7 @@ bool Conecta(const char* servidor, const char* puerto, const char* db, const cha
              const char* password) {
   setenv("PGCLIENTENCODING", "UTF8", 0);
   setenv("PGCONNECT_TIMEOUT", "10", 0);
+  PideEspanol();
   Abandona(conn);
   conn = PQsetdbLogin(servidor, puerto, nullptr, nullptr, db, usuario, password);
   PQsetErrorContextVisibility(conn, PQSHOW_CONTEXT_NEVER);

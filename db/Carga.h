@@ -8,7 +8,6 @@
 #include <iostream>
 #include <map>
 
-#include "app/sesion.h"
 #include "db/Engine.h"
 #include "widgets/lista.h"
 

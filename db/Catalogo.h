@@ -167,7 +167,7 @@ class Catalogo {
   static std::map<int, cTipoTasaInteres> TipoTasaInteres;
   static std::map<int, cTasaInteres> TasaInteres;
 
-  static bool bLoad;  // true once Load has run to its end
+  inline static bool bLoad = false;  // true once Load has run to its end
 
   lista<cTipoPromocion> TipoPromociones;
   lista<cColonia> Colonias;  // all of them; no form reads it
@@ -184,3 +184,5 @@ class Catalogo {
   long tsSocios = 0;     // newest member, seconds since 1970
   char sLetra[256] = "";
 };
+
+extern Catalogo catalogo;  // of the session: app/sesion.cpp builds it ahead of the others

@@ -39,7 +39,6 @@ std::map<int, cInabil> Catalogo::Inabiles;
 std::map<int, cConceptoScoring> Catalogo::ConceptosScoring;
 std::map<int, cTipoTasaInteres> Catalogo::TipoTasaInteres;
 std::map<int, cTasaInteres> Catalogo::TasaInteres;
-bool Catalogo::bLoad = false;
 
 namespace {
 

@@ -4,6 +4,7 @@
 
 #include "db/Carga.h"
 #include "db/Catalogo.h"
+#include "framework/Reglas.h"
 #include "framework/Sentencia.h"
 
 namespace {
@@ -45,6 +46,8 @@ bool Catalogo::EsAfectable(const char* cuenta) const {
   const cCatalogo_Ctas* registro = Encuentra(Catalogo_Ctas, &cCatalogo_Ctas::getCuentaID, cuenta);
   return registro == nullptr || strcmp(registro->getTipo_Cta(), "A") == 0;
 }
+
+bool EsAfectable(const char* cuenta) { return catalogo.EsAfectable(cuenta); }
 
 char* Catalogo::CantidadConLetra(double cantidad) {
   Ejecuta(Sentencia("SELECT * FROM cletra(%f);", cantidad));

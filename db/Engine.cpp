@@ -2,8 +2,6 @@
 
 #include <iostream>
 
-#include "app/sesion.h"
-
 int Engine::miTransactionCount = 0;
 int Engine::miNestedTransaction = 1;
 

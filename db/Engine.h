@@ -1,11 +1,31 @@
 // The road of every statement to the server: one connection, one shared result, nested transactions.
 //
-// A statement is executed into the shared `res` (app/sesion.h). The result of the statement before it is
+// A statement is executed into the shared `res` (db/Conexion.h). The result of the statement before it is
 // released by the next one, so a path may leave it behind. Failures travel as a thrown char*: a server text,
 // which points into `res` and is valid until the next statement or clear, or a literal of the program.
+//
+// A question to the server:
+//
+//   Ejecuta("SELECT count(*) FROM moneda;");
+//   LanzaSiRechazada();                          // where the caller has to know; a read otherwise goes on
+//   const int cuantas = atoi(Celda(0, 0));       // "" when there is no such row or column
+//   LiberaResultado();                           // the text of a cell ends with its result
+//
+// A write of a class that derives from Engine, and what the form that started it does when it is refused:
+//
+//   Escribe(Sentencia("select spdmoneda('%s');", clave), false);        // BEGIN; select ...; COMMIT;
+//
+//   try {
+//     registro.Delete();
+//   } catch (char* texto) {
+//     registro.RollBackTransaction();            // leaves `res`, into which `texto` points
+//     cajaError(this, "Error en Validación", texto);
+//   }
+//
+// Writes nest: one that runs in the answer of another (`alResponder`) is part of its transaction.
 #pragma once
 
-#include <libpq-fe.h>
+#include "db/Conexion.h"
 
 /// Executes `sql` on the session's connection; its answer is in `res` (null when the connection is closed).
 void Ejecuta(const char* sql);

@@ -3,14 +3,15 @@
 #include <cstring>
 #include <iostream>
 
-#include "app/Caja.h"
 #include "app/sesion.h"
 #include "db/Apertura.h"
 #include "db/Catalogo.h"
 #include "db/Engine.h"
-#include "framework/Iconos.h"
 #include "framework/Sentencia.h"
+#include "icons/Icono.h"
 #include "icons/iconos.h"
+#include "widgets/Boton.h"
+#include "widgets/CampoDeTexto.h"
 #include "widgets/TextoAcotado.h"
 #include "widgets/cajas.h"
 
@@ -48,7 +49,7 @@ const Login_Window::Ajuste Login_Window::ajustes[] = {
     {"userdb", "xxx", &Login_Window::sUserDb},
 };
 
-Login_Window::Login_Window(Caja* owner)
+Login_Window::Login_Window(FXWindow* owner)
     : FXDialogBox(owner, "Login", DECOR_TITLE | DECOR_BORDER | DECOR_RESIZE, 0, 0, 0, 0, 0, 0, 0, 0) {
   auto* marco = new FXHorizontalFrame(this, LAYOUT_FILL_X | LAYOUT_FILL_Y);
   ArmaCampos(new FXVerticalFrame(marco, LAYOUT_FILL_X | LAYOUT_FILL_Y));
@@ -74,7 +75,7 @@ void Login_Window::ArmaCampos(FXComposite* padre) {
     }
   };
   const auto campo = [](FXMatrix* matriz, int columnas, DatoTexto& dato, FXuint opciones) {
-    new FXTextField(matriz, columnas, &dato.destino, FXDataTarget::ID_VALUE, limitado | opciones);
+    new CampoDeTexto(matriz, columnas, &dato.destino, FXDataTarget::ID_VALUE, limitado | opciones);
   };
 
   matrizLogin = new FXMatrix(padre, 3, MATRIX_BY_COLUMNS | LAYOUT_FILL_X, 0, 0, 0, 0, 0, 0, 0, 0);
@@ -84,7 +85,7 @@ void Login_Window::ArmaCampos(FXComposite* padre) {
   margen(matrizLogin, nullptr);
   etiqueta(matrizLogin, "Password:");
   txtPassword =
-      new FXTextField(matrizLogin, 20, this, ID_ACEPTAR, limitado | TEXTFIELD_PASSWD | TEXTFIELD_ENTER_ONLY);
+      new CampoDeTexto(matrizLogin, 20, this, ID_ACEPTAR, limitado | TEXTFIELD_PASSWD | TEXTFIELD_ENTER_ONLY);
 
   auto* marco = new FXVerticalFrame(padre, LAYOUT_FILL_X | LAYOUT_FILL_Y, 0, 0, 0, 0, 0, 0, 0, 0);
   grupoOpciones =
@@ -106,9 +107,11 @@ void Login_Window::ArmaCampos(FXComposite* padre) {
 }
 
 void Login_Window::ArmaBotones(FXComposite* padre) {
-  constexpr FXuint comun = FRAME_RAISED | FRAME_THICK | ICON_BEFORE_TEXT | LAYOUT_FILL_X;
   const auto boton = [&](const char* texto, FXIcon* icono, FXSelector mensaje, FXuint opciones) {
-    return new FXButton(padre, texto, icono, this, mensaje, comun | opciones, 0, 0, 0, 0, 2, 2, 1, 1);
+    FXButton* const nuevo = NuevoBoton(padre, texto, icono, this, mensaje, LAYOUT_FILL_X | opciones);
+    nuevo->setPadTop(1);
+    nuevo->setPadBottom(1);
+    return nuevo;
   };
   btnAceptar =
       boton("&Aceptar", icono(getApp(), iconos::ok_icon), ID_ACEPTAR, BUTTON_DEFAULT | BUTTON_INITIAL);

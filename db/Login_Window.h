@@ -11,8 +11,6 @@
 #include "framework/Campos.h"
 #include "widgets/Teclado.h"
 
-class Caja;
-
 class Login_Window : public FXDialogBox {
   FXDECLARE(Login_Window)
  public:
@@ -23,7 +21,7 @@ class Login_Window : public FXDialogBox {
     ID_LAST,
   };
 
-  explicit Login_Window(Caja* owner);
+  explicit Login_Window(FXWindow* owner);
 
   /// Connects, opens the session and closes the dialog, or says what is wrong.
   long onCmdAceptar(FXObject*, FXSelector, void*);

@@ -20,8 +20,10 @@
 #include <memory>
 
 #include "framework/Campos.h"
-#include "framework/Iconos.h"
+#include "icons/Icono.h"
 #include "icons/iconos.h"
+#include "widgets/Boton.h"
+#include "widgets/CampoDeTexto.h"
 #include "widgets/TextoAcotado.h"
 
 template <class Ventana>
@@ -109,11 +111,11 @@ void Buscador<Ventana>::ArmaCampos(FXMatrix* matriz) {
   constexpr FXuint campo = FRAME_SUNKEN | FRAME_THICK | TEXTFIELD_LIMITED | LAYOUT_CENTER_Y;
   constexpr FXuint etiqueta = LABEL_NORMAL | LAYOUT_CENTER_Y;
   new FXLabel(matriz, "Buscar: ", nullptr, etiqueta | JUSTIFY_RIGHT);
-  txtBuscar = new FXTextField(matriz, 20, this, ID_BUSCAR, campo);
+  txtBuscar = new CampoDeTexto(matriz, 20, this, ID_BUSCAR, campo);
   Boton(matriz, "&Aceptar", iconos::ok_icon, ID_ACEPTAR, BUTTON_INITIAL | BUTTON_DEFAULT | LAYOUT_FILL_X);
   new FXLabel(matriz, "Filtro:", nullptr, etiqueta);
   auto* marco = new FXHorizontalFrame(matriz, LAYOUT_CENTER_Y, 0, 0, 0, 0, 0, 0, 0, 0);
-  txtFiltro = new FXTextField(marco, 20, &filtro.destino, FXDataTarget::ID_VALUE, campo);
+  txtFiltro = new CampoDeTexto(marco, 20, &filtro.destino, FXDataTarget::ID_VALUE, campo);
   Boton(marco, " ", iconos::find_icon, ID_FILTRO, LAYOUT_CENTER_Y);
   Boton(matriz, "&Cerrar", iconos::cerrar_icon, ID_CANCEL, LAYOUT_FILL_X);
 }
@@ -121,8 +123,7 @@ void Buscador<Ventana>::ArmaCampos(FXMatrix* matriz) {
 template <class Ventana>
 FXButton* Buscador<Ventana>::Boton(FXComposite* padre, const char* texto, const unsigned char* dibujo,
                                    FXSelector mensaje, FXuint opciones) {
-  return new FXButton(padre, texto, icono(getApp(), dibujo), this, mensaje,
-                      FRAME_RAISED | FRAME_THICK | ICON_BEFORE_TEXT | opciones);
+  return NuevoBoton(padre, texto, icono(getApp(), dibujo), this, mensaje, opciones);
 }
 
 template <class Ventana>

@@ -1,6 +1,6 @@
 #include "framework/CampoFecha.h"
 
-#include "framework/Iconos.h"
+#include "icons/Icono.h"
 #include "icons/iconos.h"
 #include "widgets/cFecha.h"
 

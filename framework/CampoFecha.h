@@ -9,19 +9,15 @@
 // A form with several dates numbers their buttons one after the other and picks the date in its handler.
 #pragma once
 
-#include <optional>
-
 #include "framework/Campos.h"
 #include "widgets/Calendario_Window.h"
 #include "widgets/date.h"
 
 /// A date as the screen writes it, dd/mm/yyyy, or the beginning of one.
 struct DatoFecha : DatoTexto {
-  /// Shows a date. That of an empty text and nothing, which is what `Pon({})` passes, empty the field: a
-  /// blank would be in the way of what is typed there.
-  void Pon(const std::optional<date>& nueva) {
-    DatoTexto::Pon(nueva ? FXString(nueva->AsDMY()).trim() : FXString::null);
-  }
+  /// Shows a date. That of an empty text empties the field: a blank would be in the way of what is typed
+  /// there.
+  void Pon(const date& nueva) { DatoTexto::Pon(FXString(nueva.AsDMY()).trim()); }
   /// A text is read by the places of dd/mm/yyyy, and one without the zeros between its slashes, where these
   /// give a year of four digits.
   date Valor() const {
@@ -39,9 +35,7 @@ struct DatoFecha : DatoTexto {
 /// The same for a form that writes day and month without zeros: what is typed is read between its slashes.
 /// Nothing typed is the date of a blank record.
 struct DatoFechaCorta : DatoTexto {
-  void Pon(const std::optional<date>& nueva) {
-    DatoTexto::Pon(nueva ? TextoDeFecha(*nueva, FormatoFecha::Corto) : FXString::null);
-  }
+  void Pon(const date& nueva) { DatoTexto::Pon(TextoDeFecha(nueva, FormatoFecha::Corto)); }
   date Valor() const { return valor.empty() ? date() : FechaDeTexto(valor); }
   long Elige(FXWindow* duenio) {
     DatoTexto::Pon(EligeFecha(duenio, valor, FormatoFecha::Corto));

@@ -4,7 +4,7 @@
 // The value is the key. The combo box is only its picture: it shows the first row when the key is unknown,
 // and nothing reads it but the handler of a choice in it.
 //
-//   DatoFila<Catalogo::Calculos, &cCalculo::getCalculoID, FindCalculo> formula;
+//   DatoFila<Catalogo::Calculos, &cCalculo::getCalculoID, FindCalculo> formula;   // catalogs/Posiciones.h
 //   ...
 //   formula.combo = campoCombo(matriz, "Calculo Interes:", 5, this, ID_CALCULO);
 //   formula.Llena(&cCalculo::getDescripcionCalculo);
@@ -15,26 +15,7 @@
 #include <fx.h>
 
 #include <functional>
-#include <optional>
 #include <type_traits>
-
-#include "db/Catalogo.h"
-
-/// Position in the cached catalogue of the first row with exactly this key; 0 if there is none.
-int FindCalculo(long numero);
-int FindTipoMovimiento(const char* tipoMovimientoID);
-int FindFinalidad(const char* claveFinalidad);
-int FindMoneda(const char* monedaID);
-int FindDepreciacion(long numero);
-int FindEstado(int estadoMexID);
-int FindCiudad(int ciudadMexID);
-int FindTipoUsuario(const char* tipoUsuarioID);
-/// The same among the users, counted from 1; 0, the place of "Ninguno", if there is none.
-int FindUsuario(const char* usuarioID);
-
-/// A movement type as a combo box shows it where its key is of use: key and description. Stays until the next
-/// call.
-const char* RenglonDeMovimiento(const cTipoMovimiento& tipo);
 
 /// `filas` is a map of the cache, `clave` the getter of the key, and `Find` the position of a key.
 template <const auto& filas, auto clave, auto Find>
@@ -57,11 +38,16 @@ class DatoFila {
     combo->setCurrentItem(-1);
   }
 
-  /// Stores a key and shows its row. Nothing, which is what `Pon({})` passes, empties both.
-  void Pon(std::optional<Clave> nueva) {
-    valor = nueva ? Valor_t(*nueva) : Valor_t();
-    const int posicion = nueva ? Find(*nueva) : -1;
+  /// Stores a key and shows its row.
+  void Pon(Clave nueva) {
+    valor = nueva;
+    const int posicion = Find(nueva);
     combo->setCurrentItem(posicion < combo->getNumItems() ? posicion : -1);
+  }
+  /// Neither a key nor a row.
+  void Vacia() {
+    valor = Valor_t();
+    combo->setCurrentItem(-1);
   }
   const auto& Valor() const { return valor; }
 

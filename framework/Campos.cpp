@@ -1,5 +1,7 @@
 #include "framework/Campos.h"
 
+#include <fxkeys.h>
+
 #include <charconv>
 
 #include "framework/Foco.h"
@@ -42,9 +44,82 @@ long CampoReal::onCmdSetRealValue(FXObject*, FXSelector, void* valor) {
   return 1;
 }
 
-void DatoOpcion::Pon(std::optional<int> nuevo) {
-  const int opcion = nuevo.value_or(-1);
-  combo->setCurrentItem(opcion >= 0 && opcion < combo->getNumItems() ? opcion : -1);
+FXDEFMAP(CampoOpciones)
+CampoOpcionesMap[] = {
+    FXMAPFUNC(SEL_KEYPRESS, 0, CampoOpciones::onKeyPress),
+    FXMAPFUNC(SEL_KEYRELEASE, 0, CampoOpciones::onKeyRelease),
+    FXMAPFUNC(SEL_UPDATE, 0, CampoOpciones::onUpdate),
+};
+FXIMPLEMENT(CampoOpciones, FXComboBox, CampoOpcionesMap, ARRAYNUMBER(CampoOpcionesMap))
+
+long CampoOpciones::onKeyPress(FXObject* emisor, FXSelector sel, void* evento) {
+  const auto* const tecla = static_cast<FXEvent*>(evento);
+  const FXuint con = tecla->state & (CONTROLMASK | ALTMASK);
+  const bool letra = con == 0 && static_cast<FXuchar>(tecla->text[0]) > ' ';
+  const bool abajo = tecla->code == KEY_Down || tecla->code == KEY_KP_Down;
+  if (!isPaneShown()) {
+    const bool abre = letra || tecla->code == KEY_F4 || tecla->code == KEY_space || (abajo && con == ALTMASK);
+    if (!abre || !isEnabled() || getNumItems() == 0) return FXComboBox::onKeyPress(emisor, sel, evento);
+    Abre();
+    if (letra) Mira(evento);
+    return 1;
+  }
+  switch (tecla->code) {
+    case KEY_Return:
+    case KEY_KP_Enter:
+      Toma();
+      break;
+    case KEY_Escape:
+    case KEY_F4:
+      Cierra();
+      break;
+    default:
+      if (con == 0) Mira(evento);
+  }
+  return 1;
+}
+
+long CampoOpciones::onKeyRelease(FXObject* emisor, FXSelector sel, void* evento) {
+  return isPaneShown() ? 1 : FXComboBox::onKeyRelease(emisor, sel, evento);
+}
+
+/// The list may have been closed by the mouse.
+long CampoOpciones::onUpdate(FXObject* emisor, FXSelector sel, void* datos) {
+  if (!isPaneShown()) Cierra();
+  return FXComboBox::onUpdate(emisor, sel, datos);
+}
+
+void CampoOpciones::killFocus() {
+  Cierra();
+  FXComboBox::killFocus();
+}
+
+void CampoOpciones::Abre() { button->handle(this, FXSEL(SEL_COMMAND, ID_POST), nullptr); }
+
+/// Leaves what was chosen before.
+void CampoOpciones::Cierra() {
+  if (isPaneShown()) button->handle(this, FXSEL(SEL_COMMAND, ID_UNPOST), nullptr);
+  if (elegida != nada) list->setCurrentItem(elegida);
+  elegida = nada;
+}
+
+/// A key that moves in the list, which chooses nothing yet.
+void CampoOpciones::Mira(void* evento) {
+  if (elegida == nada) elegida = list->getCurrentItem();
+  list->setTarget(nullptr);
+  list->handle(this, FXSEL(SEL_KEYPRESS, 0), evento);
+  list->setTarget(this);
+}
+
+void CampoOpciones::Toma() {
+  const FXint mirada = list->getCurrentItem();
+  elegida = nada;
+  if (mirada < 0) return Cierra();
+  list->handle(this, FXSEL(SEL_COMMAND, 0), reinterpret_cast<void*>(static_cast<FXival>(mirada)));
+}
+
+void DatoOpcion::Pon(int nuevo) {
+  combo->setCurrentItem(nuevo >= 0 && nuevo < combo->getNumItems() ? nuevo : -1);
 }
 
 FXComposite* campoRenglon(FXMatrix* matriz, const char* etiqueta) {
@@ -105,7 +180,7 @@ FXCheckButton* campoCasilla(FXComposite* padre, const char* etiqueta, FXObject* 
 FXComboBox* campoCombo(FXComposite* padre, const char* etiqueta, int visibles, FXObject* destino,
                        FXSelector mensaje) {
   Etiqueta(padre, etiqueta);
-  auto* combo = new FXComboBox(
+  auto* combo = new CampoOpciones(
       padre, 2, destino, mensaje,
       COMBOBOX_STATIC | FRAME_SUNKEN | FRAME_THICK | LAYOUT_CENTER_Y | LAYOUT_FILL_X | LAYOUT_FILL_COLUMN);
   combo->setNumVisible(visibles);

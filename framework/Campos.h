@@ -9,12 +9,14 @@
 
 #include <cstdlib>
 #include <memory>
-#include <optional>
 #include <string>
 #include <type_traits>
 
+#include "widgets/CampoDeTexto.h"
+
 /// A member of a form and what binds it to its field: what the user types is in `valor` at once, and Pon
-/// shows in the field what the program stores. T is FXString, FXint or FXdouble.
+/// shows in the field what the program stores. T is FXString, FXint or FXdouble. As every `Dato` it has Pon,
+/// Vacia, which leaves it as in a form that was just opened, and Valor.
 template <class T>
 struct Dato {
   T valor{};
@@ -24,8 +26,12 @@ struct Dato {
   /// Stores a value and shows it, also in a field that is being edited.
   void Pon(const T& nuevo) {
     valor = nuevo;
-    if (campo != nullptr) destino.handle(campo, FXSEL(SEL_UPDATE, FXDataTarget::ID_VALUE), nullptr);
+    if (campo == nullptr) return;
+    destino.handle(campo, FXSEL(SEL_UPDATE, FXDataTarget::ID_VALUE), nullptr);
+    CampoDeTexto::Olvida(campo);
   }
+  /// Nothing: no text, or 0.
+  void Vacia() { Pon(T{}); }
   /// What the field holds.
   const T& Valor() const { return valor; }
 };
@@ -43,12 +49,14 @@ struct DatoParrafo {
     valor = nuevo;
     campo->setText(valor);
   }
+  void Vacia() { Pon({}); }
   const FXString& Valor() { return valor = campo->getText(); }
 };
 
 /// A whole number with more digits than an FXint has; nothing in the field is 0.
 struct DatoLargo : DatoTexto {
   void Pon(long nuevo) { DatoTexto::Pon(FXString(std::to_string(nuevo).c_str())); }
+  void Vacia() { Pon(0); }
   long Valor() const { return strtol(valor.text(), nullptr, 10); }
 };
 
@@ -65,6 +73,7 @@ class DatoCasilla {
       boton->setCheck(static_cast<FXbool>(nuevo));
     }
   }
+  void Vacia() { Pon(T{}); }
   T Valor() const { return boton->getCheck() ? si : no; }
 
   FXCheckButton* boton = nullptr;
@@ -75,13 +84,14 @@ class DatoCasilla {
 };
 
 /// A check button that says "S" or "N" from the moment it is pressed; until then what was read stays as it
-/// is. Null, which is what `Pon({})` passes, is "N".
+/// is.
 class DatoSN {
  public:
   void Pon(const char* nuevo) {
-    valor = nuevo != nullptr ? nuevo : "N";
+    valor = nuevo;
     boton->setCheck(valor == "S");
   }
+  void Vacia() { Pon("N"); }
   const FXString& Valor() const { return valor; }
   /// What the handler of the button does.
   long Elige() {
@@ -95,19 +105,20 @@ class DatoSN {
   FXString valor;
 };
 
-/// A combo box of which the number of the current item is the value, -1 for none. Nothing, which is what
-/// `Pon({})` passes, and a number that it does not have leave it without one.
+/// A combo box of which the number of the current item is the value, -1 for none. A number that it does not
+/// have leaves it without one.
 struct DatoOpcion {
-  void Pon(std::optional<int> nuevo);
+  void Pon(int nuevo);
+  void Vacia() { Pon(-1); }
   FXint Valor() const { return combo->getCurrentItem(); }
 
   FXComboBox* combo = nullptr;
 };
 
 /// A text field as wide as its columns, and narrower where its row has no room for them.
-class Campo : public FXTextField {
+class Campo : public CampoDeTexto {
  public:
-  using FXTextField::FXTextField;
+  using CampoDeTexto::CampoDeTexto;
   void position(FXint x, FXint y, FXint ancho, FXint alto) override {
     FXTextField::position(x, y, FXMIN(ancho, getDefaultWidth()), alto);
   }
@@ -135,6 +146,31 @@ class CampoReal : public Campo {
 
  protected:
   CampoReal() {}
+};
+
+/// A combo box for the keyboard too: a letter, F4 and Alt with the down arrow open its list; there the keys
+/// that move in a list only look, Enter takes the item, Escape keeps the one before, and no other key reaches
+/// what lies behind.
+class CampoOpciones : public FXComboBox {
+  FXDECLARE(CampoOpciones)
+ public:
+  using FXComboBox::FXComboBox;
+  long onKeyPress(FXObject* emisor, FXSelector sel, void* evento);
+  long onKeyRelease(FXObject* emisor, FXSelector sel, void* evento);
+  long onUpdate(FXObject* emisor, FXSelector sel, void* datos);
+  void killFocus() override;
+
+ protected:
+  CampoOpciones() {}
+
+ private:
+  void Abre();
+  void Cierra();
+  void Mira(void* evento);
+  void Toma();
+
+  static constexpr FXint nada = -2;
+  FXint elegida = nada;  // the item before the user began to look around
 };
 
 /// A row of several fields: its label, if any, and the frame that they go into.

@@ -1,25 +1,25 @@
-// What every form shares: the list of rows, the column of buttons and the five commands, written once.
+// What every form shares: the five commands on the record of its catalogue, written once. Its body is
+// framework/CuerpoDeForma.h.
 //
 // A form `class X_Window : public Forma<X_Window, Base>`, Base being FXMDIChild or FXDialogBox, states its
 // title and size, its rows of fields, its message map (MAPA_FORMA), and (open to `friend Forma`):
 //
-//   auto& Actual()          the global record on which the form works
+//   auto& Actual()          the global record on which the form works, which outlives it
 //   auto& Filas()           the cached container that the list shows: a map keyed by row, or a `lista`
 //   void Relee()            the load of that catalogue
 //   void Prepara()          the loads that its combo boxes need, if any, and what they offer then
 //   auto Datos()            std::tuple of Liga(member, getter, setter) for every field in the order of the
 //                           screen, the key first; where it has several fields, camposDeClave of them
 //
-// A form without &Buscar names SinBuscar as the third argument. A form that differs in a step defines that
-// step itself under the same name: calls go down to the form. Its constructor builds in this order:
-// ArmaLista (or ArmaSinLista), ArmaGrupo with its rows (as often as there are groups), ArmaBotones, and Abre
-// (a child form) or Comienza (a dialog). catalogs/simple/Monedas_Window.cpp is the model of a child form,
-// Tipo_Garantia_Window.cpp of a dialog.
+// The header of a form declares that record, and behind it the text into which its rows are written, where
+// they go by way of one (EnBorrador). A form without &Buscar names SinBuscar as the third argument. A form
+// that differs in a step defines that step itself under the same name: calls go down to the form. Its
+// constructor builds in this order: ArmaLista (or ArmaSinLista), ArmaGrupo with its rows (as often as there
+// are groups), ArmaBotones, and Abre (a child form) or Comienza (a dialog). catalogs/simple/Grupo_Window.cpp
+// is the model of a child form, Modulo_Window.cpp of a dialog.
 #pragma once
 
 #include <fx.h>
-
-#include <fxkeys.h>
 
 #include <iostream>
 #include <tuple>
@@ -28,9 +28,8 @@
 
 #include "app/sesion.h"
 #include "framework/Campos.h"
+#include "framework/CuerpoDeForma.h"
 #include "framework/Filas.h"
-#include "framework/Foco.h"
-#include "framework/Iconos.h"
 #include "icons/iconos.h"
 #include "widgets/TextoAcotado.h"
 #include "widgets/cajas.h"
@@ -60,7 +59,7 @@ Ligado<Dato, Get, Set> Liga(Dato& dato, Get get, Set set) {
 enum Busqueda { ConBuscar, SinBuscar };
 
 template <class Ventana, class Base, Busqueda busqueda = ConBuscar>
-class Forma : public Base {
+class Forma : public Base, protected CuerpoDeForma {
  public:
   using Marco = Base;
 
@@ -110,38 +109,24 @@ class Forma : public Base {
   void EnfocaClave();
   /// A child of the main window's area.
   Forma(FXMDIClient* area, FXMDIMenu* menu, const char* titulo, const FXRectangle& lugar)
-      : Base(area, titulo, nullptr, menu, 0, lugar.x, lugar.y, lugar.w, lugar.h) {}
+      : Base(area, titulo, nullptr, menu, 0, lugar.x, lugar.y, lugar.w, lugar.h),
+        CuerpoDeForma(this, DeLasPiezas(FXWindow::ID_MDI_CLOSE)) {}
   /// A dialog.
   Forma(FXWindow* duenio, const char* titulo)
-      : Base(duenio, titulo, DECOR_TITLE | DECOR_BORDER | DECOR_RESIZE) {}
+      : Base(duenio, titulo, DECOR_TITLE | DECOR_BORDER | DECOR_RESIZE),
+        CuerpoDeForma(this, DeLasPiezas(FXDialogBox::ID_CANCEL)) {}
   ~Forma();
 
-  /// The frame of the form with the list of rows on its left, `ancho` points wide.
-  void ArmaLista(const char* titulo, FXint ancho = 150);
-  /// The frame of a form that lists no rows.
-  void ArmaSinLista();
-  /// The frame of a form that lists its rows in its own way: what it gives is on the left, `ancho` points
-  /// wide, and takes the list.
-  FXVerticalFrame* ArmaConMarco(FXint ancho);
-  /// A box in the middle; the rows of fields go into the matrix that it gives.
-  FXMatrix* ArmaGrupo(const char* titulo);
-  /// A book of pages below the boxes in the middle, which sends `mensaje` when another page comes up.
-  FXTabBook* ArmaLibro(FXSelector mensaje);
-  /// A page of it.
-  static FXVerticalFrame* ArmaPagina(FXTabBook* libro, const char* titulo);
-  /// The rows of fields of a box or of a page.
-  static FXMatrix* ArmaMatriz(FXComposite* padre, FXint columnas = 2,
-                              FXuint opciones = LAYOUT_FILL_X | LAYOUT_FILL_Y);
-  /// The column of buttons on the right.
-  FXGroupBox* ArmaBotones();
-  /// The same without any button yet.
-  FXGroupBox* ArmaColumna();
-  /// &Cerrar, at the bottom of the column.
-  FXButton* ArmaCerrar(FXComposite* columna);
-  /// A button of the column. One whose command closes the form is a plain FXButton.
-  template <class Clase = BotonDeForma>
-  FXButton* Boton(FXComposite* padre, const char* texto, const unsigned char* dibujo, FXSelector mensaje,
-                  FXuint opciones);
+  /// The frame of a form with a list, see CuerpoDeForma; F5 rereads it.
+  void ArmaLista(const char* titulo, FXint ancho = 150) {
+    CuerpoDeForma::ArmaLista(titulo, ancho);
+    AlReleer([this] { Relectura(); });
+  }
+  FXVerticalFrame* ArmaConMarco(FXint ancho) {
+    FXVerticalFrame* const marco = CuerpoDeForma::ArmaConMarco(ancho);
+    AlReleer([this] { Relectura(); });
+    return marco;
+  }
   /// Lists the catalogue and blanks the form for a new record. A load that fails is shown and leaves an empty
   /// list.
   void Comienza();
@@ -192,9 +177,11 @@ class Forma : public Base {
   /// Rolls back and shows a text that was thrown.
   void Falla(const char* texto);
 
-  FXList* lstFilas = nullptr;
-
  private:
+  static constexpr Mensajes DeLasPiezas(FXSelector cierre) {
+    return {ID_AGREGAR, busqueda == ConBuscar ? FXSelector(ID_FIND) : 0, ID_CLEAR, ID_BORRAR, ID_LISTA,
+            cierre};
+  }
   Ventana& Yo() { return static_cast<Ventana&>(*this); }
   /// Calls `accion` with the fields of the key.
   template <class Accion>
@@ -210,119 +197,17 @@ class Forma : public Base {
   void CadaDato(Accion accion) {
     std::apply([&](const auto&... ligado) { (accion(ligado), ...); }, Yo().Datos());
   }
-  void ArmaCuerpo();
-  void ArmaMedio();
+  void Relectura();
   void TomaClave();
   void MuestraFilaDelRegistro();
   void MuestraFila(int fila);
 
-  MarcoDeForma* cuerpo = nullptr;
-  FXVerticalFrame* grupos = nullptr;
   int ranura = -1;
 };
 
 template <class Ventana, class Base, Busqueda busqueda>
 Forma<Ventana, Base, busqueda>::~Forma() {
   if (ranura >= 0) mdiArray[ranura] = false;
-}
-
-template <class Ventana, class Base, Busqueda busqueda>
-void Forma<Ventana, Base, busqueda>::ArmaCuerpo() {
-  // A child form keeps the keys of its buttons to itself: in the main window's table they would take those of
-  // the menu away when the form closes.
-  if constexpr (std::is_base_of_v<FXMDIChild, Base>) this->setAccelTable(new FXAccelTable);
-  cuerpo = new MarcoDeForma(this, LAYOUT_FILL_X | LAYOUT_FILL_Y);
-}
-
-template <class Ventana, class Base, Busqueda busqueda>
-void Forma<Ventana, Base, busqueda>::ArmaMedio() {
-  grupos = new FXVerticalFrame(cuerpo, LAYOUT_FILL_X | LAYOUT_FILL_Y, 0, 0, 0, 0, 0, 0, 0, 0);
-}
-
-template <class Ventana, class Base, Busqueda busqueda>
-void Forma<Ventana, Base, busqueda>::ArmaSinLista() {
-  ArmaCuerpo();
-  ArmaMedio();
-}
-
-template <class Ventana, class Base, Busqueda busqueda>
-FXVerticalFrame* Forma<Ventana, Base, busqueda>::ArmaConMarco(FXint ancho) {
-  ArmaCuerpo();
-  auto* marco = new FXVerticalFrame(cuerpo, FRAME_SUNKEN | FRAME_THICK | LAYOUT_FIX_WIDTH | LAYOUT_FILL_Y, 0,
-                                    0, ancho, 0, 0, 0, 0, 0);
-  ArmaMedio();
-  return marco;
-}
-
-template <class Ventana, class Base, Busqueda busqueda>
-void Forma<Ventana, Base, busqueda>::ArmaLista(const char* titulo, FXint ancho) {
-  ArmaCuerpo();
-  // List and buttons keep their width; the fields have what is left.
-  auto* grupo = new FXGroupBox(cuerpo, titulo, FRAME_GROOVE | LAYOUT_FILL_Y);
-  auto* marco = new FXVerticalFrame(grupo, FRAME_SUNKEN | FRAME_THICK | LAYOUT_FILL_X | LAYOUT_FILL_Y, 0, 0,
-                                    0, 0, 0, 0, 0, 0);
-  lstFilas =
-      new ListaDeForma(marco, this, ID_LISTA,
-                       LIST_BROWSESELECT | HSCROLLER_NEVER | LAYOUT_FIX_WIDTH | LAYOUT_FILL_Y, 0, 0, ancho);
-  ArmaMedio();
-}
-
-template <class Ventana, class Base, Busqueda busqueda>
-FXMatrix* Forma<Ventana, Base, busqueda>::ArmaGrupo(const char* titulo) {
-  return ArmaMatriz(new FXGroupBox(grupos, titulo, FRAME_GROOVE | LAYOUT_FILL_X | LAYOUT_FILL_Y));
-}
-
-template <class Ventana, class Base, Busqueda busqueda>
-FXTabBook* Forma<Ventana, Base, busqueda>::ArmaLibro(FXSelector mensaje) {
-  return new FXTabBook(grupos, this, mensaje, LAYOUT_FILL_X | LAYOUT_FILL_Y, 0, 0, 0, 0, 0, 0, 0, 0);
-}
-
-template <class Ventana, class Base, Busqueda busqueda>
-FXVerticalFrame* Forma<Ventana, Base, busqueda>::ArmaPagina(FXTabBook* libro, const char* titulo) {
-  new FXTabItem(libro, titulo);
-  return new FXVerticalFrame(libro, FRAME_RAISED | FRAME_THICK, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0);
-}
-
-template <class Ventana, class Base, Busqueda busqueda>
-FXMatrix* Forma<Ventana, Base, busqueda>::ArmaMatriz(FXComposite* padre, FXint columnas, FXuint opciones) {
-  return new FXMatrix(padre, columnas, MATRIX_BY_COLUMNS | opciones, 0, 0, 0, 0, 4, 4, 2, 2);
-}
-
-template <class Ventana, class Base, Busqueda busqueda>
-FXGroupBox* Forma<Ventana, Base, busqueda>::ArmaColumna() {
-  return new FXGroupBox(cuerpo, "", LAYOUT_FILL_Y, 0, 0, 0, 0, 4, 4, 0, 0);
-}
-
-template <class Ventana, class Base, Busqueda busqueda>
-FXButton* Forma<Ventana, Base, busqueda>::ArmaCerrar(FXComposite* columna) {
-  constexpr FXSelector cierre = std::is_base_of_v<FXMDIChild, Base> ? FXSelector(FXWindow::ID_MDI_CLOSE)
-                                                                    : FXSelector(FXDialogBox::ID_CANCEL);
-  return Boton<FXButton>(columna, "&Cerrar", iconos::cerrar_icon, cierre, LAYOUT_SIDE_BOTTOM);
-}
-
-template <class Ventana, class Base, Busqueda busqueda>
-FXGroupBox* Forma<Ventana, Base, busqueda>::ArmaBotones() {
-  FXGroupBox* columna = ArmaColumna();
-  Boton(columna, "&Nuevo", iconos::nuevo_icon, ID_CLEAR, BUTTON_DEFAULT);
-  FXButton* buscar = nullptr;
-  if constexpr (busqueda == ConBuscar)
-    buscar = Boton(columna, "&Buscar", iconos::find_icon, ID_FIND, BUTTON_DEFAULT);
-  FXButton* const borrar = Boton(columna, "&Borrar", iconos::borrar_icon, ID_BORRAR, BUTTON_DEFAULT);
-  borrar->addHotKey(MKUINT(KEY_r, ALTMASK));
-  // Both labels underline the same letter: it finds, and what deletes has a key of its own.
-  if (buscar != nullptr) buscar->addHotKey(MKUINT(KEY_b, ALTMASK));
-  ArmaCerrar(columna);
-  Boton(columna, "&Aceptar", iconos::ok_icon, ID_AGREGAR, BUTTON_DEFAULT | LAYOUT_SIDE_BOTTOM);
-  return columna;
-}
-
-template <class Ventana, class Base, Busqueda busqueda>
-template <class Clase>
-FXButton* Forma<Ventana, Base, busqueda>::Boton(FXComposite* padre, const char* texto,
-                                                const unsigned char* dibujo, FXSelector mensaje,
-                                                FXuint opciones) {
-  return new Clase(padre, texto, icono(this->getApp(), dibujo), this, mensaje,
-                   FRAME_RAISED | FRAME_THICK | ICON_BEFORE_TEXT | LAYOUT_FILL_X | opciones);
 }
 
 template <class Ventana, class Base, Busqueda busqueda>
@@ -342,6 +227,7 @@ void Forma<Ventana, Base, busqueda>::Abre(const char* traza, int ranuraPropia) {
   Comienza();
   std::cout << traza << std::endl;
   this->create();
+  Acomoda();
   this->setFocus();
   ranura = ranuraPropia;
   mdiArray[ranura] = true;
@@ -353,6 +239,19 @@ long Forma<Ventana, Base, busqueda>::Load() {
   Yo().Relee();
   CadaFila(Yo().Filas(), [this](int, const auto& fila) { lstFilas->appendItem(Yo().Renglon(fila)); });
   return 1;
+}
+
+/// Rereads the list, whose current row stays where it is found again. Fields and record are left alone.
+template <class Ventana, class Base, Busqueda busqueda>
+void Forma<Ventana, Base, busqueda>::Relectura() {
+  const FXint fila = lstFilas != nullptr ? lstFilas->getCurrentItem() : -1;
+  const FXString texto = fila >= 0 ? lstFilas->getItemText(fila) : FXString::null;
+  try {
+    Yo().Load();
+    if (fila >= 0) MuestraFila(lstFilas->findItem(texto, fila));
+  } catch (char* error) {
+    Yo().Falla(error);
+  }
 }
 
 template <class Ventana, class Base, Busqueda busqueda>
@@ -367,7 +266,7 @@ void Forma<Ventana, Base, busqueda>::Update() {
 
 template <class Ventana, class Base, Busqueda busqueda>
 void Forma<Ventana, Base, busqueda>::Clear() {
-  CadaDato([](const auto& campo) { campo.dato.Pon({}); });
+  CadaDato([](const auto& campo) { campo.dato.Vacia(); });
 }
 
 template <class Ventana, class Base, Busqueda busqueda>

@@ -8,14 +8,17 @@
 //   auto Clave() const                  the key: a text, an integer, a date, or a std::pair of these
 //   Sentencia SqlAddNew() const         and SqlUpdate, SqlDelete, SqlFind: its four statements
 //   void AlInsertar()                   TomaClave(key), where the server assigns the key
-//   auto Campos()                       std::tie of its columns in the order of its members, where the
+//   auto Miembros()                     std::tie of its columns in the order of its members, where the
 //                                       constructor follows that one
 //
 // A record that is saved with more than one statement sends the others in AlInsertar and AlCambiar.
 //
-// Publicly it has its constructors, setters (through Pon and its like), getters, Check and clase(). A record
-// that others are built on names EngineVirtual as the second argument. What a record does in its own way it
-// defines under the same name.
+// Publicly it has two constructors, setters (through Pon and its like), getters, Check and clase(). The
+// constructor without arguments makes a blank record; that with every column and both flags stores each as it
+// stands, a key without the blanks behind it. Check answers true, or throws the message of the first rule
+// that is broken. A record that others are built on names EngineVirtual as the second argument. What a record
+// does in its own way it defines under the same name; only there does its header repeat what an operation
+// does.
 #pragma once
 
 #include <charconv>
@@ -25,7 +28,6 @@
 #include <type_traits>
 #include <utility>
 
-#include "app/sesion.h"
 #include "db/Engine.h"
 #include "framework/Sentencia.h"
 #include "widgets/TextoAcotado.h"
@@ -129,12 +131,6 @@ class Registro : public Base {
     dataChanged = isNew = false;
   }
 
-  /// Calls `accion` with each column, in the order of the server's answer.
-  template <class Accion>
-  void CadaColumna(Accion accion) const {
-    std::apply([&](const auto&... columna) { (accion(columna), ...); }, const_cast<Clase&>(Yo()).Columnas());
-  }
-
   /// Inserts the row if a setter changed anything; both flags false afterwards. Throws what Check throws,
   /// ahead of any statement, or the server's text, with the transaction left open.
   void AddNew() {
@@ -190,10 +186,10 @@ class Registro : public Base {
     isNew = nuevo;
   }
 
-  /// The same with `valores` in the order of Campos, and both flags behind them.
+  /// The same with `valores` in the order of Miembros, and both flags behind them.
   template <class... Valores>
-  void TomaCampos(const Valores&... valores) {
-    GuardaColumnas(std::tuple_cat(Yo().Campos(), std::tie(dataChanged, isNew)), valores...);
+  void TomaMiembros(const Valores&... valores) {
+    GuardaColumnas(std::tuple_cat(Yo().Miembros(), std::tie(dataChanged, isNew)), valores...);
   }
 
   /// A rule of Check: throws `mensaje` for an empty text.

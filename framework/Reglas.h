@@ -5,13 +5,13 @@
 //       {NoAfectable<&cX::getCuenta>, "La cuenta debe ser afectable"},
 //   };
 //
-// The order of the rows is the order of the tests. A rule on two columns is a lambda. Only the source of a
-// record includes this: the accounts are looked up in the cache, which holds the records.
+// The order of the rows is the order of the tests. A rule on two columns is a lambda.
 #pragma once
 
 #include <functional>
 
-#include "db/Catalogo.h"
+#include "db/Engine.h"
+#include "widgets/date.h"
 
 template <class Clase>
 struct Regla {
@@ -35,10 +35,14 @@ bool Vacio(const Clase& registro) {
   return std::invoke(get, registro)[0] == '\0';
 }
 
+/// Does the account take postings? One that is not in the chart does, the empty text too. The cache, which
+/// has the chart and stands above the records, answers (db/CatalogoConsulta.cpp).
+bool EsAfectable(const char* cuenta);
+
 /// An account of the chart that takes no postings; an empty or unknown one passes.
 template <auto get, class Clase>
 bool NoAfectable(const Clase& registro) {
-  return !catalogo.EsAfectable(std::invoke(get, registro));
+  return !EsAfectable(std::invoke(get, registro));
 }
 
 template <auto get, class Clase>

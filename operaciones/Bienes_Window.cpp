@@ -4,7 +4,7 @@
 
 #include "catalogs/people/Bien_Window.h"
 #include "framework/BusquedaSujeto_Window.h"
-#include "framework/Iconos.h"
+#include "icons/Icono.h"
 #include "icons/iconos.h"
 #include "widgets/cajas.h"
 

@@ -2,6 +2,7 @@
 // once the user has asked for them.
 #pragma once
 
+#include "catalogs/Posiciones.h"
 #include "catalogs/people/cColonia.h"
 #include "db/Catalogo.h"
 #include "framework/CampoFila.h"

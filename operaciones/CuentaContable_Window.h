@@ -14,9 +14,9 @@ extern cCatalogo_Ctas cuentacontable;  // the record on which the form works; ou
 /// A combo box of which the first letter of the current item is the value.
 struct DatoLetra {
   void Ofrece(std::initializer_list<const char*> renglones);
-  /// Null, which is what `Pon({})` passes, and a letter that it does not have leave it without a current
-  /// item.
+  /// Null and a letter that it does not have leave it without a current item.
   void Pon(const char* nueva);
+  void Vacia() { Pon(nullptr); }
   FXString Valor() const;
 
   FXComboBox* combo = nullptr;

@@ -3,8 +3,8 @@
 #include <cstdlib>
 
 #include "app/sesion.h"
+#include "catalogs/people/BusquedaSujeto_Window.h"
 #include "catalogs/people/cSujeto.h"
-#include "framework/BusquedaSujeto_Window.h"
 #include "framework/Sentencia.h"
 #include "reports/Archivo.h"
 #include "reports/Reporte.h"

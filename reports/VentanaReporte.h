@@ -17,9 +17,10 @@
 
 #include "db/Engine.h"
 #include "framework/Campos.h"
-#include "framework/Iconos.h"
+#include "icons/Icono.h"
 #include "icons/iconos.h"
 #include "reports/Preview_Window.h"
+#include "widgets/Boton.h"
 
 template <class Ventana>
 class VentanaReporte : public FXDialogBox {
@@ -100,8 +101,7 @@ void VentanaReporte<Ventana>::Arma(const char* imprime, FXTextField* campo) {
 template <class Ventana>
 void VentanaReporte<Ventana>::Boton(FXComposite* padre, const char* texto, FXIcon* dibujo, FXSelector mensaje,
                                     FXuint opciones) {
-  new FXButton(padre, texto, dibujo, this, mensaje,
-               FRAME_RAISED | FRAME_THICK | ICON_BEFORE_TEXT | LAYOUT_FILL_X | opciones);
+  NuevoBoton(padre, texto, dibujo, this, mensaje, LAYOUT_FILL_X | opciones);
 }
 
 template <class Ventana>

@@ -5,7 +5,7 @@ paquetes_programa=(g++ cmake ninja-build pkg-config libfox-1.6-dev libpq-dev fon
 paquetes_servidor=(postgresql-15 postgresql-15-cron)
 paquetes_pantalla=(xvfb openbox xdotool xclip imagemagick)
 paquetes_pruebas=(libgtest-dev python3) # whose csv reads the exports back
-paquetes_revision=(clang-format postgresql-15-pgtap libtap-parser-sourcehandler-pgtap-perl)
+paquetes_revision=(clang-format postgresql-15-pgtap libtap-parser-sourcehandler-pgtap-perl pgbackrest)
 
 falla() {
   printf '%s: %s\n' "$(basename "$0")" "$*" >&2
@@ -15,7 +15,7 @@ falla() {
 instalado() { [[ $(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null) == installed ]]; }
 
 # Installs the packages of the list that are missing. Without any, needs neither the network nor root.
-instala() {
+asegura_paquetes() {
   local paquete faltan=() root=()
   for paquete; do instalado "$paquete" || faltan+=("$paquete"); done
   ((${#faltan[@]})) || return 0

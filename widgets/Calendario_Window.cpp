@@ -1,7 +1,8 @@
 #include "widgets/Calendario_Window.h"
 
-#include "framework/Iconos.h"
+#include "icons/Icono.h"
 #include "icons/iconos.h"
+#include "widgets/Boton.h"
 #include "widgets/FXCalendar.h"
 
 FXDEFMAP(Calendario_Window)
@@ -26,8 +27,7 @@ Calendario_Window::Calendario_Window(FXWindow* owner, const date& d)
 void Calendario_Window::ArmaBotones(FXComposite* padre) {
   const auto boton = [&](const char* texto, const unsigned char* dibujo, FXSelector mensaje,
                          FXuint opciones) {
-    return new FXButton(padre, texto, icono(getApp(), dibujo), this, mensaje,
-                        FRAME_RAISED | FRAME_THICK | ICON_BEFORE_TEXT | LAYOUT_BOTTOM | opciones);
+    return NuevoBoton(padre, texto, icono(getApp(), dibujo), this, mensaje, LAYOUT_BOTTOM | opciones);
   };
   btnCerrar = boton("&Cerrar", iconos::cerrar_icon, ID_CANCEL, LAYOUT_FILL_X);
   btnAceptar = boton("&Aceptar", iconos::ok_icon, ID_ACEPTAR, BUTTON_DEFAULT);

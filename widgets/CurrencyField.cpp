@@ -4,18 +4,18 @@
 
 void CurrencyField::set(const FXString& texto) {
   if (texto.contains(',') == 0) {
-    valor_ = FXDoubleVal(texto);
+    valor = FXDoubleVal(texto);
     return;
   }
   FXString sinComas = texto;
   sinComas.substitute(",", "");
-  valor_ = FXDoubleVal(sinComas);
+  valor = FXDoubleVal(sinComas);
 }
 
 FXString CurrencyField::get() const {
   const double factor = std::pow(10, 2);
   FXString texto;
-  texto.format("%.2f", std::floor(valor_ * factor + 0.5) / factor);
+  texto.format("%.2f", std::floor(valor * factor + 0.5) / factor);
 
   // A text without a point ("inf", "nan") is too short to get a comma.
   const FXint signo = texto[0] == '-' ? 1 : 0;

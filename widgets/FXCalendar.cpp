@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-#include "framework/Iconos.h"
+#include "icons/Icono.h"
 #include "icons/iconos.h"
 
 namespace {

@@ -12,18 +12,18 @@ char* Duplica(const char* s) {
 
 }  // namespace
 
-Texto::Texto(const char* s) : texto_(Duplica(s)) {}
+Texto::Texto(const char* s) : texto(Duplica(s)) {}
 
-Texto::Texto(int n) : texto_(new char[std::max(n, 0) + size_t{1}]()) {}
+Texto::Texto(int n) : texto(new char[std::max(n, 0) + size_t{1}]()) {}
 
-Texto::Texto(const Texto& otro) : texto_(Duplica(otro.texto_)) {}
+Texto::Texto(const Texto& otro) : texto(Duplica(otro.texto)) {}
 
-Texto::~Texto() { delete[] texto_; }
+Texto::~Texto() { delete[] texto; }
 
 char* Texto::setTexto(const char* s) {
   char* nuevo = Duplica(s);  // before the old array goes, since `s` may lie in it
-  delete[] texto_;
-  return texto_ = nuevo;
+  delete[] texto;
+  return texto = nuevo;
 }
 
-char* Texto::getTexto(char* dst) const { return strcpy(dst, texto_ == nullptr ? "" : texto_); }
+char* Texto::getTexto(char* dst) const { return strcpy(dst, texto == nullptr ? "" : texto); }

@@ -1,6 +1,6 @@
+// A text that owns its characters, possibly null. It can be copied but not assigned.
 #pragma once
 
-// A text that owns its characters, possibly null. It can be copied but not assigned.
 class Texto {
  public:
   Texto() = default;              // null
@@ -10,13 +10,13 @@ class Texto {
   Texto& operator=(const Texto&) = delete;
   ~Texto();
 
-  // Replaces the text by a copy of `s`, which may be the present text or null, and returns the new array.
+  /// Replaces the text by a copy of `s`, which may be the present text or null, and returns the new array.
   char* setTexto(const char* s);
 
-  // Copies the text into `dst`, which must be large enough, and returns `dst`. A null text is copied as an
-  // empty one.
+  /// Copies the text into `dst`, which must be large enough, and returns `dst`. A null text is copied as an
+  /// empty one.
   char* getTexto(char* dst) const;
 
  private:
-  char* texto_ = nullptr;
+  char* texto = nullptr;
 };

@@ -7,7 +7,7 @@ namespace {
 
 bool EsContinuacion(char c) { return (c & 0xC0) == 0x80; }
 
-// Bytes of the character that `c` begins.
+/// Bytes of the character that `c` begins.
 size_t LargoDeCaracter(char c) {
   const auto cabeza = static_cast<unsigned char>(c);
   if (cabeza >= 0xC2 && cabeza <= 0xDF) return 2;

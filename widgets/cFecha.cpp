@@ -30,17 +30,17 @@ cFechaMap[] = {
     FXMAPFUNC(SEL_KEYPRESS, 0, cFecha::onKeyPress),
 };
 
-FXIMPLEMENT(cFecha, FXTextField, cFechaMap, ARRAYNUMBER(cFechaMap))
+FXIMPLEMENT(cFecha, CampoDeTexto, cFechaMap, ARRAYNUMBER(cFechaMap))
 
 cFecha::cFecha(FXObject* dueno, FXComposite* parent, FXint columns, FXObject* target, FXSelector selector,
                FXuint opts)
-    : FXTextField(parent, columns, target, selector, opts, 0, 0, 0, 0, 2, 2, 2, 2), owner(dueno) {}
+    : CampoDeTexto(parent, columns, target, selector, opts, 0, 0, 0, 0, 2, 2, 2, 2), owner(dueno) {}
 
 long cFecha::onValidaFecha(FXObject* sender, FXSelector selector, void* texto) {
   FXTextField::onVerify(sender, selector, texto);
-  return PareceFecha(static_cast<const char*>(texto)) ? 0 : 1;
+  return PareceFecha(static_cast<const char*>(texto)) ? 0 : Rechaza();
 }
 
 long cFecha::onKeyPress(FXObject* sender, FXSelector selector, void* evento) {
-  return FXTextField::onKeyPress(sender, selector, evento);
+  return CampoDeTexto::onKeyPress(sender, selector, evento);
 }

@@ -5,9 +5,9 @@
 // is refused with a beep while it is typed; erasing is never refused.
 #pragma once
 
-#include <fx.h>
+#include "widgets/CampoDeTexto.h"
 
-class cFecha : public FXTextField {
+class cFecha : public CampoDeTexto {
   FXDECLARE(cFecha)
  public:
   /// `owner` is kept and not used.

@@ -125,11 +125,26 @@ void PonDebajo(FXMessageBox& caja, FXWindow* duenio) {
   caja.position(FXMAX(0, x + (duenio->getWidth() - ancho) / 2), arriba, ancho, alto);
 }
 
+/// Leaves out the two lines with which a server points into a statement of ours, "LINE 1: ..." and blanks up
+/// to a "^": no setting of its library does without losing the hint.
+void QuitaSentencia(FXString& texto) {
+  for (FXint marca = texto.find('^'); marca >= 0; marca = texto.find('^', marca + 1)) {
+    const FXint renglon = texto.rfind('\n', marca);
+    const FXint antes = renglon > 0 ? texto.rfind('\n', renglon - 1) : -1;
+    if (antes < 0 || !texto.mid(renglon + 1, marca - renglon - 1).trim().empty()) continue;
+    const FXString senalada = texto.mid(antes + 1, renglon - antes - 1);
+    if (!senalada.contains("LINE ") && !senalada.contains("LÍNEA ")) continue;
+    texto.erase(antes, marca + 1 - antes);
+    return;
+  }
+}
+
 /// Shows a box and answers what was clicked in it.
 FXuint Muestra(FXWindow* duenio, const unsigned char* dibujo, FXuint botones, const FXString& titulo,
                const char* texto) {
   FXString visible = *texto == '\0' ? "No hay conexión con el servidor." : texto;
   visible.substitute("%%", "%");
+  QuitaSentencia(visible);
   FXGIFIcon icono(duenio->getApp(), dibujo);
   const FXuint opciones = botones | DECOR_TITLE | DECOR_BORDER;
   if (std::optional<FXString> lineas = EnLineas(visible)) {

@@ -1,9 +1,10 @@
 // The boxes of the system: errors, news and questions. Each blocks until it is answered.
 //
 // `texto` has the shape of a printf format without arguments: "%%" shows as "%", and a directive shows as it
-// stands. An empty text, which is what a closed connection leaves, shows as a sentence that says so. Lines
-// wider than 90 characters are broken. A text of more than 30 lines is shown whole in an area that scrolls by
-// the wheel, its bar and the keys that move in a text, so that a box always fits on the screen.
+// stands. The lines with which a server points into a statement are left out. An empty text, which is what a
+// closed connection leaves, shows as a sentence that says so. Lines wider than 90 characters are broken. A
+// text of more than 30 lines is shown whole in an area that scrolls by the wheel, its bar and the keys that
+// move in a text, so that a box always fits on the screen.
 #pragma once
 
 #include <fx.h>

@@ -13,23 +13,23 @@
 
 namespace {
 
-// Two-digit years below this one belong to this century.
-constexpr int kGiroDeSiglo = 25;
+/// Two-digit years below this one belong to this century.
+constexpr int giroDeSiglo = 25;
 
 int AnioCompleto(int anio) {
   if (anio > 99) return anio;
-  return anio + (anio < kGiroDeSiglo ? 2000 : 1900);
+  return anio + (anio < giroDeSiglo ? 2000 : 1900);
 }
 
 bool Bisiesto(int anio) { return (anio % 4 == 0 && anio % 100 != 0) || anio % 400 == 0; }
 
-// Steps onwards by n years; an absurd year wraps around into the negative, which is no valid date.
+/// Steps onwards by n years; an absurd year wraps around into the negative, which is no valid date.
 int SumaAnios(int anio, int n) {
   return static_cast<int>(static_cast<unsigned>(anio) + static_cast<unsigned>(n));
 }
 
-// Writes a number, which must not have more, in `ancho` digits with `detras` behind them; answers the place
-// after.
+/// Writes a number, which must not have more, in `ancho` digits with `detras` behind them; answers the place
+/// after.
 char* PonPieza(char* lugar, int numero, int ancho, char detras) {
   char* const fin = lugar + ancho;
   *fin = detras;
@@ -43,20 +43,20 @@ date Camina(date d, unsigned pasos, date (*paso)(const date&)) {
   return d;
 }
 
-// Without sign, so that the most negative int has one too.
+/// Without sign, so that the most negative int has one too.
 unsigned Magnitud(int n) { return n < 0 ? 0U - static_cast<unsigned>(n) : static_cast<unsigned>(n); }
 
 }  // namespace
 
 date::date() : date(1, 1, 1900) {}
 
-date::date(int day, int month, int year) : year_(AnioCompleto(year)), month_(month), day_(day) { Formatea(); }
+date::date(int day, int month, int year) : anio(AnioCompleto(year)), mes(month), dia(day) { Formatea(); }
 
 date::date(long yyyymmdd)
-    : year_(static_cast<int>(yyyymmdd / 10000)),
-      month_(static_cast<int>(yyyymmdd % 10000 / 100)),
-      day_(static_cast<int>(yyyymmdd % 100)) {
-  if (year_ <= 99) year_ += 1900;
+    : anio(static_cast<int>(yyyymmdd / 10000)),
+      mes(static_cast<int>(yyyymmdd % 10000 / 100)),
+      dia(static_cast<int>(yyyymmdd % 100)) {
+  if (anio <= 99) anio += 1900;
   Formatea();
 }
 
@@ -68,44 +68,44 @@ date::date(const char* texto) {
   };
 
   if (isdigit(static_cast<unsigned char>(copia[4]))) {
-    day_ = pieza(0, 2);
-    month_ = pieza(3, 2);
-    year_ = pieza(6, 4);
+    dia = pieza(0, 2);
+    mes = pieza(3, 2);
+    anio = pieza(6, 4);
   } else {
-    year_ = pieza(0, 4);
-    month_ = pieza(5, 2);
-    day_ = pieza(8, 2);
+    anio = pieza(0, 4);
+    mes = pieza(5, 2);
+    dia = pieza(8, 2);
   }
   Formatea();
 }
 
 date& date::operator=(const date& d) {
-  year_ = d.year();
-  month_ = d.month();
-  day_ = d.day();
+  anio = d.year();
+  mes = d.month();
+  dia = d.day();
   Formatea();
   return *this;
 }
 
 void date::Formatea() {
   const auto cabe = [](int numero, int tope) { return numero >= 0 && numero <= tope; };
-  if (cabe(day_, 99) && cabe(month_, 99) && cabe(year_, 9999)) {
+  if (cabe(dia, 99) && cabe(mes, 99) && cabe(anio, 9999)) {
     // Nearly all of them; an export formats them by the hundred thousand.
-    PonPieza(PonPieza(PonPieza(pantalla_, day_, 2, '/'), month_, 2, '/'), year_, 4, '\0');
-    PonPieza(PonPieza(PonPieza(servidor_, year_, 4, '-'), month_, 2, '-'), day_, 2, '\0');
+    PonPieza(PonPieza(PonPieza(pantalla, dia, 2, '/'), mes, 2, '/'), anio, 4, '\0');
+    PonPieza(PonPieza(PonPieza(servidor, anio, 4, '-'), mes, 2, '-'), dia, 2, '\0');
     return;
   }
-  FormateaTexto(pantalla_, "%02d/%02d/%04d", day_, month_, year_);
-  FormateaTexto(servidor_, "%04d-%02d-%02d", year_, month_, day_);
+  FormateaTexto(pantalla, "%02d/%02d/%04d", dia, mes, anio);
+  FormateaTexto(servidor, "%04d-%02d-%02d", anio, mes, dia);
 }
 
-const char* date::AsDMY() const { return strcmp(pantalla_, "00/00/0000") == 0 ? " " : pantalla_; }
+const char* date::AsDMY() const { return strcmp(pantalla, "00/00/0000") == 0 ? " " : pantalla; }
 
 bool date::valid() const {
-  static constexpr int kDiasDelMes[2][13] = {{0, 31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31},
-                                             {0, 31, 29, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31}};
-  if (year_ < 0 || month_ < 1 || month_ > 12 || day_ < 1) return false;
-  return day_ <= kDiasDelMes[Bisiesto(year_)][month_];
+  static constexpr int diasDelMes[2][13] = {{0, 31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31},
+                                            {0, 31, 29, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31}};
+  if (anio < 0 || mes < 1 || mes > 12 || dia < 1) return false;
+  return dia <= diasDelMes[Bisiesto(anio)][mes];
 }
 
 bool operator==(const date& a, const date& b) {

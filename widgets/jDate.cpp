@@ -9,7 +9,7 @@ const char* const jDate::dayNames[7] = {"Dom", "Lun", "Mar", "Mie", "Jue", "Vie"
 const short jDate::monthDays[13] = {0, 31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
 
 bool jDate::setDate(int year, int month, int day) {
-  jd_ = greg2jul(year, month, day);
+  numero = greg2jul(year, month, day);
   return true;
 }
 
@@ -21,27 +21,27 @@ bool jDate::today() {
 
 int jDate::day() const {
   int anio, mes, dia;
-  jul2greg(jd_, anio, mes, dia);
+  jul2greg(numero, anio, mes, dia);
   return dia;
 }
 
 int jDate::month() const {
   int anio, mes, dia;
-  jul2greg(jd_, anio, mes, dia);
+  jul2greg(numero, anio, mes, dia);
   return mes;
 }
 
 int jDate::year() const {
   int anio, mes, dia;
-  jul2greg(jd_, anio, mes, dia);
+  jul2greg(numero, anio, mes, dia);
   return anio;
 }
 
 int jDate::daysInMonth() const { return month() == 2 && leapYear(year()) ? 29 : monthDays[month()]; }
 
-int jDate::dayOfWeek() const { return static_cast<int>(((jd_ + 1) % 7 + 6) % 7); }
+int jDate::dayOfWeek() const { return static_cast<int>(((numero + 1) % 7 + 6) % 7); }
 
-int jDate::dayOfYear() const { return static_cast<int>(jd_ - greg2jul(year(), 1, 1) + 1); }
+int jDate::dayOfYear() const { return static_cast<int>(numero - greg2jul(year(), 1, 1) + 1); }
 
 const char* jDate::monthName(int i) { return i >= 1 && i <= 12 ? monthNames[i - 1] : ""; }
 

@@ -1,15 +1,15 @@
+// A day as its Julian day number, for the calendar's month grid. Months and days out of range run on into the
+// neighbouring months, which is what the calendar's arrows rely on.
 #pragma once
 
 #include <cstdint>
 
-// A day as its Julian day number, for the calendar's month grid. Months and days out of range run on into the
-// neighbouring months, which is what the calendar's arrows rely on.
 class jDate {
  public:
   jDate() { today(); }
   jDate(int year, int month, int day) { setDate(year, month, day); }
 
-  // Both always answer true.
+  /// Both always answer true.
   bool setDate(int year, int month, int day);
   bool today();  // the local date of the machine
 
@@ -25,7 +25,7 @@ class jDate {
   static const char* dayName(int i);    // i from 0, "Dom", to 6, "Sab"
   static bool leapYear(int year);
 
-  // Years up to 99 lie in the last century, here without a turn of the century at 25.
+  /// Years up to 99 lie in the last century, here without a turn of the century at 25.
   static std::uint32_t greg2jul(int year, int month, int day);
   static void jul2greg(std::uint32_t jd, int& year, int& month, int& day);
 
@@ -34,5 +34,5 @@ class jDate {
   static const short monthDays[13];  // of a common year; entry 0 is 0
 
  private:
-  std::uint32_t jd_;
+  std::uint32_t numero;
 };

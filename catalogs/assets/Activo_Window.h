@@ -2,14 +2,14 @@
 // for taxes. No option opens it.
 #pragma once
 
+#include "catalogs/Posiciones.h"
 #include "catalogs/assets/cActivo.h"
-#include "db/Catalogo.h"
 #include "framework/CampoFecha.h"
 #include "framework/CampoFila.h"
 #include "framework/Forma.h"
 
-extern cActivo activo;     // the record on which the form works; outlives it
-extern char sActivo[281];  // a row of the list: code and description
+extern cActivo activo;
+extern char sActivo[281];  // a row: code and description
 
 class Activo_Window : public Forma<Activo_Window, FXDialogBox> {
   FXDECLARE(Activo_Window)
@@ -91,9 +91,9 @@ class Activo_Window : public Forma<Activo_Window, FXDialogBox> {
 
   /// The currency. Blanking the form leaves that of the record in it, with a combo box that shows none.
   struct DatoMoneda : DatoFila<Catalogo::Monedas, &cMonedas::getMonedaID, FindMoneda> {
-    void Pon(std::optional<const char*> nueva) {
-      DatoFila::Pon(nueva);
-      if (!nueva) valor = activo.getMonedaID();
+    void Vacia() {
+      DatoFila::Vacia();
+      valor = activo.getMonedaID();
     }
   };
 

@@ -1,20 +1,20 @@
 // The form of the depreciation types. No option opens it.
 #pragma once
 
+#include "catalogs/Posiciones.h"
 #include "catalogs/assets/cTipoDepreciacion.h"
-#include "db/Catalogo.h"
-#include "framework/CampoCuenta.h"
+#include "catalogs/finance/CampoCuenta.h"
 #include "framework/CampoFila.h"
 #include "framework/Forma.h"
 
-extern cTipoDepreciacion depreciacion;  // the record on which the form works; outlives it
+extern cTipoDepreciacion depreciacion;
 
 // clang-format off
 #define CUENTAS_DEPRECIACION(CUENTA)                                         \
-  CUENTA("Cta. Activo:", Depre_Activo, onCmdDepre_Activo, true)              \
-  CUENTA("Cta. Depreciación:", Depre_CtaDepre, onCmdDepre_CtaDepre, true)    \
-  CUENTA("Cta. Gasto:", Depre_CtaGasto, onCmdDepre_CtaGasto, true)           \
-  CUENTA("Cta. Baja:", Depre_CtaBaja, onCmdDepre_CtaBaja, true)
+  CUENTA("Cta. Activo:", Depre_Activo, onCmdDepre_Activo)                    \
+  CUENTA("Cta. Depreciación:", Depre_CtaDepre, onCmdDepre_CtaDepre)          \
+  CUENTA("Cta. Gasto:", Depre_CtaGasto, onCmdDepre_CtaGasto)                 \
+  CUENTA("Cta. Baja:", Depre_CtaBaja, onCmdDepre_CtaBaja)
 // clang-format on
 
 class TipoDepreciaciones_Window : public Forma<TipoDepreciaciones_Window, FXDialogBox> {

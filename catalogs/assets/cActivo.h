@@ -7,11 +7,9 @@
 class cActivo : public Registro<cActivo> {
  public:
   cActivo() { Clear(); }
-  /// One value for each column, in the order in which they are declared, and both flags; stored as they
-  /// stand.
   template <class... Valores>
   explicit cActivo(long id, long depreciacion, Valores... valores) {
-    TomaCampos(id, depreciacion, valores...);
+    TomaMiembros(id, depreciacion, valores...);
   }
 
   void setActivoID(long valor) { Pon(ActivoID, valor); }
@@ -66,7 +64,7 @@ class cActivo : public Registro<cActivo> {
   const char* getMonedaID() const { return MonedaID; }
   int getDepartamento() const { return Departamento; }
 
-  /// True, or throws the message of the first rule that is broken. A date need not be a day of the calendar.
+  /// A date need not be a day of the calendar.
   bool Check();
   const char* clase() const { return "Activo"; }
 
@@ -81,7 +79,7 @@ class cActivo : public Registro<cActivo> {
                     ActivoTasaFiscal, ActDepreAcumFiscal, ActMetodoDepreFiscal, ActMonMaxDeduFiscal,
                     MontoOriginal, MonedaID, Departamento);
   }
-  auto Campos() { return Columnas(); }
+  auto Miembros() { return Columnas(); }
   long Clave() const { return ActivoID; }
   bool HayClaveFind() const { return ActivoID != 0; }
   void AlInsertar() { TomaClave(ActivoID); }

@@ -7,11 +7,9 @@
 class cTipoDepreciacion : public Registro<cTipoDepreciacion> {
  public:
   cTipoDepreciacion() { Clear(); }
-  /// One value for each column, in the order in which they are declared, and both flags; stored as they
-  /// stand.
   template <class... Valores>
   explicit cTipoDepreciacion(long id, const char* descripcion, Valores... valores) {
-    TomaCampos(id, descripcion, valores...);
+    TomaMiembros(id, descripcion, valores...);
   }
 
   void setDepreciacionID(long valor) { Pon(DepreciacionID, valor); }
@@ -39,7 +37,7 @@ class cTipoDepreciacion : public Registro<cTipoDepreciacion> {
   const char* getDepre_CtaGasto() const { return Depre_CtaGasto; }
   const char* getDepre_CtaBaja() const { return Depre_CtaBaja; }
 
-  /// True, or throws the message of the first rule that is broken. Accounts that take no postings pass.
+  /// Accounts that take no postings pass.
   bool Check();
   const char* clase() const { return "Tipo de Depreciacion"; }
 
@@ -50,7 +48,7 @@ class cTipoDepreciacion : public Registro<cTipoDepreciacion> {
     return std::tie(DepreciacionID, DepreMoneda, Depre_Activo, Depre_CtaDepre, Depre_CtaGasto, Depre_CtaBaja,
                     DepreDescripcion, DepreTasaContable, DepreTasaFiscal, MaximoDeducible, DeprePorcentaje);
   }
-  auto Campos() {
+  auto Miembros() {
     return std::tie(DepreciacionID, DepreDescripcion, DepreTasaContable, DepreTasaFiscal, MaximoDeducible,
                     DepreMoneda, DeprePorcentaje, Depre_Activo, Depre_CtaDepre, Depre_CtaGasto,
                     Depre_CtaBaja);

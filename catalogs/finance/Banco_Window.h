@@ -1,15 +1,16 @@
 // The form of the bank accounts.
 #pragma once
 
+#include "catalogs/finance/Busqueda_Window.h"
+#include "catalogs/finance/CampoCuenta.h"
 #include "catalogs/finance/cBanco.h"
 #include "db/Catalogo.h"
-#include "framework/CampoCuenta.h"
 #include "framework/CampoFecha.h"
 #include "framework/Forma.h"
 
-extern cBanco banco;  // the record on which the form works; outlives it
+extern cBanco banco;
 
-#define CUENTAS_BANCO(CUENTA) CUENTA("Cta. Contable:", CuentaID, onCmdCuenta, true)
+#define CUENTAS_BANCO(CUENTA) CUENTA("Cta. Contable:", CuentaID, onCmdCuenta)
 
 class Banco_Window : public Forma<Banco_Window, FXMDIChild> {
   FXDECLARE(Banco_Window)
@@ -28,6 +29,8 @@ class Banco_Window : public Forma<Banco_Window, FXMDIChild> {
   CUENTAS_BANCO(CUENTA_MANEJADOR)
   long onCmdBusqueda(FXObject*, FXSelector sel, void*) { return cuentas.Busca(FXSELID(sel) - ID_BUSCAR); }
   long onCmdCalendario(FXObject*, FXSelector, void*) { return fechaInicio.Elige(this); }
+  /// The place of an account in the combo box, 0 if it has none there.
+  static int FindCuenta(const char* cuenta) { return ::FindCuenta(cuenta); }
 
  protected:
   Banco_Window() {}

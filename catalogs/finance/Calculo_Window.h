@@ -5,8 +5,8 @@
 #include "db/Catalogo.h"
 #include "framework/Forma.h"
 
-extern cCalculo calculo;   // the record on which the form works; outlives it
-extern char sCalculo[44];  // a row of the list
+extern cCalculo calculo;
+extern char sCalculo[44];
 
 class Calculo_Window : public Forma<Calculo_Window, FXDialogBox> {
   FXDECLARE(Calculo_Window)

@@ -4,7 +4,7 @@
 #include "catalogs/finance/FormaSerie.h"
 #include "catalogs/finance/cInabil.h"
 
-extern cInabil inabil;  // the record on which the form works; outlives it
+extern cInabil inabil;
 
 class Inabil_Window : public cInabil, public FormaDiaria<Inabil_Window> {
   FXDECLARE(Inabil_Window)

@@ -4,7 +4,7 @@
 #include "catalogs/finance/FormaSerie.h"
 #include "catalogs/finance/cInpc.h"
 
-extern cInpc inpc;  // the record on which the form works; outlives it
+extern cInpc inpc;
 
 class Inpc_Window : public FormaMensual<Inpc_Window> {
   FXDECLARE(Inpc_Window)

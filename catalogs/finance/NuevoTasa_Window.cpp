@@ -35,6 +35,7 @@ NuevoTasa_Window::NuevoTasa_Window(FXMDIClient* area, FXMDIMenu* menu, long clav
     tasa.setIsNew(true);
   }
   create();
+  Acomoda();
   setFocus();
 }
 

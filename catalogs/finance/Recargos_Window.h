@@ -4,7 +4,7 @@
 #include "catalogs/finance/FormaSerie.h"
 #include "catalogs/finance/cRecargos.h"
 
-extern cRecargos recargos;  // the record on which the form works; outlives it
+extern cRecargos recargos;
 
 class Recargos_Window : public FormaMensual<Recargos_Window> {
   FXDECLARE(Recargos_Window)

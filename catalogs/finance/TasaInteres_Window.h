@@ -9,10 +9,18 @@
 
 extern cTipoTasaInteres tasas;  // the row shown
 extern char Buffers[200];       // the statement last sent, or its beginning
-extern FXString tasa;           // name, description and old name as the last command took them
-extern FXString des;
-extern FXString neww;
+extern char* tasa;              // name, description and old name as the last command took them
+extern char* des;
+extern char* neww;
 extern bool flag;  // &Nuevo was pressed, and &Aceptar not since; outlives the form
+// Nothing uses these.
+extern char sDescripciones[100];
+extern char* cup;
+extern char* date1;
+extern char* date2;
+extern int no1;
+extern int no2;
+extern bool nuevo;
 
 class TasaInteres_Window : public Forma<TasaInteres_Window, FXDialogBox> {
   FXDECLARE(TasaInteres_Window)
@@ -39,6 +47,7 @@ class TasaInteres_Window : public Forma<TasaInteres_Window, FXDialogBox> {
  private:
   friend Forma;
   void EnfocaClave() { DaTeclado(nombre.campo); }
+  void Falla(const char* texto) { cajaError(this, "Error en Validación", texto); }
   bool EstaVacia(const char* aviso);
   void Manda(const Sentencia& sql);
 

@@ -1,25 +1,25 @@
 // The form of the investment types.
 #pragma once
 
+#include "catalogs/Posiciones.h"
+#include "catalogs/finance/CampoCuenta.h"
 #include "catalogs/finance/cTipoInversion.h"
-#include "db/Catalogo.h"
-#include "framework/CampoCuenta.h"
 #include "framework/CampoFila.h"
 #include "framework/Forma.h"
 
-extern cTipoInversion tipoinversion;  // the record on which the form works; outlives it
-extern char sTipoInversion[32];       // a row of the list
+extern cTipoInversion tipoinversion;
+extern char sTipoInversion[32];
 
 // Labels and columns do not always say the same of an account.
 // clang-format off
 #define CUENTAS_INVERSION(CUENTA)                                                       \
-  CUENTA("Pasivo:", CuentaPasivo, onCmdCuentaPasivo, true)                              \
-  CUENTA("Interes devengado:", CuentaPasivoVencida, onCmdCuentaPasivoVencido, true)     \
-  CUENTA("Interes:", CuentaIntInver, onCmdCuentaIntInver, true)                         \
-  CUENTA("Interes No Cobrado:", CuentaIntInverNoCob, onCmdCuentaIntInverNoCob, true)    \
-  CUENTA("Cta. IDE:", CuentaIvaInver, onCmdCuentaIvaInver, true)                        \
-  CUENTA("Cuenta ISR:", CuentaRiesgoCred, onCmdCuentaRiesgoCred, true)                  \
-  CUENTA("Provision ISR:", CuentaProvisionISR, onCmdCuentaProvisionISR, true)
+  CUENTA("Pasivo:", CuentaPasivo, onCmdCuentaPasivo)                                    \
+  CUENTA("Interes devengado:", CuentaPasivoVencida, onCmdCuentaPasivoVencido)           \
+  CUENTA("Interes:", CuentaIntInver, onCmdCuentaIntInver)                               \
+  CUENTA("Interes No Cobrado:", CuentaIntInverNoCob, onCmdCuentaIntInverNoCob)          \
+  CUENTA("Cta. IDE:", CuentaIvaInver, onCmdCuentaIvaInver)                              \
+  CUENTA("Cuenta ISR:", CuentaRiesgoCred, onCmdCuentaRiesgoCred)                        \
+  CUENTA("Provision ISR:", CuentaProvisionISR, onCmdCuentaProvisionISR)
 // clang-format on
 
 class TipoInversion_Window : public Forma<TipoInversion_Window, FXMDIChild> {

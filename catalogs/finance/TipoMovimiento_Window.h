@@ -1,27 +1,27 @@
 // The form of the movement types.
 #pragma once
 
+#include "catalogs/finance/CampoCuenta.h"
 #include "catalogs/finance/cTipoMovimiento.h"
 #include "db/Catalogo.h"
-#include "framework/CampoCuenta.h"
 #include "framework/Forma.h"
 
-extern cTipoMovimiento tipomovimiento;  // the record on which the form works; outlives it
-extern char sTipoMovimiento[31];        // a row of the list
+extern cTipoMovimiento tipomovimiento;
+extern char sTipoMovimiento[31];
 
 // clang-format off
 #define CUENTAS_MOVIMIENTO(CUENTA)                                                    \
-  CUENTA("Cta. Deposito:", CuentaDeposito, onCmdCuentaDeposito, true)                 \
-  CUENTA("Cta. Retiro:", CuentaRetiro, onCmdCuentaRetiro, true)                       \
-  CUENTA("Cta. Int. Pagado:", CuentaIntPagado, onCmdCuentaIntPagado, true)            \
-  CUENTA("Cta. Int. Cobrado:", CuentaIntCobrado, onCmdCuentaIntCobrado, true)         \
-  CUENTA("Cta. IDE:", CuentaIvaMovimiento, onCmdCuentaIvaMovimiento, true)            \
-  CUENTA("Cta. ISR:", CuentaISR, onCmdCuentaISR, true)                                \
-  CUENTA("Provision ISR:", CuentaProvisionISR, onCmdCuentaProvisionISR, true)         \
-  CUENTA("Cta. Orden Acredor:", CuentaOrdenAcredor, onCmdCuentaOrdenAcredor, true)    \
-  CUENTA("Cta. Orden Deudor:", CuentaOrdenDeudor, onCmdCuentaOrdenDeudor, true)       \
-  CUENTA("Cta. Comision:", CuentaComision, onCmdCuentaComision, true)                 \
-  CUENTA("Cta. IVA Comision:", CuentaIvaComision, onCmdCuentaIvaComision, true)
+  CUENTA("Cta. Deposito:", CuentaDeposito, onCmdCuentaDeposito)                       \
+  CUENTA("Cta. Retiro:", CuentaRetiro, onCmdCuentaRetiro)                             \
+  CUENTA("Cta. Int. Pagado:", CuentaIntPagado, onCmdCuentaIntPagado)                  \
+  CUENTA("Cta. Int. Cobrado:", CuentaIntCobrado, onCmdCuentaIntCobrado)               \
+  CUENTA("Cta. IDE:", CuentaIvaMovimiento, onCmdCuentaIvaMovimiento)                  \
+  CUENTA("Cta. ISR:", CuentaISR, onCmdCuentaISR)                                      \
+  CUENTA("Provision ISR:", CuentaProvisionISR, onCmdCuentaProvisionISR)               \
+  CUENTA("Cta. Orden Acredor:", CuentaOrdenAcredor, onCmdCuentaOrdenAcredor)          \
+  CUENTA("Cta. Orden Deudor:", CuentaOrdenDeudor, onCmdCuentaOrdenDeudor)             \
+  CUENTA("Cta. Comision:", CuentaComision, onCmdCuentaComision)                       \
+  CUENTA("Cta. IVA Comision:", CuentaIvaComision, onCmdCuentaIvaComision)
 // clang-format on
 
 class TipoMovimiento_Window : public Forma<TipoMovimiento_Window, FXMDIChild> {

@@ -1,53 +1,53 @@
 // The form of the types of loan: six pages, with the 28 accounts that loans of the type post to.
 #pragma once
 
+#include "catalogs/Posiciones.h"
+#include "catalogs/finance/CampoCuenta.h"
 #include "catalogs/finance/cTipoPrestamo.h"
-#include "db/Catalogo.h"
-#include "framework/CampoCuenta.h"
 #include "framework/CampoFila.h"
 #include "framework/Forma.h"
 
-extern cTipoPrestamo tipoprestamo;  // the record on which the form works; outlives it
-extern char sDescripcion[31];       // a row of the list
+extern cTipoPrestamo tipoprestamo;
+extern char sDescripcion[31];
 
-// The accounts in the order of the pages: on the screen, in the record, the handler of the combo box, and
-// whether the search button works. Labels and fields do not always read alike.
+// The accounts in the order of the pages: on the screen, in the record, the handler of the combo box.
+// Labels and fields do not always read alike.
 // clang-format off
 #define CUENTAS_ACTIVO(CUENTA)                                                                            \
-  CUENTA("Activo:", CuentaActivo, onCmdCuentaActivo, true)                                                \
-  CUENTA("Activo Vencida:", CuentaActivoVencida, onCmdCuentaActivoVencida, true)                          \
-  CUENTA("Normal Venc.:", CuentaIntNormalVencida, onCmdCuentaIntNormalVencida, true)                      \
-  CUENTA("Cuenta ISR:", CuentaRiesgoCred, onCmdCuentaRiesgoCred, true)                                    \
-  CUENTA("Int. Devengado:", CuentaIntDevNoCobres, onCmdCuentaIntDevNoCobres, true)
+  CUENTA("Activo:", CuentaActivo, onCmdCuentaActivo)                                                      \
+  CUENTA("Activo Vencida:", CuentaActivoVencida, onCmdCuentaActivoVencida)                                \
+  CUENTA("Normal Venc.:", CuentaIntNormalVencida, onCmdCuentaIntNormalVencida)                            \
+  CUENTA("Cuenta ISR:", CuentaRiesgoCred, onCmdCuentaRiesgoCred)                                          \
+  CUENTA("Int. Devengado:", CuentaIntDevNoCobres, onCmdCuentaIntDevNoCobres)
 #define CUENTAS_PASIVO(CUENTA)                                                                            \
-  CUENTA("Cta. de IVA:", CuentaIva, onCmdCuentaIva, true)                                                 \
-  CUENTA("Gastos de Cobranza:", CuentaFondoRecuperacion, onCmdCuentaFondoRecuperacion, true)              \
-  CUENTA("Gtos. de Otorgamiento.:", CuentaGtosAdm, onCmdCuentaGtosAdm, false)                             \
-  CUENTA("Provision IVA:", CuentaProvisionIVA, onCmdCuentaProvisionIVA, true)                             \
-  CUENTA("Aval Acredor:", CuentaOrdenAvalAcredor, onCmdCuentaOrdenAvalAcredor, true)                      \
-  CUENTA("Garantia Deudor:", CuentaGarantiaDeudor, onCmdCuentaGarantiaDeudor, true)                       \
-  CUENTA("Garantia Acredor:", CuentaGarantiaAcredor, onCmdCuentaGarantiaAcredor, true)                    \
-  CUENTA("Comision:", CuentaComision, onCmdCuentaComision, true)                                          \
-  CUENTA("IVA Comision:", CuentaIvaComision, onCmdCuentaIvaComision, true)
+  CUENTA("Cta. de IVA:", CuentaIva, onCmdCuentaIva)                                                       \
+  CUENTA("Gastos de Cobranza:", CuentaFondoRecuperacion, onCmdCuentaFondoRecuperacion)                    \
+  CUENTA("Gtos. de Otorgamiento.:", CuentaGtosAdm, onCmdCuentaGtosAdm, BusquedaMuerta)                    \
+  CUENTA("Provision IVA:", CuentaProvisionIVA, onCmdCuentaProvisionIVA)                                   \
+  CUENTA("Aval Acredor:", CuentaOrdenAvalAcredor, onCmdCuentaOrdenAvalAcredor)                            \
+  CUENTA("Garantia Deudor:", CuentaGarantiaDeudor, onCmdCuentaGarantiaDeudor)                             \
+  CUENTA("Garantia Acredor:", CuentaGarantiaAcredor, onCmdCuentaGarantiaAcredor)                          \
+  CUENTA("Comision:", CuentaComision, onCmdCuentaComision)                                                \
+  CUENTA("IVA Comision:", CuentaIvaComision, onCmdCuentaIvaComision)
 #define CUENTAS_RESULTADOS(CUENTA)                                                                        \
-  CUENTA("Int. Normal:", CuentaIntNormal, onCmdCuentaIntNormal, true)                                     \
-  CUENTA("Norm. No Cob.:", CuentaIntNormalNocob, onCmdCuentaIntNormalNocob, true)                         \
-  CUENTA("Int. Moratorio:", CuentaIntMora, onCmdCuentaIntMora, true)                                      \
-  CUENTA("Moratorio Venc.:", CuentaIntMoraVencida, onCmdCuentaIntMoraVencida, true)                       \
-  CUENTA("Riesgo Cred.:", CuentaRiesgoCredRes, onCmdCuentaRiesgoCredRes, true)                            \
-  CUENTA("Int. Norm. Venc.:", CuentaIntNormalResVencida, onCmdCuentaIntNormalResVencida, false)           \
-  CUENTA("Int. Norm. Vig.:", CuentaIntNormalResVigente, onCmdCuentaIntNormalResVigente, true)
+  CUENTA("Int. Normal:", CuentaIntNormal, onCmdCuentaIntNormal)                                           \
+  CUENTA("Norm. No Cob.:", CuentaIntNormalNocob, onCmdCuentaIntNormalNocob)                               \
+  CUENTA("Int. Moratorio:", CuentaIntMora, onCmdCuentaIntMora)                                            \
+  CUENTA("Moratorio Venc.:", CuentaIntMoraVencida, onCmdCuentaIntMoraVencida)                             \
+  CUENTA("Riesgo Cred.:", CuentaRiesgoCredRes, onCmdCuentaRiesgoCredRes)                                  \
+  CUENTA("Int. Norm. Venc.:", CuentaIntNormalResVencida, onCmdCuentaIntNormalResVencida, BusquedaMuerta)  \
+  CUENTA("Int. Norm. Vig.:", CuentaIntNormalResVigente, onCmdCuentaIntNormalResVigente)
 #define CUENTAS_ORDEN(CUENTA)                                                                             \
-  CUENTA("Aval Deudor:", CuentaOrdenAval, onCmdCuentaOrdenAval, true)                                     \
-  CUENTA("Orden Interes:", CuentaOrdenInteres, onCmdCuentaOrdenInteres, true)                             \
-  CUENTA("Orden Deudor Moratorio Bonificado", CuentaIntMoraNoCobAct, onCmdCuentaIntMoraNoCobAct, true)    \
+  CUENTA("Aval Deudor:", CuentaOrdenAval, onCmdCuentaOrdenAval)                                           \
+  CUENTA("Orden Interes:", CuentaOrdenInteres, onCmdCuentaOrdenInteres)                                   \
+  CUENTA("Orden Deudor Moratorio Bonificado", CuentaIntMoraNoCobAct, onCmdCuentaIntMoraNoCobAct)          \
   CUENTA("Orden Acredor Moratorio Bonificado", CuentaIntMoraDevNoCobRes,                                  \
-         onCmdCuentaIntMoraDevNoCobRes, true)                                                             \
+         onCmdCuentaIntMoraDevNoCobRes)                                                                   \
   CUENTA("Orden Deudor Normal Bonificado", OrdenDeudorNormalBonificado,                                   \
-         onCmdOrdenDeudorNormalBonificado, true)                                                          \
+         onCmdOrdenDeudorNormalBonificado)                                                                \
   CUENTA("Orden Acredor Normal Bonificado", OrdenAcredorNormalBonificado,                                 \
-         onCmdOrdenAcredorNormalBonificado, true)                                                         \
-  CUENTA("Orden Interes Acreedor", OrdenInteresAcreedor, onCmdOrdenInteresAcreedor, false)
+         onCmdOrdenAcredorNormalBonificado)                                                               \
+  CUENTA("Orden Interes Acreedor", OrdenInteresAcreedor, onCmdOrdenInteresAcreedor, BusquedaMuerta)
 #define CUENTAS_PRESTAMO(CUENTA) \
   CUENTAS_ACTIVO(CUENTA) CUENTAS_PASIVO(CUENTA) CUENTAS_RESULTADOS(CUENTA) CUENTAS_ORDEN(CUENTA)
 // clang-format on
@@ -135,6 +135,7 @@ class TipoPrestamo_Window : public Forma<TipoPrestamo_Window, FXMDIChild> {
       valor = nuevo;
       boton->setCheck(valor != 0);
     }
+    void Vacia() { Pon(0); }
     FXint Valor() const { return valor; }
     long Elige() {
       valor = boton->getCheck();

@@ -1,13 +1,13 @@
 // The form of the promotions.
 #pragma once
 
+#include "catalogs/Posiciones.h"
 #include "catalogs/finance/cTipoPromocion.h"
-#include "db/Catalogo.h"
 #include "framework/CampoFecha.h"
 #include "framework/CampoFila.h"
 #include "framework/Forma.h"
 
-extern cTipoPromocion tipopromocion;  // the record on which the form works; outlives it
+extern cTipoPromocion tipopromocion;
 
 class TipoPromocion_Window : public Forma<TipoPromocion_Window, FXMDIChild, SinBuscar> {
   FXDECLARE(TipoPromocion_Window)

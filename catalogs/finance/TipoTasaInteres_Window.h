@@ -7,8 +7,8 @@
 #include "framework/CampoFecha.h"
 #include "framework/Forma.h"
 
-extern cTasaInteres tasainteres;  // the record on which the form works; outlives it
-extern int iTasainteresId;        // key of the row last chosen in the list
+extern cTasaInteres tasainteres;
+extern int iTasainteresId;  // key of the row last chosen in the list
 
 class TipoTasaInteres_Window : public Forma<TipoTasaInteres_Window, FXDialogBox> {
   FXDECLARE(TipoTasaInteres_Window)

@@ -4,7 +4,7 @@
 #include "catalogs/finance/FormaSerie.h"
 #include "catalogs/finance/cUdis.h"
 
-extern cUdis udis;  // the record on which the form works; outlives it
+extern cUdis udis;
 
 class Udis_Window : public cUdis, public FormaDiaria<Udis_Window> {
   FXDECLARE(Udis_Window)

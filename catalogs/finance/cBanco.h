@@ -6,11 +6,9 @@
 class cBanco : public Registro<cBanco, EngineVirtual> {
  public:
   cBanco() { Clear(); }
-  /// One value for each column, in the order in which they are declared, and both flags; stored as they
-  /// stand.
   template <class... Valores>
   explicit cBanco(const char* cuenta, Valores... valores) {
-    TomaCampos(cuenta, valores...);
+    TomaMiembros(cuenta, valores...);
   }
 
   /// Key of 15 characters, stored with blanks behind it.
@@ -38,7 +36,6 @@ class cBanco : public Registro<cBanco, EngineVirtual> {
 
   /// As in every record; the date is that of an empty text.
   void Clear();
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "Banco"; }
 
@@ -50,7 +47,7 @@ class cBanco : public Registro<cBanco, EngineVirtual> {
     return std::tie(No_Cuenta, CuentaID, Banco, Fecha_Inicio, Saldo_Inicial, Saldo_Actual, Saldo_Pen, Serie,
                     NoCheque);
   }
-  auto Campos() {
+  auto Miembros() {
     return std::tie(No_Cuenta, Banco, Fecha_Inicio, Saldo_Inicial, Saldo_Actual, Saldo_Pen, CuentaID, Serie,
                     NoCheque);
   }

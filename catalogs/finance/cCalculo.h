@@ -6,7 +6,6 @@
 class cCalculo : public Registro<cCalculo> {
  public:
   cCalculo() { Clear(); }
-  /// Stores each argument as it stands.
   cCalculo(long id, const char* descripcion, float saldo, long dias, float normal, float moratorio,
            const char* formula, bool dataChanged, bool isNew);
 
@@ -27,7 +26,6 @@ class cCalculo : public Registro<cCalculo> {
   float getTasaIntMoratorio() const { return TasaIntMoratorio; }
   const char* getFormula() const { return Formula; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "Calculo"; }
 

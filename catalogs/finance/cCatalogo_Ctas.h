@@ -6,7 +6,6 @@
 class cCatalogo_Ctas : public Registro<cCatalogo_Ctas> {
  public:
   cCatalogo_Ctas() { Clear(); }
-  /// Stores each argument as it stands.
   cCatalogo_Ctas(const char* cuentaID, const char* cuentaAcumula, const char* identificacion,
                  const char* cuentaNombre, const char* tipo, const char* estado, const date& fechaEstado,
                  const date& fechaUltMov, const char* naturaleza, double digitoAgrupador, double saldoInicial,
@@ -49,7 +48,6 @@ class cCatalogo_Ctas : public Registro<cCatalogo_Ctas> {
   void Fill(int fila);
   /// As in every record, but the dates are those of an empty text and isNew stays.
   void Clear();
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "Cuenta"; }
   /// As in every record, but isNew stays.

@@ -6,10 +6,8 @@
 class cInabil : public SerieDiaria<cInabil> {
  public:
   cInabil() { Clear(); }
-  /// Stores each argument as it stands.
   cInabil(const date& fecha, bool dataChanged, bool isNew);
 
-  /// True, or throws the message of the rule that is broken.
   bool Check();
   const char* clase() const { return "Inabil"; }
 

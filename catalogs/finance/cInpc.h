@@ -6,13 +6,11 @@
 class cInpc : public SerieMensual<cInpc> {
  public:
   cInpc() { Clear(); }
-  /// Stores each argument as it stands.
   cInpc(int ano, int mes, double inpc, bool dataChanged, bool isNew);
 
   void setInpc(double valor) { Pon(Cifra, valor); }
   double getInpc() const { return Cifra; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "Inpc"; }
 

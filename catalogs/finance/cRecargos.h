@@ -6,13 +6,11 @@
 class cRecargos : public SerieMensual<cRecargos> {
  public:
   cRecargos() { Clear(); }
-  /// Stores each argument as it stands.
   cRecargos(int ano, int mes, double porcentaje, bool dataChanged, bool isNew);
 
   void setPorcentaje(double valor) { Pon(Cifra, valor); }
   double getPorcentaje() const { return Cifra; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "Recargos"; }
 

@@ -7,7 +7,6 @@
 class cTasa : public Registro<cTasa, EngineVirtual> {
  public:
   cTasa() { Clear(); }
-  /// Stores each argument as it stands.
   cTasa(long id, const char* prestamo, const char* inversion, const char* movimiento, const date& inicial,
         const date& final, double normal, double moratorio, bool dataChanged, bool isNew);
 
@@ -29,7 +28,7 @@ class cTasa : public Registro<cTasa, EngineVirtual> {
   double getTasaNormal() const { return TasaNormal; }
   double getTasaMoratorio() const { return TasaMoratorio; }
 
-  /// True, or throws the message of the first rule that is broken. All three types are asked for at once.
+  /// All three types are asked for at once.
   bool Check();
   const char* clase() const { return "Tasa"; }
 

@@ -6,7 +6,6 @@
 class cTasaInteres : public Registro<cTasaInteres> {
  public:
   cTasaInteres() { Clear(); }
-  /// Stores each argument as it stands.
   cTasaInteres(int id, const char* tipo, const date& inicial, const date& final, double valor1, double valor2,
                bool dataChanged, bool isNew);
 

@@ -6,11 +6,9 @@
 class cTipoInversion : public Registro<cTipoInversion> {
  public:
   cTipoInversion() { Clear(); }
-  /// One value for each column, in the order in which they are declared, and both flags; stored as they
-  /// stand.
   template <class... Valores>
   explicit cTipoInversion(const char* id, Valores... valores) {
-    TomaCampos(id, valores...);
+    TomaMiembros(id, valores...);
   }
 
   /// Key of 3 characters, stored with blanks behind it.
@@ -61,7 +59,7 @@ class cTipoInversion : public Registro<cTipoInversion> {
   const char* getCuentaProvisionISR() const { return CuentaProvisionISR; }
   int getClasificacionID() const { return ClasificacionID; }
 
-  /// True, or throws the message of the first rule that is broken. Traces the amounts ahead of their rules.
+  /// Traces the amounts ahead of their rules.
   bool Check();
   const char* clase() const { return "Tipo de Inversión"; }
 
@@ -76,7 +74,7 @@ class cTipoInversion : public Registro<cTipoInversion> {
                     Plazo, AplicaIvaInversion, AplicaISR, ReinvierteInteres, TipoMovimientoID,
                     CuentaProvisionISR, ClasificacionID, MontoMax, MontoMin, PlazoMax);
   }
-  auto Campos() {
+  auto Miembros() {
     return std::tie(TipoInversionID, CuentaRiesgoCred, CuentaIntInverNoCob, CalculoID, CuentaPasivo,
                     CuentaPasivoVencida, CuentaIntInver, CuentaIvaInver, DescTipoInversion, Tasa_Normal,
                     MontoMax, MontoMin, PlazoMax, Plazo, AplicaIvaInversion, AplicaISR, ReinvierteInteres,

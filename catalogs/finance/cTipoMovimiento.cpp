@@ -63,5 +63,5 @@ Sentencia cTipoMovimiento::SqlEscritura(const char* funcion) {
         "'%s','%s',%i);",
         funcion, campo...);
   };
-  return std::apply(formatea, Campos());
+  return std::apply(formatea, Miembros());
 }

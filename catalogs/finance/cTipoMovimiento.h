@@ -7,11 +7,9 @@
 class cTipoMovimiento : public Registro<cTipoMovimiento, EngineVirtual> {
  public:
   cTipoMovimiento() { Clear(); }
-  /// One value for each column, in the order in which they are declared, and both flags; stored as they
-  /// stand.
   template <class... Valores>
   explicit cTipoMovimiento(const char* id, Valores... valores) {
-    TomaCampos(id, valores...);
+    TomaMiembros(id, valores...);
   }
 
   /// Key of 2 characters, stored with blanks behind it.
@@ -68,7 +66,6 @@ class cTipoMovimiento : public Registro<cTipoMovimiento, EngineVirtual> {
   const char* getCuentaIvaComision() const { return CuentaIvaComision; }
   int getDesglosaIva() const { return DesglosaIva; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "Tipo de Movimiento"; }
 
@@ -84,7 +81,7 @@ class cTipoMovimiento : public Registro<cTipoMovimiento, EngineVirtual> {
                     CuentaIvaComision, DesglosaIva);
   }
   /// The order of the stored functions' arguments too.
-  auto Campos() {
+  auto Miembros() {
     return std::tie(TipoMovimientoID, DescTipoMovimiento, AplicaSaldo, CuentaDeposito, CuentaRetiro,
                     CuentaIntPagado, CuentaIntCobrado, CuentaIvaMovimiento, CuentaISR, TipoPoliza,
                     AceptaDeposito, AceptaRetiro, TasaInteres, CuentaOrdenAcredor, CuentaOrdenDeudor,

@@ -10,11 +10,9 @@
 class cTipoPrestamo : public Registro<cTipoPrestamo, EngineVirtual> {
  public:
   cTipoPrestamo() { Clear(); }
-  /// One value for each column, in the order in which they are declared, and both flags; stored as they
-  /// stand.
   template <class... Valores>
   explicit cTipoPrestamo(const char* id, Valores... valores) {
-    TomaCampos(id, valores...);
+    TomaMiembros(id, valores...);
   }
 
   /// Key of 3 characters, stored with blanks behind it.
@@ -132,7 +130,6 @@ class cTipoPrestamo : public Registro<cTipoPrestamo, EngineVirtual> {
   int getPrestamoGrupal() const { return PrestamoGrupal; }
   const char* getClasificacionContable() const { return ClasificacionContable; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "Tipo de Prestamo"; }
 
@@ -159,7 +156,7 @@ class cTipoPrestamo : public Registro<cTipoPrestamo, EngineVirtual> {
                     CuentaIvaComision, NivelAutorizacion, Reciprocidad, PrestamoGrupal,
                     ClasificacionContable);
   }
-  auto Campos() { return std::tuple_cat(DeLaFuncion(), Directos()); }
+  auto Miembros() { return std::tuple_cat(DeLaFuncion(), Directos()); }
   /// The accounts of interest and of guarantor stand the other way round than in the functions.
   auto Columnas() {
     return std::tuple_cat(

@@ -6,7 +6,6 @@
 class cTipoPromocion : public Registro<cTipoPromocion, EngineVirtual> {
  public:
   cTipoPromocion() { Clear(); }
-  /// Stores each argument as it stands.
   cTipoPromocion(int id, const char* tipoMovimientoID, const date& fechaInicial, const date& fechaFinal,
                  const char* condicion, int estatus, const char* descripcion, bool dataChanged, bool isNew);
 
@@ -30,7 +29,6 @@ class cTipoPromocion : public Registro<cTipoPromocion, EngineVirtual> {
 
   /// As in every record; the dates are those of an empty text.
   void Clear();
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "TipoPromocion"; }
 

@@ -6,14 +6,12 @@
 class cUdis : public SerieDiaria<cUdis> {
  public:
   cUdis() { Clear(); }
-  /// Stores each argument as it stands.
   cUdis(const date& fecha, double valor, bool dataChanged, bool isNew);
 
   /// In pesos.
   void setValor(double valor) { Pon(Valor, valor); }
   double getValor() const { return Valor; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "Udis"; }
 

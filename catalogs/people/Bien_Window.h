@@ -6,7 +6,7 @@
 #include "framework/CampoFecha.h"
 #include "framework/Forma.h"
 
-extern cBien bien;  // the record on which the form works; outlives it
+extern cBien bien;
 
 class Bien_Window : public Forma<Bien_Window, FXDialogBox, SinBuscar> {
   FXDECLARE(Bien_Window)

@@ -1,12 +1,13 @@
 // The form of the cities and municipalities of the states. The form of the states opens from it.
 #pragma once
 
+#include "catalogs/Posiciones.h"
 #include "catalogs/people/cCiudadMex.h"
 #include "framework/CampoFila.h"
 #include "framework/Forma.h"
 
-extern cCiudadMex ciudadmex;  // the record on which the form works; outlives it
-extern char sCiudadMex[51];   // a row of the list
+extern cCiudadMex ciudadmex;
+extern char sCiudadMex[51];
 
 class CiudadMex_Window : public Forma<CiudadMex_Window, FXDialogBox> {
   FXDECLARE(CiudadMex_Window)

@@ -5,8 +5,8 @@
 #include "db/Catalogo.h"
 #include "framework/Forma.h"
 
-extern cEstadoMex estadomex;  // the record on which the form works; outlives it
-extern char sEstadoMex[21];   // a row of the list
+extern cEstadoMex estadomex;
+extern char sEstadoMex[21];
 
 class EstadoMex_Window : public Forma<EstadoMex_Window, FXDialogBox> {
   FXDECLARE(EstadoMex_Window)

@@ -1,6 +1,7 @@
 #include "catalogs/people/Usuario_Window.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "catalogs/people/generarfc.h"
 #include "reports/fxexecute.h"
@@ -65,15 +66,25 @@ const char* NombreDeAsentamiento(int tipo) {
   return "";
 }
 
-/// A neighbourhood as its combo box shows it: postal code, name and kind of settlement. Stays until the next
-/// call.
-const char* RenglonDeColonia(const cColonia& colonia) {
-  static char renglon[92];
-  const char* const nombre = colonia.getNombreColonia();
-  const char* const tipo = NombreDeAsentamiento(colonia.getTipoAsentamientoID());
-  FormateaTexto(renglon, "%5li %45.*s %20.*s", colonia.getCP(), static_cast<int>(LargoUtf8(nombre, 45)),
-                nombre, static_cast<int>(LargoUtf8(tipo, 20)), tipo);
-  return renglon;
+/// A neighbourhood as its combo box shows it: postal code, name and kind of settlement.
+struct RenglonDeColonia {
+  explicit RenglonDeColonia(const cColonia& colonia) {
+    const char* const nombre = colonia.getNombreColonia();
+    const char* const tipo = NombreDeAsentamiento(colonia.getTipoAsentamientoID());
+    FormateaTexto(texto, "%5li %45.*s %20.*s", colonia.getCP(), static_cast<int>(LargoUtf8(nombre, 45)),
+                  nombre, static_cast<int>(LargoUtf8(tipo, 20)), tipo);
+  }
+
+  char texto[92];
+};
+
+/// Offers other items, none of them chosen. All at once: each that is appended alone lays the window out
+/// anew.
+void Renueva(DatoOpcion& opcion, std::vector<const char*>& textos) {
+  textos.push_back(nullptr);
+  opcion.combo->clearItems();
+  opcion.combo->fillItems(textos.data());
+  opcion.Vacia();
 }
 
 }  // namespace
@@ -211,8 +222,8 @@ long Usuario_Window::Load() {
 
 void Usuario_Window::Clear() {
   Forma::Clear();
-  fechaNacimiento.Pon({});
-  for (DatoOpcion* opcion : {&estado, &municipio, &colonia}) opcion->Pon({});
+  fechaNacimiento.Vacia();
+  for (DatoOpcion* opcion : {&estado, &municipio, &colonia}) opcion->Vacia();
   cUsuario::Permisos.clear();
   for (const auto& [fila, modulo] : Catalogo::Modulos) {
     const cPermisosModulos permiso(0, modulo.getClaveModulo(), "", "N", modulo.getDescriModulo(), false,
@@ -357,10 +368,14 @@ long Usuario_Window::AbreWeb(const char* pagina) {
   return 1;
 }
 
-void Usuario_Window::DatoJefe::Pon(std::optional<const char*> nuevo) {
-  valor = nuevo.value_or("");
+void Usuario_Window::DatoJefe::Pon(const char* nuevo) {
+  valor = nuevo;
   Muestra();
-  if (!nuevo) combo->setCurrentItem(-1);
+}
+
+void Usuario_Window::DatoJefe::Vacia() {
+  valor.clear();
+  combo->setCurrentItem(-1);
 }
 
 void Usuario_Window::DatoJefe::Muestra() {
@@ -384,16 +399,19 @@ void Usuario_Window::LeeCiudades() {
 
 void Usuario_Window::OfreceCiudades() {
   LeeCiudades();
-  municipio.combo->clearItems();
-  for (const auto& [fila, una] : Catalogo::CiudadesMex) municipio.combo->appendItem(una.getNombreCiudadMex());
-  municipio.Pon({});
+  std::vector<const char*> nombres;
+  for (const auto& [fila, una] : Catalogo::CiudadesMex) nombres.push_back(una.getNombreCiudadMex());
+  Renueva(municipio, nombres);
 }
 
 /// The neighbourhoods that were read last.
 void Usuario_Window::OfreceColonias() {
-  colonia.combo->clearItems();
-  for (const cColonia& una : catalogo.ColoniasFiltro) colonia.combo->appendItem(RenglonDeColonia(una));
-  colonia.Pon({});
+  std::vector<RenglonDeColonia> renglones;
+  renglones.reserve(catalogo.ColoniasFiltro.NumElementos());
+  for (const cColonia& una : catalogo.ColoniasFiltro) renglones.emplace_back(una);
+  std::vector<const char*> textos;
+  for (const RenglonDeColonia& renglon : renglones) textos.push_back(renglon.texto);
+  Renueva(colonia, textos);
 }
 
 /// State and city of a city's key. The number of a state is taken for its place in the list.
@@ -440,7 +458,7 @@ void Usuario_Window::TomaDomicilio() {
 long Usuario_Window::onCmdEstados(FXObject*, FXSelector, void*) {
   OfreceCiudades();
   colonia.combo->clearItems();
-  colonia.Pon({});
+  colonia.Vacia();
   return 1;
 }
 

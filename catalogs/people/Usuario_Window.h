@@ -4,16 +4,18 @@
 // postal code all three. Each step reads the server and leaves what it read in the cache.
 #pragma once
 
+#include "catalogs/Posiciones.h"
+#include "catalogs/finance/Busqueda_Window.h"
+#include "catalogs/finance/CampoCuenta.h"
 #include "catalogs/people/cUsuario.h"
-#include "framework/CampoCuenta.h"
 #include "framework/CampoFecha.h"
 #include "framework/CampoFila.h"
 #include "framework/Forma.h"
 
-extern cUsuario usuario;    // the record on which the form works; outlives it
-extern char sUsuario[121];  // a row of the list: name and login
+extern cUsuario usuario;
+extern char sUsuario[121];  // a row: name and login
 
-#define CUENTAS_USUARIO(CUENTA) CUENTA("Cta. Caja:", CuentaCaja, onCmdCuenta, true)
+#define CUENTAS_USUARIO(CUENTA) CUENTA("Cta. Caja:", CuentaCaja, onCmdCuenta)
 
 class Usuario_Window : public Forma<Usuario_Window, FXMDIChild> {
   FXDECLARE(Usuario_Window)
@@ -76,6 +78,12 @@ class Usuario_Window : public Forma<Usuario_Window, FXMDIChild> {
   /// Always true; traces.
   bool Checkuser();
 
+  /// The place of a key in its combo box, 0 if it has none there.
+  static int FindTipoUsuario(const char* clave) { return ::FindTipoUsuario(clave); }
+  static int FindUsuario(const char* clave) { return ::FindUsuario(clave); }
+  static int FindCiudad(int clave) { return ::FindCiudad(clave); }
+  static int FindCuenta(const char* clave) { return ::FindCuenta(clave); }
+
  protected:
   Usuario_Window() {}
 
@@ -136,8 +144,8 @@ class Usuario_Window : public Forma<Usuario_Window, FXMDIChild> {
 
   /// The boss: the login of a user, behind "Ninguno" in its combo box.
   struct DatoJefe {
-    /// Nothing, which is what `Pon({})` passes, empties both.
-    void Pon(std::optional<const char*> nuevo);
+    void Pon(const char* nuevo);
+    void Vacia();
     void Muestra();
     FXString& Valor() { return valor; }
     long Elige();
@@ -157,7 +165,7 @@ class Usuario_Window : public Forma<Usuario_Window, FXMDIChild> {
   FXTable* tabla = nullptr;
 
   DatoTexto login;
-  DatoFila<Catalogo::TiposUsuarios, &cTipoUsuario::getTipoUsuarioID, FindTipoUsuario> tipo;
+  DatoFila<Catalogo::TiposUsuarios, &cTipoUsuario::getTipoUsuarioID, ::FindTipoUsuario> tipo;
   DatoJefe jefe;
   DatoTexto contrasenia;  // without a field: goes back as it came
   DatoTexto email;

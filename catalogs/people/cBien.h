@@ -7,7 +7,6 @@
 class cBien : public Registro<cBien, EngineVirtual> {
  public:
   cBien() { Clear(); }
-  /// Stores each argument as it stands.
   cBien(long id, long sujetoID, const char* propietario, const char* descri, const char* caracteristicas,
         const char* registroPublico, float valorComercial, float valorFiscal, float valorCatastro,
         const char* datosHipoteca, float relacionGarantia, const char* adjudicado,
@@ -52,7 +51,6 @@ class cBien : public Registro<cBien, EngineVirtual> {
   void Fill(int fila);
   /// As in every record; also the row is not to be deleted.
   void Clear();
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "Bien"; }
 

@@ -6,7 +6,6 @@
 class cCiudadMex : public Registro<cCiudadMex> {
  public:
   cCiudadMex() { Clear(); }
-  /// Stores each argument as it stands.
   cCiudadMex(int id, const char* clave, const char* nombre, int estadoMexID, bool dataChanged, bool isNew);
 
   void setCiudadMexID(int valor) { Pon(CiudadMexID, valor); }
@@ -20,7 +19,6 @@ class cCiudadMex : public Registro<cCiudadMex> {
   const char* getNombreCiudadMex() const { return NombreCiudadMex; }
   int getEstadoMexID() const { return EstadoMexID; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "Ciudadades"; }
 

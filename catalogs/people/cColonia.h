@@ -6,7 +6,6 @@
 class cColonia : public Registro<cColonia> {
  public:
   cColonia() { Clear(); }
-  /// Stores each argument as it stands.
   cColonia(long id, int ciudadMexID, const char* nombre, long cp, int tipoAsentamientoID, bool dataChanged,
            bool isNew);
 
@@ -23,7 +22,6 @@ class cColonia : public Registro<cColonia> {
   long getCP() const { return CP; }
   int getTipoAsentamientoID() const { return TipoAsentamientoID; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "Colonia"; }
 

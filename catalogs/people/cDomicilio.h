@@ -6,7 +6,6 @@
 class cDomicilio : public Registro<cDomicilio, EngineVirtual> {
  public:
   cDomicilio() { Clear(); }
-  /// Stores each argument as it stands.
   cDomicilio(long id, int ciudadMexID, long sujetoID, const char* calle, const char* numeroExt,
              const char* numeroInt, const char* colonia, long codPostal, const char* comunidad,
              const char* telDomicilio, long coloniaID, bool dataChanged, bool isNew);

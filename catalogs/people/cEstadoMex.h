@@ -7,7 +7,6 @@
 class cEstadoMex : public Registro<cEstadoMex> {
  public:
   cEstadoMex() { Clear(); }
-  /// Stores each argument as it stands.
   cEstadoMex(int id, const char* clave, const char* nombre, bool dataChanged, bool isNew);
 
   void setEstadoMexID(int valor) { Pon(EstadoMexID, valor); }
@@ -19,7 +18,6 @@ class cEstadoMex : public Registro<cEstadoMex> {
   const char* getClaveEstadoMex() const { return ClaveEstadoMex; }
   const char* getNombreEstadoMex() const { return NombreEstadoMex; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "EstadoMex"; }
 

@@ -7,7 +7,6 @@
 class cGarantia : public Registro<cGarantia> {
  public:
   cGarantia() { Clear(); }
-  /// Stores each argument as it stands.
   cGarantia(long id, long solicitudPrestamoID, long prestamoID, long garantiaBienID, const char* noHip,
             const char* folio, const date& fechaRegistro, const date& fechaVencimiento,
             const char* descripcion, bool dataChanged, bool isNew);

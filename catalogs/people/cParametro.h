@@ -7,7 +7,6 @@
 class cParametro : public Registro<cParametro, EngineVirtual> {
  public:
   cParametro() { Clear(); }
-  /// Stores each argument as it stands.
   cParametro(long id, const char* usuarioID, const char* serieUser, const char* cuentaCaja,
              const char* impresoraCaja, const char* impresoraReporte, int reportesLaser,
              const char* claveSocioInt, bool dataChanged, bool isNew);

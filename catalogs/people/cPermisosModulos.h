@@ -7,7 +7,6 @@
 class cPermisosModulos : public Registro<cPermisosModulos> {
  public:
   cPermisosModulos() { Clear(); }
-  /// Stores each argument as it stands.
   cPermisosModulos(long id, const char* claveModulo, const char* usuarioID, const char* permiso,
                    const char* descripcionModulo, bool dataChanged, bool isNew, bool deleted);
 

@@ -8,7 +8,6 @@ class cSocioCaja : public EngineVirtual {
 
  public:
   cSocioCaja() { Clear(); }
-  /// Stores each argument as it stands.
   cSocioCaja(long socioID, const char* claveSocioInt, const char* paterno, const char* materno,
              const char* nombre, const char* estatus);
   void Copy(const cSocioCaja& otra) { *this = otra; }

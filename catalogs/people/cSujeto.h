@@ -20,7 +20,6 @@ class BienesDeSujeto : public lista<cBien> {
 class cSujeto : public Registro<cSujeto, cDomicilio> {
  public:
   cSujeto() { Clear(); }
-  /// Stores each argument as it stands.
   cSujeto(long id, const char* paterno, const char* materno, const char* nombre, const char* rfc,
           const char* curp, int edad, const date& fechaNacimiento, const char* razonSocial, bool dataChanged,
           bool isNew);
@@ -52,7 +51,7 @@ class cSujeto : public Registro<cSujeto, cDomicilio> {
 
   /// As in every record, for the person alone; a row without birth date gives a default date.
   void Fill(int fila);
-  /// True, or throws the message of the first rule that is broken; then the address's Check.
+  /// Its own rules, then the address's Check.
   bool Check();
   /// Inserts the person, its address and its new goods in one transaction, tracing each step. A refused
   /// person or address passes in silence; a good throws.

@@ -1,5 +1,9 @@
 #include "catalogs/people/cUsuario.h"
 
+/// The group of the users on the server: a session variable, declared here too because no record knows the
+/// session.
+extern char gpggrupodefault[21];
+
 std::map<int, cPermisosModulos> cUsuario::Permisos;
 
 cUsuario::cUsuario(const char* id, const char* tipoUsuarioID, const char* usu_UsuarioID,

@@ -20,7 +20,6 @@ class MitadesDeUsuario : public cSujeto, public cTipoUsuario, public cParametro 
 class cUsuario : public Registro<cUsuario, MitadesDeUsuario> {
  public:
   cUsuario() { Clear(); }
-  /// Stores each argument as it stands.
   cUsuario(const char* id, const char* tipoUsuarioID, const char* usu_UsuarioID, const char* contrasenia,
            const char* email, const char* dicola, const char* obsUsuario, long sujetoID, bool dataChanged,
            bool isNew);

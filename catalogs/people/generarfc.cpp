@@ -2,7 +2,7 @@
 
 #include <iostream>
 
-#include "app/sesion.h"
+#include "db/Conexion.h"
 #include "db/Engine.h"
 #include "framework/Sentencia.h"
 

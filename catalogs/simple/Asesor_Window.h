@@ -5,8 +5,8 @@
 #include "db/Catalogo.h"
 #include "framework/Forma.h"
 
-extern cAsesor asesor;    // the record on which the form works; outlives it
-extern char sAsesor[51];  // a row of the list
+extern cAsesor asesor;
+extern char sAsesor[51];
 
 class Asesor_Window : public Forma<Asesor_Window, FXMDIChild> {
   FXDECLARE(Asesor_Window)

@@ -5,7 +5,7 @@
 #include "db/Catalogo.h"
 #include "framework/Forma.h"
 
-extern cClasificacionCredito clasificacioncredito;  // the record on which the form works; outlives it
+extern cClasificacionCredito clasificacioncredito;
 
 class ClasificacionCredito_Window : public Forma<ClasificacionCredito_Window, FXMDIChild, SinBuscar> {
   FXDECLARE(ClasificacionCredito_Window)

@@ -5,7 +5,7 @@
 #include "db/Catalogo.h"
 #include "framework/Forma.h"
 
-extern cConceptoScoring conceptoscoring;  // the record on which the form works; outlives it
+extern cConceptoScoring conceptoscoring;
 
 class ConceptoScoring_Window : public Forma<ConceptoScoring_Window, FXDialogBox> {
   FXDECLARE(ConceptoScoring_Window)

@@ -5,8 +5,8 @@
 #include "db/Catalogo.h"
 #include "framework/Forma.h"
 
-extern cEstados_Credito estados_credito;  // the record on which the form works; outlives it
-extern char sDescripcionEdoCredito[31];   // a row of the list
+extern cEstados_Credito estados_credito;
+extern char sDescripcionEdoCredito[31];
 
 class Estados_Credito_Window : public Forma<Estados_Credito_Window, FXDialogBox> {
   FXDECLARE(Estados_Credito_Window)

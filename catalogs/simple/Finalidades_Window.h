@@ -5,8 +5,8 @@
 #include "db/Catalogo.h"
 #include "framework/Forma.h"
 
-extern cFinalidades finalidades;        // the record on which the form works; outlives it
-extern char sDescripcionFinalidad[31];  // a row of the list
+extern cFinalidades finalidades;
+extern char sDescripcionFinalidad[31];
 
 class Finalidades_Window : public Forma<Finalidades_Window, FXDialogBox> {
   FXDECLARE(Finalidades_Window)

@@ -5,7 +5,7 @@
 #include "db/Catalogo.h"
 #include "framework/Forma.h"
 
-extern cGrupo grupo;  // the record on which the form works; outlives it
+extern cGrupo grupo;
 
 class Grupo_Window : public Forma<Grupo_Window, FXMDIChild, SinBuscar> {
   FXDECLARE(Grupo_Window)

@@ -5,7 +5,7 @@
 #include "db/Catalogo.h"
 #include "framework/Forma.h"
 
-extern cModulo modulo;  // the record on which the form works; outlives it
+extern cModulo modulo;
 
 class Modulo_Window : public Forma<Modulo_Window, FXDialogBox> {
   FXDECLARE(Modulo_Window)

@@ -1,12 +1,16 @@
 // The form of the currencies.
+//
+// The first of all forms, and not the model of one: it also is a record, which nothing uses, its rows go by
+// way of a text that is shorter than they can be, and a save that fails writes so. Grupo_Window and
+// Modulo_Window are nothing but the pattern.
 #pragma once
 
 #include "catalogs/simple/cMonedas.h"
 #include "db/Catalogo.h"
 #include "framework/Forma.h"
 
-extern cMonedas moneda;   // the record on which the form works; outlives it
-extern char sMoneda[30];  // a row of the list
+extern cMonedas moneda;
+extern char sMoneda[30];
 
 class Monedas_Window : public cMonedas, public Forma<Monedas_Window, FXMDIChild> {
   FXDECLARE(Monedas_Window)

@@ -5,7 +5,7 @@
 #include "db/Catalogo.h"
 #include "framework/Forma.h"
 
-extern cMotivoBaja motivobaja;  // the record on which the form works; outlives it
+extern cMotivoBaja motivobaja;
 
 class MotivoBaja_Window : public Forma<MotivoBaja_Window, FXMDIChild, SinBuscar> {
   FXDECLARE(MotivoBaja_Window)

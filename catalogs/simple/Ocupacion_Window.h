@@ -5,7 +5,7 @@
 #include "db/Catalogo.h"
 #include "framework/Forma.h"
 
-extern cOcupacion ocupacion;  // the record on which the form works; outlives it
+extern cOcupacion ocupacion;
 
 class Ocupacion_Window : public Forma<Ocupacion_Window, FXMDIChild, SinBuscar> {
   FXDECLARE(Ocupacion_Window)

@@ -5,8 +5,8 @@
 #include "db/Catalogo.h"
 #include "framework/Forma.h"
 
-extern cTipoMoviBanco tipomovibanco;  // the record on which the form works; outlives it
-extern char sTipoMoviBanco[31];       // a row of the list
+extern cTipoMoviBanco tipomovibanco;
+extern char sTipoMoviBanco[31];
 
 class TipoMoviBanco_Window : public Forma<TipoMoviBanco_Window, FXMDIChild> {
   FXDECLARE(TipoMoviBanco_Window)

@@ -5,7 +5,7 @@
 #include "db/Catalogo.h"
 #include "framework/Forma.h"
 
-extern cTipoSocio tiposocio;  // the record on which the form works; outlives it
+extern cTipoSocio tiposocio;
 
 class TipoSocio_Window : public Forma<TipoSocio_Window, FXDialogBox> {
   FXDECLARE(TipoSocio_Window)

@@ -5,7 +5,7 @@
 #include "db/Catalogo.h"
 #include "framework/Forma.h"
 
-extern cTipoUsuario tipousuario;  // the record on which the form works; outlives it
+extern cTipoUsuario tipousuario;
 
 class TipoUsuario_Window : public Forma<TipoUsuario_Window, FXDialogBox> {
   FXDECLARE(TipoUsuario_Window)

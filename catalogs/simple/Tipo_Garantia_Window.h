@@ -5,8 +5,8 @@
 #include "db/Catalogo.h"
 #include "framework/Forma.h"
 
-extern cTipo_Garantia tipo_garantia;   // the record on which the form works; outlives it
-extern char sDescripcionGarantia[31];  // a row of the list
+extern cTipo_Garantia tipo_garantia;
+extern char sDescripcionGarantia[31];
 
 class Tipo_Garantia_Window : public Forma<Tipo_Garantia_Window, FXDialogBox> {
   FXDECLARE(Tipo_Garantia_Window)

@@ -6,7 +6,6 @@
 class cAsesor : public Registro<cAsesor> {
  public:
   cAsesor() { Clear(); }
-  /// Stores each argument as it stands.
   cAsesor(int id, const char* nombre, bool dataChanged, bool isNew);
 
   void setAsesorID(int valor) { Pon(AsesorID, valor); }
@@ -15,7 +14,6 @@ class cAsesor : public Registro<cAsesor> {
   int getAsesorID() const { return AsesorID; }
   const char* getNomAsesor() const { return NomAsesor; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "Asesor"; }
 

@@ -6,7 +6,6 @@
 class cClasificacionCredito : public Registro<cClasificacionCredito> {
  public:
   cClasificacionCredito() { Clear(); }
-  /// Stores each argument as it stands.
   cClasificacionCredito(int id, const char* descri, bool dataChanged, bool isNew);
 
   void setClasificacionCreditoID(int valor) { Pon(ClasificacionCreditoID, valor); }
@@ -16,7 +15,6 @@ class cClasificacionCredito : public Registro<cClasificacionCredito> {
   int getClasificacionCreditoID() const { return ClasificacionCreditoID; }
   const char* getDescripcion() const { return Descripcion; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "ClasificacionCredito"; }
 

@@ -6,7 +6,6 @@
 class cConceptoScoring : public Registro<cConceptoScoring> {
  public:
   cConceptoScoring() { Clear(); }
-  /// Stores each argument as it stands.
   cConceptoScoring(int id, const char* concepto, bool dataChanged, bool isNew);
 
   void setConceptoScoringID(int valor) { Pon(ConceptoScoringID, valor); }
@@ -15,7 +14,6 @@ class cConceptoScoring : public Registro<cConceptoScoring> {
   int getConceptoScoringID() const { return ConceptoScoringID; }
   const char* getConceptoScoring() const { return ConceptoScoring; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "Concepto Scoring"; }
 

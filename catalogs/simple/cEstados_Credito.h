@@ -6,7 +6,6 @@
 class cEstados_Credito : public Registro<cEstados_Credito> {
  public:
   cEstados_Credito() { Clear(); }
-  /// Stores each argument as it stands.
   cEstados_Credito(const char* clave, const char* descri, bool dataChanged, bool isNew);
 
   /// Key of 3 characters, stored with blanks behind it.
@@ -16,7 +15,6 @@ class cEstados_Credito : public Registro<cEstados_Credito> {
   const char* getClaveEstadoCredito() const { return ClaveEstadoCredito; }
   const char* getDescripcionEdoCredito() const { return DescripcionEdoCredito; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "Estado de Crédito"; }
 

@@ -6,7 +6,6 @@
 class cFinalidades : public Registro<cFinalidades> {
  public:
   cFinalidades() { Clear(); }
-  /// Stores each argument as it stands.
   cFinalidades(const char* clave, const char* descri, bool dataChanged, bool isNew);
 
   /// Key of 3 characters, stored with blanks behind it.
@@ -16,7 +15,6 @@ class cFinalidades : public Registro<cFinalidades> {
   const char* getClaveFinalidad() const { return ClaveFinalidad; }
   const char* getDescripcionFinalidad() const { return DescripcionFinalidad; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "Finalidad"; }
 

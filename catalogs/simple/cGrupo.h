@@ -6,7 +6,6 @@
 class cGrupo : public Registro<cGrupo> {
  public:
   cGrupo() { Clear(); }
-  /// Stores each argument as it stands.
   cGrupo(int id, const char* grupo, bool dataChanged, bool isNew);
 
   void setGrupoID(int valor) { Pon(GrupoID, valor); }
@@ -16,7 +15,6 @@ class cGrupo : public Registro<cGrupo> {
   int getGrupoID() const { return GrupoID; }
   const char* getGrupo() const { return Grupo; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "Grupo"; }
 

@@ -6,7 +6,6 @@
 class cModulo : public Registro<cModulo> {
  public:
   cModulo() { Clear(); }
-  /// Stores each argument as it stands.
   cModulo(const char* clave, const char* descri, bool dataChanged, bool isNew);
 
   /// Key of 10 characters, stored with blanks behind it.
@@ -16,7 +15,6 @@ class cModulo : public Registro<cModulo> {
   const char* getClaveModulo() const { return ClaveModulo; }
   const char* getDescriModulo() const { return DescriModulo; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "Modulo"; }
 

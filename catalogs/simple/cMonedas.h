@@ -6,7 +6,6 @@
 class cMonedas : public Registro<cMonedas> {
  public:
   cMonedas() { Clear(); }
-  /// Stores each argument as it stands, the key without its blank.
   cMonedas(const char* id, const char* descri, float valor, bool dataChanged, bool isNew);
 
   /// Key of 2 characters, stored with blanks behind it.
@@ -18,7 +17,6 @@ class cMonedas : public Registro<cMonedas> {
   const char* getMonedaDescri() const { return MonedaDescri; }
   float getMonedaValor() const { return MonedaValor; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   /// As in every record; also traces a refusal of the server.
   void Update();

@@ -6,7 +6,6 @@
 class cMotivoBaja : public Registro<cMotivoBaja> {
  public:
   cMotivoBaja() { Clear(); }
-  /// Stores each argument as it stands.
   cMotivoBaja(int id, const char* descri, bool dataChanged, bool isNew);
 
   void setMotivoBajaID(int valor) { Pon(MotivoBajaID, valor); }
@@ -16,7 +15,6 @@ class cMotivoBaja : public Registro<cMotivoBaja> {
   int getMotivoBajaID() const { return MotivoBajaID; }
   const char* getDescripcionMotivo() const { return DescripcionMotivo; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "MotivoBaja"; }
 

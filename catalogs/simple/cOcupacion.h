@@ -6,7 +6,6 @@
 class cOcupacion : public Registro<cOcupacion> {
  public:
   cOcupacion() { Clear(); }
-  /// Stores each argument as it stands.
   cOcupacion(int id, const char* ocupacion, bool dataChanged, bool isNew);
 
   void setOcupacionID(int valor) { Pon(OcupacionID, valor); }
@@ -15,7 +14,6 @@ class cOcupacion : public Registro<cOcupacion> {
   int getOcupacionID() const { return OcupacionID; }
   const char* getOcupacion() const { return Ocupacion; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "Ocupacion"; }
 

@@ -6,7 +6,6 @@
 class cTipoAcreditadoR : public Registro<cTipoAcreditadoR> {
  public:
   cTipoAcreditadoR() { Clear(); }
-  /// Stores each argument as it stands.
   cTipoAcreditadoR(int id, const char* descri, bool dataChanged, bool isNew);
 
   void setTipoAcreditadoID(int valor) { Pon(TipoAcreditadoID, valor); }
@@ -16,7 +15,6 @@ class cTipoAcreditadoR : public Registro<cTipoAcreditadoR> {
   int getTipoAcreditadoID() const { return TipoAcreditadoID; }
   const char* getDescripcionTipoAcreditado() const { return DescripcionTipoAcreditado; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
 
  private:

@@ -6,7 +6,6 @@
 class cTipoAsentamiento : public Registro<cTipoAsentamiento> {
  public:
   cTipoAsentamiento() { Clear(); }
-  /// Stores each argument as it stands.
   cTipoAsentamiento(long id, const char* asentamiento, bool dataChanged, bool isNew);
 
   void setTipoAsentamientoID(long valor) { Pon(TipoAsentamientoID, valor); }
@@ -16,7 +15,6 @@ class cTipoAsentamiento : public Registro<cTipoAsentamiento> {
   long getTipoAsentamientoID() const { return TipoAsentamientoID; }
   const char* getAsentamiento() const { return Asentamiento; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "Tipo de asentamiento"; }
 

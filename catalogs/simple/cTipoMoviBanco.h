@@ -6,7 +6,6 @@
 class cTipoMoviBanco : public Registro<cTipoMoviBanco, EngineVirtual> {
  public:
   cTipoMoviBanco() { Clear(); }
-  /// Stores each argument as it stands.
   cTipoMoviBanco(const char* id, const char* descri, const char* operacion, bool dataChanged, bool isNew);
 
   /// Key of 2 characters, stored with blanks behind it.
@@ -19,7 +18,6 @@ class cTipoMoviBanco : public Registro<cTipoMoviBanco, EngineVirtual> {
   const char* getDescriTipoMoviBanco() const { return DescriTipoMoviBanco; }
   const char* getOperacionSumaResta() const { return OperacionSumaResta; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "Tipo de Movimientos Bancarios"; }
 

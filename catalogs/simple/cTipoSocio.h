@@ -6,7 +6,6 @@
 class cTipoSocio : public Registro<cTipoSocio, EngineVirtual> {
  public:
   cTipoSocio() { Clear(); }
-  /// Stores each argument as it stands.
   cTipoSocio(const char* id, const char* descri, const char* observaciones, bool dataChanged, bool isNew);
 
   /// Key of 2 characters, stored with blanks behind it.
@@ -20,7 +19,6 @@ class cTipoSocio : public Registro<cTipoSocio, EngineVirtual> {
   const char* getDescriTipoSocio() const { return DescriTipoSocio; }
   const char* getObservaciones() const { return Observaciones; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "TipoSocio"; }
 

@@ -6,7 +6,6 @@
 class cTipoUsuario : public Registro<cTipoUsuario, EngineVirtual> {
  public:
   cTipoUsuario() { Clear(); }
-  /// Stores each argument as it stands.
   cTipoUsuario(const char* id, const char* descri, bool dataChanged, bool isNew);
 
   /// Key of 3 characters, stored with blanks behind it.
@@ -16,7 +15,6 @@ class cTipoUsuario : public Registro<cTipoUsuario, EngineVirtual> {
   const char* getTipoUsuarioID() const { return TipoUsuarioID; }
   const char* getDescripcionTipoUsuario() const { return DescripcionTipoUsuario; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "TipoUsuario"; }
 

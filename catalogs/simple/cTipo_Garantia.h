@@ -6,7 +6,6 @@
 class cTipo_Garantia : public Registro<cTipo_Garantia> {
  public:
   cTipo_Garantia() { Clear(); }
-  /// Stores each argument as it stands.
   cTipo_Garantia(const char* clave, const char* descri, bool dataChanged, bool isNew);
 
   /// Key of 3 characters, stored with blanks behind it.
@@ -16,7 +15,6 @@ class cTipo_Garantia : public Registro<cTipo_Garantia> {
   const char* getClaveGarantia() const { return ClaveGarantia; }
   const char* getDescripcionGarantia() const { return DescripcionGarantia; }
 
-  /// True, or throws the message of the first rule that is broken.
   bool Check();
   const char* clase() const { return "Tipo de Garantía"; }
 

@@ -80,7 +80,7 @@ SELECT is(como('adriana', 'norte', sentencia), esperado, sentencia)
     ($$SELECT spdtipomovimiento('Q')$$, ''),
     ($$SELECT spdtipomovimiento('Q')$$, 'El tipo de movimiento Q no existe'),
     ($$SELECT count(*) FROM spstipomovimiento('Q')$$, '0'),
-    ($$SELECT string_agg(tipomovimientoid, ' ') FROM spstipomovimiento('  ')$$, 'AH ES GL MN NV PS VC VI'),
+    ($$SELECT string_agg(tipomovimientoid, ' ') FROM spstipomovimiento('  ')$$, 'MN ES NV AH VC VI GL PS'),
     ($$SELECT count(*) FROM spstipomovimiento(NULL)$$, '8')
   ) AS paso (sentencia, esperado);
 

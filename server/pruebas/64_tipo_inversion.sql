@@ -69,7 +69,7 @@ SELECT is(como('adriana', 'norte', sentencia), esperado, sentencia)
     ($$SELECT spdtasa(max(tasaid)) FROM tasa$$, ''),
     ($$SELECT spdtipoinversion('Q')$$, ''),
     ($$SELECT spdtipoinversion('Q')$$, 'El tipo de inversión Q no existe'),
-    ($$SELECT string_agg(tipoinversionid, ' ') FROM spstipoinversion('  ')$$, '028 091 182 364 CAP CRE'),
+    ($$SELECT string_agg(tipoinversionid, ' ') FROM spstipoinversion('  ')$$, 'CAP 182 028 364 091 CRE'),
     ($$SELECT count(*) FROM spstipoinversion('ZZ')$$, '0')
   ) AS paso (sentencia, esperado);
 

@@ -153,7 +153,7 @@ SELECT is(como('adriana', 'norte', sentencia), esperado, sentencia)
     ($$SELECT spdtasa(max(tasaid)) FROM tasa$$, ''),
     ($$SELECT spdtipoprestamo('Q  ')$$, ''),
     ($$SELECT spdtipoprestamo('Q')$$, 'El tipo de préstamo Q no existe'),
-    ($$SELECT string_agg(tipoprestamoid, ' ') FROM spstipoprestamo('   ')$$, 'AGR AUT EME EMP GRU NOM ORD VIV')
+    ($$SELECT string_agg(tipoprestamoid, ' ') FROM spstipoprestamo('   ')$$, 'AGR AUT EME GRU EMP NOM ORD VIV')
   ) AS paso (sentencia, esperado);
 
 -- A row that nobody has completed yet can be read.

@@ -45,7 +45,7 @@ SELECT is(como('adriana', 'norte', sentencia), esperado, sentencia)
     ($$SELECT octet_length(no_cuenta) || ' ' || octet_length(cuentaid) FROM spsbanco('123')$$, '15 24'),
     ($$SELECT spdbanco('123')$$, ''),
     ($$SELECT spdbanco('123')$$, 'La cuenta bancaria 123 no existe'),
-    ($$SELECT array_agg(no_cuenta) = array_agg(no_cuenta ORDER BY no_cuenta) AND count(*) = 5 FROM spsbanco('  ')$$,
+    ($$SELECT array_agg(no_cuenta) = array_agg(no_cuenta ORDER BY banco COLLATE "es-MX-x-icu", no_cuenta) AND count(*) = 5 FROM spsbanco('  ')$$,
      'true'),
     ($$SELECT count(*) FROM spsbanco('99')$$, '0')
   ) AS paso (sentencia, esperado);

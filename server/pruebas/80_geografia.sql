@@ -68,6 +68,7 @@ SELECT is(como('adriana', 'norte', sentencia), esperado, sentencia)
     ($$SELECT count(*) FROM spscolonias(0)$$, '0'),
     ($$SELECT nombrecolonia FROM spscoloniacp(98764)$$, 'La Playa'),
     ($$SELECT count(*) FROM spscoloniacp(1)$$, '0'),
+    ($$SELECT count(*) FROM spscoloniacp(0)$$, '0'),
     ($$SELECT count(*) FROM spscolonia(0)$$, '1281'),
     ($$SELECT spdciudadmex(131);$$, 'No se puede borrar el municipio 131 porque se usa en: 1 colonias'),
     ($$SELECT spdcolonia(1281);$$, ''),

@@ -110,6 +110,18 @@ SELECT is((SELECT concat_ws('|', pagocapitalenperiodo, pagointeresenperiodo, pag
              FROM norte.precorte WHERE ejercicio = 2024 AND periodo = 2 AND prestamoid = :parcial),
           '400.00|100.00|5.00|20.00|1.00|29', 'los pagos de febrero salen en febrero');
 
+-- What the calculation answers goes by position: each expression bears the name of the column that it fills.
+SET LOCAL search_path TO norte, comun, tap, public;
+SELECT format('CREATE TEMPORARY VIEW respuesta AS %s', regexp_replace(prosrc, '\mcorte\M', 'date ''2024-03-15''', 'g'))
+  FROM pg_proc WHERE oid = 'norte.calcula_precorte'::regproc
+\gexec
+SET LOCAL search_path TO tap, public;
+SELECT results_eq($$ SELECT attname FROM pg_attribute WHERE attrelid = 'pg_temp.respuesta'::regclass AND attnum > 0
+                      ORDER BY attnum $$,
+                  $$ SELECT attname FROM pg_attribute WHERE attrelid = 'norte.precorte'::regclass AND attnum > 0
+                      ORDER BY attnum $$,
+                  'cada expresión lleva el nombre de su columna, y en su orden');
+
 -- Days of the year are the institution's.
 UPDATE norte.empresa SET diasanualesprestamo = 365;
 SELECT is((SELECT interesdevengadomenoravencido FROM norte.calcula_precorte('2024-03-15') WHERE prestamoid = :atrasado),
@@ -160,8 +172,10 @@ order by p.diasvencidos,s.clavesocioint $$ AS exporta \gset
 UPDATE norte.prestamos SET condicionid = prestamoid % 4 WHERE fecha_otorga = '2024-01-01';
 INSERT INTO norte.movimiento (socioid, tipomovimientoid, prestamoid, fecha, importe)
 VALUES (1, 'GL', :atrasado, '2024-03-15', 500), (1, 'GL', :atrasado, '2024-03-16', 70);
-SELECT is(como('camila', 'norte', format('SELECT count(*) FROM (%s) AS e', :'exporta')), '5',
-          'el estado de cuenta lo lee cualquiera de la sucursal');
+SELECT is(como('hilda', 'norte', format('SELECT count(*) FROM (%s) AS e', :'exporta')), '5',
+          'el estado de cuenta lo lee quien cierra');
+SELECT is(como('camila', 'norte', format('SELECT count(*) FROM (%s) AS e', :'exporta')),
+          'No tiene permiso para leer estos datos (módulo 0910)', 'y nadie más');
 SET LOCAL search_path TO tap, public, norte;
 SELECT bag_eq(:'exporta', 'SELECT * FROM norte.precorte_detalle WHERE ejercicio = 2024 AND periodo = 3',
               'el consolidado dice de la sucursal lo mismo que la consulta del cliente');

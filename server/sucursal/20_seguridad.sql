@@ -77,6 +77,29 @@ BEGIN
   END IF;
 END $$;
 
+-- Statement trigger of the tables that the client writes directly; its argument is the module. Stored functions run as
+-- the owner and have asked already.
+CREATE FUNCTION exige_permiso_directo() RETURNS trigger
+LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
+BEGIN
+  PERFORM exige_permiso(TG_ARGV[0]);
+  RETURN NULL;
+END $$;
+
+-- For the policies of the tables that hold persons' data: reading them takes one of these modules, whatever function or
+-- statement reads, unless it runs with the owner's rights.
+CREATE FUNCTION puede_leer(VARIADIC modulos text[]) RETURNS boolean
+LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+BEGIN
+  IF NOT EXISTS (SELECT FROM permisomodulo p
+                  WHERE p.usuarioid = session_user::text AND p.clavemodulo = ANY (modulos::bpchar[])
+                    AND p.permiso <> 'N') THEN
+    RAISE EXCEPTION 'No tiene permiso para leer estos datos (módulo %)', array_to_string(modulos, ' o ')
+      USING ERRCODE = 'insufficient_privilege';
+  END IF;
+  RETURN true;
+END $$;
+
 -- Waits until no other transaction is at the same matter, and keeps it to the end of this one: for what is looked at
 -- first and written afterwards.
 CREATE FUNCTION por_turno(asunto text) RETURNS void
@@ -252,7 +275,7 @@ END $$;
 
 GRANT SELECT ON modulo, tipousuario, usuario, permisomodulo TO :"grupo";
 GRANT EXECUTE ON FUNCTION spspermisomodulo, spspermisosmodulos(bigint), spspermisosmodulos(text), spipermisomodulo,
-  spupermisomodulo, spdpermisosmodulos, creausuario TO :"grupo";
+  spupermisomodulo, spdpermisosmodulos, creausuario, puede_leer TO :"grupo";
 
 INSERT INTO modulo (clavemodulo, descrimodulo) VALUES
   ('0102', 'Desconectarse del sistema'),

@@ -17,7 +17,7 @@ BEGIN ATOMIC
   SELECT m.monedaid, m.monedavalor, m.monedadescri
     FROM moneda m
    WHERE coalesce(btrim(clave), '') = '' OR m.monedaid = clave::bpchar
-   ORDER BY m.monedaid;
+   ORDER BY m.monedadescri COLLATE "es-MX-x-icu", m.monedaid;
 END;
 
 CREATE FUNCTION spimoneda(clave text, descri text, valor numeric) RETURNS void

@@ -143,6 +143,8 @@ datos AS (
          CASE WHEN por_texto THEN 'text' ELSE tipo END AS argumento,
          CASE WHEN por_texto THEN 'coalesce(btrim(clave), '''') = ''''' ELSE 'coalesce(clave, 0) = 0' END AS vacia,
          CASE WHEN por_texto THEN 'clave::bpchar' ELSE 'clave' END AS comparada,
+         CASE WHEN por_texto AND tabla <> 'modulo' THEN format('c.%I COLLATE "es-MX-x-icu", c.%I', columna, llave)
+              ELSE 'c.' || llave END AS orden,
          CASE WHEN por_texto THEN format('obligatorio(clave, %s, ''la clave'')::bpchar', substring(tipo FROM '\d+'))
               ELSE 'numero(clave, 1, 2147483647, ''la clave'')' END AS valida
     FROM catalogo, LATERAL (SELECT tipo LIKE 'character%') AS t (por_texto))
@@ -150,7 +152,7 @@ SELECT rellena($molde$
 CREATE FUNCTION sps{tabla}(clave {argumento}) RETURNS TABLE ({llave} {tipo}, {columna} {tipocolumna}({ancho}))
 LANGUAGE sql STABLE
 BEGIN ATOMIC
-  SELECT c.{llave}, c.{columna} FROM {tabla} c WHERE {vacia} OR c.{llave} = {comparada} ORDER BY c.{llave};
+  SELECT c.{llave}, c.{columna} FROM {tabla} c WHERE {vacia} OR c.{llave} = {comparada} ORDER BY {orden};
 END $molde$, to_jsonb(d)),
 CASE WHEN asignada THEN rellena($molde$
 CREATE FUNCTION spi{tabla}(descri text) RETURNS {tipo}
@@ -216,7 +218,7 @@ BEGIN ATOMIC
   SELECT t.tiposocioid, t.descritiposocio, t.observaciones
     FROM tiposocio t
    WHERE coalesce(btrim(clave), '') = '' OR t.tiposocioid = clave::bpchar
-   ORDER BY t.tiposocioid;
+   ORDER BY t.descritiposocio COLLATE "es-MX-x-icu", t.tiposocioid;
 END;
 
 CREATE FUNCTION spitiposocio(clave text, descri text, notas text) RETURNS void
@@ -274,7 +276,7 @@ BEGIN ATOMIC
   SELECT t.tipomovibancoid, t.descritipomovibanco, t.operacionsumaresta
     FROM tipomovibanco t
    WHERE coalesce(btrim(clave), '') = '' OR t.tipomovibancoid = clave::bpchar
-   ORDER BY t.tipomovibancoid;
+   ORDER BY t.descritipomovibanco COLLATE "es-MX-x-icu", t.tipomovibancoid;
 END;
 
 CREATE FUNCTION spitipomovibanco(clave text, descri text, operacion text) RETURNS void

@@ -59,10 +59,15 @@ CREATE FUNCTION cuenta_requerida(cuenta text, campo text) RETURNS text
 LANGUAGE sql SET search_path FROM CURRENT
 RETURN cuenta_afectable(obligatorio(cuenta, 24, campo), campo);
 
+-- What the client hands over to insert and to update, in its order, and the names alone.
+SELECT $$
+  cuenta text, acumula text, rubro text, nombre text, tipo text, estado text, fecha_del_estado text,
+  ultimo_movimiento text, naturaleza text, digito numeric, saldo numeric, cargos numeric, abonos numeric
+$$ AS campos \gset
+SELECT regexp_replace(:'campos', ' (text|integer|bigint|numeric)\M', '', 'g') AS dados \gset
+
 -- The row's values as they will be stored, or a refusal; shared by insert and update.
-CREATE FUNCTION cuenta_valida(cuenta text, acumula text, rubro text, nombre text, tipo text, estado text,
-                              fecha_del_estado text, ultimo_movimiento text, naturaleza text, digito numeric,
-                              saldo numeric, cargos numeric, abonos numeric) RETURNS catalogo_ctas
+CREATE FUNCTION cuenta_valida(:campos) RETURNS catalogo_ctas
 LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 DECLARE
   fila catalogo_ctas;
@@ -123,41 +128,35 @@ BEGIN ATOMIC
    ORDER BY c.cuentaid;
 END;
 
-CREATE FUNCTION spicatalogo_ctas(cuenta text, acumula text, rubro text, nombre text, tipo text, estado text,
-                                 fecha_del_estado text, ultimo_movimiento text, naturaleza text, digito numeric,
-                                 saldo numeric, cargos numeric, abonos numeric) RETURNS void
-LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
-DECLARE
-  fila catalogo_ctas;
+CREATE FUNCTION inserta_cuenta(fila catalogo_ctas) RETURNS void
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 BEGIN
-  PERFORM exige_permiso('0901');
-  PERFORM por_turno('catalogo_ctas');
-  fila := cuenta_valida(cuenta, acumula, rubro, nombre, tipo, estado, fecha_del_estado, ultimo_movimiento, naturaleza,
-                        digito, saldo, cargos, abonos);
   INSERT INTO catalogo_ctas SELECT fila.* ON CONFLICT DO NOTHING;
   IF NOT FOUND THEN
-    RAISE EXCEPTION 'La cuenta % ya existe', rtrim(cuenta) USING ERRCODE = 'unique_violation';
+    RAISE EXCEPTION 'La cuenta % ya existe', rtrim(fila.cuentaid) USING ERRCODE = 'unique_violation';
   END IF;
 END $$;
 
-CREATE FUNCTION spucatalogo_ctas(cuenta text, acumula text, rubro text, nombre text, tipo text, estado text,
-                                 fecha_del_estado text, ultimo_movimiento text, naturaleza text, digito numeric,
-                                 saldo numeric, cargos numeric, abonos numeric) RETURNS void
-LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
+CREATE FUNCTION spicatalogo_ctas(:campos) RETURNS void
+LANGUAGE sql SECURITY DEFINER SET search_path FROM CURRENT
+BEGIN ATOMIC
+  SELECT exige_permiso('0901');
+  SELECT por_turno('catalogo_ctas');
+  SELECT inserta_cuenta(cuenta_valida(:dados));
+END;
+
+CREATE FUNCTION cambia_cuenta(fila catalogo_ctas) RETURNS void
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 DECLARE
-  fila catalogo_ctas;
+  cuenta CONSTANT text := rtrim(fila.cuentaid);
   tipo_anterior text;
 BEGIN
-  PERFORM exige_permiso('0901');
-  PERFORM por_turno('catalogo_ctas');
-  fila := cuenta_valida(cuenta, acumula, rubro, nombre, tipo, estado, fecha_del_estado, ultimo_movimiento, naturaleza,
-                        digito, saldo, cargos, abonos);
   SELECT tipo_cta INTO tipo_anterior FROM catalogo_ctas WHERE cuentaid = fila.cuentaid FOR NO KEY UPDATE;
   IF tipo_anterior = 'A' AND fila.tipo_cta = 'C' AND usos('catalogo_ctas', cuenta) <> '' THEN
-    RAISE EXCEPTION 'La cuenta % no puede dejar de ser afectable porque se usa en: %', rtrim(cuenta),
+    RAISE EXCEPTION 'La cuenta % no puede dejar de ser afectable porque se usa en: %', cuenta,
       usos('catalogo_ctas', cuenta) USING ERRCODE = 'check_violation';
   ELSIF fila.tipo_cta = 'A' AND EXISTS (SELECT FROM catalogo_ctas WHERE cuentaacumula = fila.cuentaid) THEN
-    RAISE EXCEPTION 'La cuenta % no puede ser afectable: otras acumulan en ella', rtrim(cuenta)
+    RAISE EXCEPTION 'La cuenta % no puede ser afectable: otras acumulan en ella', cuenta
       USING ERRCODE = 'check_violation';
   END IF;
   UPDATE catalogo_ctas
@@ -165,15 +164,21 @@ BEGIN
           naturaleza, digito_agrupador, saldo_inic_ejer, cargos_acum_ejer, abonos_acum_ejer) = (SELECT fila.*)
    WHERE cuentaid = fila.cuentaid;
   IF NOT FOUND THEN
-    RAISE EXCEPTION 'La cuenta % no existe', rtrim(cuenta) USING ERRCODE = 'no_data_found';
+    RAISE EXCEPTION 'La cuenta % no existe', cuenta USING ERRCODE = 'no_data_found';
   END IF;
 END $$;
 
+CREATE FUNCTION spucatalogo_ctas(:campos) RETURNS void
+LANGUAGE sql SECURITY DEFINER SET search_path FROM CURRENT
+BEGIN ATOMIC
+  SELECT exige_permiso('0901');
+  SELECT por_turno('catalogo_ctas');
+  SELECT cambia_cuenta(cuenta_valida(:dados));
+END;
+
 -- Adds an account to every branch that does not have it yet. Each asks for the permission by itself: without it in one
 -- of them none gets the account.
-CREATE FUNCTION spicatalogo_ctasc(cuenta text, acumula text, rubro text, nombre text, tipo text, estado text,
-                                  fecha_del_estado text, ultimo_movimiento text, naturaleza text, digito numeric,
-                                  saldo numeric, cargos numeric, abonos numeric) RETURNS void
+CREATE FUNCTION spicatalogo_ctasc(:campos) RETURNS void
 LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
 DECLARE
   sucursal name;

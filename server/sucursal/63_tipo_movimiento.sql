@@ -32,12 +32,17 @@ COMMENT ON COLUMN tipomovimiento.comision IS 'cuota fija, en pesos';
 CREATE TRIGGER bitacora AFTER INSERT OR UPDATE OR DELETE ON tipomovimiento
   FOR EACH ROW EXECUTE FUNCTION anota_bitacora('tipomovimientoid');
 
--- The row's values as they will be stored, or a refusal; shared by insert and update.
-CREATE FUNCTION tipomovimiento_valido(
+-- What the client hands over to insert and to update, in its order, and the names alone.
+SELECT $$
   clave text, descri text, aplica_saldo text, deposito text, retiro text, int_pagado text, int_cobrado text, iva text,
   isr text, poliza text, acepta_deposito text, acepta_retiro text, tasa numeric, orden_acredor text,
   orden_deudor text, maneja_orden text, provision_isr text, cuota numeric, por_comision numeric,
-  por_iva_comision numeric, cuenta_comision text, cuenta_iva_comision text, desglosa integer) RETURNS tipomovimiento
+  por_iva_comision numeric, cuenta_comision text, cuenta_iva_comision text, desglosa integer
+$$ AS campos \gset
+SELECT regexp_replace(:'campos', ' (text|integer|bigint|numeric)\M', '', 'g') AS dados \gset
+
+-- The row's values as they will be stored, or a refusal; shared by insert and update.
+CREATE FUNCTION tipomovimiento_valido(:campos) RETURNS tipomovimiento
 LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 DECLARE
   fila tipomovimiento;
@@ -87,43 +92,28 @@ BEGIN ATOMIC
          t.porcomision, t.porivacomision, t.cuentacomision, t.cuentaivacomision, t.desglosaiva::integer
     FROM tipomovimiento t
    WHERE coalesce(btrim(clave), '') = '' OR t.tipomovimientoid = clave::bpchar
-   ORDER BY t.tipomovimientoid;
+   ORDER BY t.desctipomovimiento COLLATE "es-MX-x-icu", t.tipomovimientoid;
 END;
 
-CREATE FUNCTION spitipomovimiento(
-  clave text, descri text, aplica_saldo text, deposito text, retiro text, int_pagado text, int_cobrado text, iva text,
-  isr text, poliza text, acepta_deposito text, acepta_retiro text, tasa numeric, orden_acredor text,
-  orden_deudor text, maneja_orden text, provision_isr text, cuota numeric, por_comision numeric,
-  por_iva_comision numeric, cuenta_comision text, cuenta_iva_comision text, desglosa integer) RETURNS void
-LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
-DECLARE
-  fila tipomovimiento;
+CREATE FUNCTION inserta_tipomovimiento(fila tipomovimiento) RETURNS void
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 BEGIN
-  PERFORM exige_permiso('0207');
-  fila := tipomovimiento_valido(clave, descri, aplica_saldo, deposito, retiro, int_pagado, int_cobrado, iva, isr,
-                                poliza, acepta_deposito, acepta_retiro, tasa, orden_acredor, orden_deudor,
-                                maneja_orden, provision_isr, cuota, por_comision, por_iva_comision, cuenta_comision,
-                                cuenta_iva_comision, desglosa);
   INSERT INTO tipomovimiento SELECT fila.* ON CONFLICT DO NOTHING;
   IF NOT FOUND THEN
-    RAISE EXCEPTION 'El tipo de movimiento % ya existe', rtrim(clave) USING ERRCODE = 'unique_violation';
+    RAISE EXCEPTION 'El tipo de movimiento % ya existe', rtrim(fila.tipomovimientoid) USING ERRCODE = 'unique_violation';
   END IF;
 END $$;
 
-CREATE FUNCTION sputipomovimiento(
-  clave text, descri text, aplica_saldo text, deposito text, retiro text, int_pagado text, int_cobrado text, iva text,
-  isr text, poliza text, acepta_deposito text, acepta_retiro text, tasa numeric, orden_acredor text,
-  orden_deudor text, maneja_orden text, provision_isr text, cuota numeric, por_comision numeric,
-  por_iva_comision numeric, cuenta_comision text, cuenta_iva_comision text, desglosa integer) RETURNS void
-LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
-DECLARE
-  fila tipomovimiento;
+CREATE FUNCTION spitipomovimiento(:campos) RETURNS void
+LANGUAGE sql SECURITY DEFINER SET search_path FROM CURRENT
+BEGIN ATOMIC
+  SELECT exige_permiso('0207');
+  SELECT inserta_tipomovimiento(tipomovimiento_valido(:dados));
+END;
+
+CREATE FUNCTION cambia_tipomovimiento(fila tipomovimiento) RETURNS void
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 BEGIN
-  PERFORM exige_permiso('0207');
-  fila := tipomovimiento_valido(clave, descri, aplica_saldo, deposito, retiro, int_pagado, int_cobrado, iva, isr,
-                                poliza, acepta_deposito, acepta_retiro, tasa, orden_acredor, orden_deudor,
-                                maneja_orden, provision_isr, cuota, por_comision, por_iva_comision, cuenta_comision,
-                                cuenta_iva_comision, desglosa);
   UPDATE tipomovimiento
      SET (tipomovimientoid, cuentadeposito, cuentaretiro, cuentaintpagado, cuentaintcobrado, cuentaivamovimiento,
           cuentaisr, desctipomovimiento, aplicasaldo, tipopoliza, aceptadeposito, aceptaretiro, tasainteres,
@@ -131,9 +121,16 @@ BEGIN
           porivacomision, cuentacomision, cuentaivacomision, desglosaiva) = (SELECT fila.*)
    WHERE tipomovimientoid = fila.tipomovimientoid;
   IF NOT FOUND THEN
-    RAISE EXCEPTION 'El tipo de movimiento % no existe', rtrim(clave) USING ERRCODE = 'no_data_found';
+    RAISE EXCEPTION 'El tipo de movimiento % no existe', rtrim(fila.tipomovimientoid) USING ERRCODE = 'no_data_found';
   END IF;
 END $$;
+
+CREATE FUNCTION sputipomovimiento(:campos) RETURNS void
+LANGUAGE sql SECURITY DEFINER SET search_path FROM CURRENT
+BEGIN ATOMIC
+  SELECT exige_permiso('0207');
+  SELECT cambia_tipomovimiento(tipomovimiento_valido(:dados));
+END;
 
 CREATE FUNCTION spdtipomovimiento(clave text) RETURNS void
 LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$

@@ -29,12 +29,17 @@ COMMENT ON COLUMN tipoinversion.clasificacionid IS '0 inversión normal, 1 certi
 CREATE TRIGGER bitacora AFTER INSERT OR UPDATE OR DELETE ON tipoinversion
   FOR EACH ROW EXECUTE FUNCTION anota_bitacora('tipoinversionid');
 
--- The row's values as they will be stored, or a refusal; shared by insert and update.
-CREATE FUNCTION tipoinversion_valido(
+-- What the client hands over to insert and to update, in its order, and the names alone.
+SELECT $$
   clave text, riesgo text, interes_no_cobrado text, formula bigint, pasivo text, pasivo_vencida text, interes text,
   iva text, descri text, tasa numeric, plazo_min integer, aplica_iva text, aplica_isr integer, reinvierte integer,
   movimiento text, provision_isr text, clasificacion integer, monto_max numeric, monto_min numeric,
-  plazo_max integer) RETURNS tipoinversion
+  plazo_max integer
+$$ AS campos \gset
+SELECT regexp_replace(:'campos', ' (text|integer|bigint|numeric)\M', '', 'g') AS dados \gset
+
+-- The row's values as they will be stored, or a refusal; shared by insert and update.
+CREATE FUNCTION tipoinversion_valido(:campos) RETURNS tipoinversion
 LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 DECLARE
   fila tipoinversion;
@@ -83,41 +88,28 @@ BEGIN ATOMIC
          t.montomin, t.plazomax
     FROM tipoinversion t
    WHERE coalesce(btrim(clave), '') = '' OR t.tipoinversionid = clave::bpchar
-   ORDER BY t.tipoinversionid;
+   ORDER BY t.desctipoinversion COLLATE "es-MX-x-icu", t.tipoinversionid;
 END;
 
-CREATE FUNCTION spitipoinversion(
-  clave text, riesgo text, interes_no_cobrado text, formula bigint, pasivo text, pasivo_vencida text, interes text,
-  iva text, descri text, tasa numeric, plazo_min integer, aplica_iva text, aplica_isr integer, reinvierte integer,
-  movimiento text, provision_isr text, clasificacion integer, monto_max numeric, monto_min numeric,
-  plazo_max integer) RETURNS void
-LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
-DECLARE
-  fila tipoinversion;
+CREATE FUNCTION inserta_tipoinversion(fila tipoinversion) RETURNS void
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 BEGIN
-  PERFORM exige_permiso('0212');
-  fila := tipoinversion_valido(clave, riesgo, interes_no_cobrado, formula, pasivo, pasivo_vencida, interes, iva,
-                               descri, tasa, plazo_min, aplica_iva, aplica_isr, reinvierte, movimiento, provision_isr,
-                               clasificacion, monto_max, monto_min, plazo_max);
   INSERT INTO tipoinversion SELECT fila.* ON CONFLICT DO NOTHING;
   IF NOT FOUND THEN
-    RAISE EXCEPTION 'El tipo de inversión % ya existe', rtrim(clave) USING ERRCODE = 'unique_violation';
+    RAISE EXCEPTION 'El tipo de inversión % ya existe', rtrim(fila.tipoinversionid) USING ERRCODE = 'unique_violation';
   END IF;
 END $$;
 
-CREATE FUNCTION sputipoinversion(
-  clave text, riesgo text, interes_no_cobrado text, formula bigint, pasivo text, pasivo_vencida text, interes text,
-  iva text, descri text, tasa numeric, plazo_min integer, aplica_iva text, aplica_isr integer, reinvierte integer,
-  movimiento text, provision_isr text, clasificacion integer, monto_max numeric, monto_min numeric,
-  plazo_max integer) RETURNS void
-LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
-DECLARE
-  fila tipoinversion;
+CREATE FUNCTION spitipoinversion(:campos) RETURNS void
+LANGUAGE sql SECURITY DEFINER SET search_path FROM CURRENT
+BEGIN ATOMIC
+  SELECT exige_permiso('0212');
+  SELECT inserta_tipoinversion(tipoinversion_valido(:dados));
+END;
+
+CREATE FUNCTION cambia_tipoinversion(fila tipoinversion) RETURNS void
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 BEGIN
-  PERFORM exige_permiso('0212');
-  fila := tipoinversion_valido(clave, riesgo, interes_no_cobrado, formula, pasivo, pasivo_vencida, interes, iva,
-                               descri, tasa, plazo_min, aplica_iva, aplica_isr, reinvierte, movimiento, provision_isr,
-                               clasificacion, monto_max, monto_min, plazo_max);
   UPDATE tipoinversion
      SET (tipoinversionid, cuentariesgocred, cuentaintinvernocob, calculoid, cuentapasivo, cuentapasivovencida,
           cuentaintinver, cuentaivainver, desctipoinversion, tasa_normal, plazo, aplicaivainversion, aplicaisr,
@@ -125,9 +117,16 @@ BEGIN
          (SELECT fila.*)
    WHERE tipoinversionid = fila.tipoinversionid;
   IF NOT FOUND THEN
-    RAISE EXCEPTION 'El tipo de inversión % no existe', rtrim(clave) USING ERRCODE = 'no_data_found';
+    RAISE EXCEPTION 'El tipo de inversión % no existe', rtrim(fila.tipoinversionid) USING ERRCODE = 'no_data_found';
   END IF;
 END $$;
+
+CREATE FUNCTION sputipoinversion(:campos) RETURNS void
+LANGUAGE sql SECURITY DEFINER SET search_path FROM CURRENT
+BEGIN ATOMIC
+  SELECT exige_permiso('0212');
+  SELECT cambia_tipoinversion(tipoinversion_valido(:dados));
+END;
 
 CREATE FUNCTION spdtipoinversion(clave text) RETURNS void
 LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$

@@ -1,15 +1,6 @@
 -- Loan types. The client saves one with two statements of one transaction: the stored function, which takes the first
 -- 32 columns of its list, and a direct update of the other 19. Columns stand in the order in which it reads them.
 
--- Statement trigger of the tables that the client writes directly; its argument is the module. Stored functions run as
--- the owner and have asked already.
-CREATE FUNCTION exige_permiso_directo() RETURNS trigger
-LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
-BEGIN
-  PERFORM exige_permiso(TG_ARGV[0]);
-  RETURN NULL;
-END $$;
-
 -- The amounts of the direct update have no precision of their own: a number too large for one would be refused ahead
 -- of the trigger, in the server's words.
 CREATE TABLE tipoprestamo (
@@ -75,15 +66,20 @@ COMMENT ON COLUMN tipoprestamo.estatus IS '1 se ofrece, 0 ya no';
 CREATE TRIGGER bitacora AFTER INSERT OR UPDATE OR DELETE ON tipoprestamo
   FOR EACH ROW EXECUTE FUNCTION anota_bitacora('tipoprestamoid');
 
--- The values of the stored functions as they will be stored, or a refusal; the other columns are left without one.
-CREATE FUNCTION tipoprestamo_valido(
+-- What the client hands over to insert and to update, in its order, and the names alone.
+SELECT $$
   clave text, descri text, veces integer, normal numeric, mora numeric, movi_garantia text, activo text,
   activo_vencida text, int_normal text, int_normal_vencida text, int_normal_no_cob text, int_mora text,
   int_mora_vencida text, iva text, riesgo text, orden_aval text, orden_interes text, aplica_iva text, dias integer,
   int_dev_no_cob_res text, riesgo_res text, int_mora_no_cob_act text, int_mora_dev_no_cob_res text,
   orden_deudor_bonificado text, orden_acredor_bonificado text, fondo_recuperacion text, gastos_adm text,
   int_normal_res_vencida text, orden_interes_acreedor text, formula_normal bigint, formula_mora bigint,
-  finalidad text) RETURNS tipoprestamo
+  finalidad text
+$$ AS campos \gset
+SELECT regexp_replace(:'campos', ' (text|integer|bigint|numeric)\M', '', 'g') AS dados \gset
+
+-- The values of the stored functions as they will be stored, or a refusal; the other columns are left without one.
+CREATE FUNCTION tipoprestamo_valido(:campos) RETURNS tipoprestamo
 LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 DECLARE
   fila tipoprestamo;
@@ -206,53 +202,28 @@ BEGIN ATOMIC
          t.clasificacioncontable
     FROM tipoprestamo t
    WHERE coalesce(btrim(clave), '') = '' OR t.tipoprestamoid = clave::bpchar
-   ORDER BY t.tipoprestamoid;
+   ORDER BY t.desctipoprestamo COLLATE "es-MX-x-icu", t.tipoprestamoid;
 END;
 
-CREATE FUNCTION spitipoprestamo(
-  clave text, descri text, veces integer, normal numeric, mora numeric, movi_garantia text, activo text,
-  activo_vencida text, int_normal text, int_normal_vencida text, int_normal_no_cob text, int_mora text,
-  int_mora_vencida text, iva text, riesgo text, orden_aval text, orden_interes text, aplica_iva text, dias integer,
-  int_dev_no_cob_res text, riesgo_res text, int_mora_no_cob_act text, int_mora_dev_no_cob_res text,
-  orden_deudor_bonificado text, orden_acredor_bonificado text, fondo_recuperacion text, gastos_adm text,
-  int_normal_res_vencida text, orden_interes_acreedor text, formula_normal bigint, formula_mora bigint,
-  finalidad text) RETURNS void
-LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
-DECLARE
-  fila tipoprestamo;
+CREATE FUNCTION inserta_tipoprestamo(fila tipoprestamo) RETURNS void
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 BEGIN
-  PERFORM exige_permiso('0208');
-  fila := tipoprestamo_valido(clave, descri, veces, normal, mora, movi_garantia, activo, activo_vencida, int_normal,
-                              int_normal_vencida, int_normal_no_cob, int_mora, int_mora_vencida, iva, riesgo,
-                              orden_aval, orden_interes, aplica_iva, dias, int_dev_no_cob_res, riesgo_res,
-                              int_mora_no_cob_act, int_mora_dev_no_cob_res, orden_deudor_bonificado,
-                              orden_acredor_bonificado, fondo_recuperacion, gastos_adm, int_normal_res_vencida,
-                              orden_interes_acreedor, formula_normal, formula_mora, finalidad);
   INSERT INTO tipoprestamo SELECT fila.* ON CONFLICT DO NOTHING;
   IF NOT FOUND THEN
-    RAISE EXCEPTION 'El tipo de préstamo % ya existe', rtrim(clave) USING ERRCODE = 'unique_violation';
+    RAISE EXCEPTION 'El tipo de préstamo % ya existe', rtrim(fila.tipoprestamoid) USING ERRCODE = 'unique_violation';
   END IF;
 END $$;
 
-CREATE FUNCTION sputipoprestamo(
-  clave text, descri text, veces integer, normal numeric, mora numeric, movi_garantia text, activo text,
-  activo_vencida text, int_normal text, int_normal_vencida text, int_normal_no_cob text, int_mora text,
-  int_mora_vencida text, iva text, riesgo text, orden_aval text, orden_interes text, aplica_iva text, dias integer,
-  int_dev_no_cob_res text, riesgo_res text, int_mora_no_cob_act text, int_mora_dev_no_cob_res text,
-  orden_deudor_bonificado text, orden_acredor_bonificado text, fondo_recuperacion text, gastos_adm text,
-  int_normal_res_vencida text, orden_interes_acreedor text, formula_normal bigint, formula_mora bigint,
-  finalidad text) RETURNS void
-LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
-DECLARE
-  fila tipoprestamo;
+CREATE FUNCTION spitipoprestamo(:campos) RETURNS void
+LANGUAGE sql SECURITY DEFINER SET search_path FROM CURRENT
+BEGIN ATOMIC
+  SELECT exige_permiso('0208');
+  SELECT inserta_tipoprestamo(tipoprestamo_valido(:dados));
+END;
+
+CREATE FUNCTION cambia_tipoprestamo(fila tipoprestamo) RETURNS void
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 BEGIN
-  PERFORM exige_permiso('0208');
-  fila := tipoprestamo_valido(clave, descri, veces, normal, mora, movi_garantia, activo, activo_vencida, int_normal,
-                              int_normal_vencida, int_normal_no_cob, int_mora, int_mora_vencida, iva, riesgo,
-                              orden_aval, orden_interes, aplica_iva, dias, int_dev_no_cob_res, riesgo_res,
-                              int_mora_no_cob_act, int_mora_dev_no_cob_res, orden_deudor_bonificado,
-                              orden_acredor_bonificado, fondo_recuperacion, gastos_adm, int_normal_res_vencida,
-                              orden_interes_acreedor, formula_normal, formula_mora, finalidad);
   UPDATE tipoprestamo
      SET cuentaactivo = fila.cuentaactivo, cuentaactivovencida = fila.cuentaactivovencida,
          cuentaintnormal = fila.cuentaintnormal, cuentaintnormalvencida = fila.cuentaintnormalvencida,
@@ -273,9 +244,16 @@ BEGIN
          calculomoraid = fila.calculomoraid, clavefinalidad = fila.clavefinalidad
    WHERE tipoprestamoid = fila.tipoprestamoid;
   IF NOT FOUND THEN
-    RAISE EXCEPTION 'El tipo de préstamo % no existe', rtrim(clave) USING ERRCODE = 'no_data_found';
+    RAISE EXCEPTION 'El tipo de préstamo % no existe', rtrim(fila.tipoprestamoid) USING ERRCODE = 'no_data_found';
   END IF;
 END $$;
+
+CREATE FUNCTION sputipoprestamo(:campos) RETURNS void
+LANGUAGE sql SECURITY DEFINER SET search_path FROM CURRENT
+BEGIN ATOMIC
+  SELECT exige_permiso('0208');
+  SELECT cambia_tipoprestamo(tipoprestamo_valido(:dados));
+END;
 
 CREATE FUNCTION spdtipoprestamo(clave text) RETURNS void
 LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$

@@ -17,9 +17,15 @@ COMMENT ON COLUMN banco.nocheque IS 'último cheque expedido de la serie';
 CREATE TRIGGER bitacora AFTER INSERT OR UPDATE OR DELETE ON banco
   FOR EACH ROW EXECUTE FUNCTION anota_bitacora('no_cuenta');
 
+-- What the client hands over to insert and to update, in its order, and the names alone.
+SELECT $$
+  cuenta text, nombre text, inicio text, inicial numeric, actual numeric, pendiente numeric, contable text,
+  serie_cheques text, cheque bigint
+$$ AS campos \gset
+SELECT regexp_replace(:'campos', ' (text|integer|bigint|numeric)\M', '', 'g') AS dados \gset
+
 -- The row's values as they will be stored, or a refusal; shared by insert and update.
-CREATE FUNCTION banco_valido(cuenta text, nombre text, inicio text, inicial numeric, actual numeric, pendiente numeric,
-                             contable text, serie_cheques text, cheque bigint) RETURNS banco
+CREATE FUNCTION banco_valido(:campos) RETURNS banco
 LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 DECLARE
   fila banco;
@@ -46,39 +52,43 @@ BEGIN ATOMIC
          b.nocheque
     FROM banco b
    WHERE coalesce(btrim(clave), '') = '' OR b.no_cuenta = clave::bpchar
-   ORDER BY b.no_cuenta;
+   ORDER BY b.banco COLLATE "es-MX-x-icu", b.no_cuenta;
 END;
 
-CREATE FUNCTION spibanco(cuenta text, nombre text, inicio text, inicial numeric, actual numeric, pendiente numeric,
-                         contable text, serie_cheques text, cheque bigint) RETURNS void
-LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
-DECLARE
-  fila banco;
+CREATE FUNCTION inserta_banco(fila banco) RETURNS void
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 BEGIN
-  PERFORM exige_permiso('0204');
-  fila := banco_valido(cuenta, nombre, inicio, inicial, actual, pendiente, contable, serie_cheques, cheque);
   INSERT INTO banco SELECT fila.* ON CONFLICT DO NOTHING;
   IF NOT FOUND THEN
-    RAISE EXCEPTION 'La cuenta bancaria % ya existe', rtrim(cuenta) USING ERRCODE = 'unique_violation';
+    RAISE EXCEPTION 'La cuenta bancaria % ya existe', rtrim(fila.no_cuenta) USING ERRCODE = 'unique_violation';
   END IF;
 END $$;
 
-CREATE FUNCTION spubanco(cuenta text, nombre text, inicio text, inicial numeric, actual numeric, pendiente numeric,
-                         contable text, serie_cheques text, cheque bigint) RETURNS void
-LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
-DECLARE
-  fila banco;
+CREATE FUNCTION spibanco(:campos) RETURNS void
+LANGUAGE sql SECURITY DEFINER SET search_path FROM CURRENT
+BEGIN ATOMIC
+  SELECT exige_permiso('0204');
+  SELECT inserta_banco(banco_valido(:dados));
+END;
+
+CREATE FUNCTION cambia_banco(fila banco) RETURNS void
+LANGUAGE plpgsql SET search_path FROM CURRENT AS $$
 BEGIN
-  PERFORM exige_permiso('0204');
-  fila := banco_valido(cuenta, nombre, inicio, inicial, actual, pendiente, contable, serie_cheques, cheque);
   UPDATE banco
      SET (no_cuenta, cuentaid, banco, fecha_inicio, saldo_inicial, saldo_actual, saldo_pen, serie, nocheque) =
          (SELECT fila.*)
    WHERE no_cuenta = fila.no_cuenta;
   IF NOT FOUND THEN
-    RAISE EXCEPTION 'La cuenta bancaria % no existe', rtrim(cuenta) USING ERRCODE = 'no_data_found';
+    RAISE EXCEPTION 'La cuenta bancaria % no existe', rtrim(fila.no_cuenta) USING ERRCODE = 'no_data_found';
   END IF;
 END $$;
+
+CREATE FUNCTION spubanco(:campos) RETURNS void
+LANGUAGE sql SECURITY DEFINER SET search_path FROM CURRENT
+BEGIN ATOMIC
+  SELECT exige_permiso('0204');
+  SELECT cambia_banco(banco_valido(:dados));
+END;
 
 CREATE FUNCTION spdbanco(clave text) RETURNS void
 LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$

@@ -196,7 +196,7 @@ LANGUAGE sql STABLE
 BEGIN ATOMIC
   SELECT c.coloniaid, c.ciudadmexid, c.nombrecolonia, c.cp, c.tipoasentamientoid
     FROM colonias c
-   WHERE coalesce(codigo, 0) = 0 OR c.cp = codigo
+   WHERE c.cp = codigo
    ORDER BY c.coloniaid;
 END;
 

@@ -24,22 +24,34 @@ RETURN concat_ws(' ',
   CASE WHEN n >= 1000 THEN 'MIL' END,
   nullif(centenas_letra(n % 1000), ''));
 
--- 'UN MILLÓN DOSCIENTOS PESOS 50/100 M.N.', up to 999,999,999,999.99; rounds to the cent.
+-- 'UN MILLÓN DOSCIENTOS PESOS 50/100 M.N.', to the cent. The client has no way to be told that there is no answer: what is
+-- below zero says so, and from a million millions on the words would not fit into its variable and figures stand for them.
 CREATE FUNCTION cletra(importe numeric) RETURNS text
 LANGUAGE plpgsql IMMUTABLE SECURITY DEFINER SET search_path FROM CURRENT AS $$
 DECLARE
-  redondo numeric := numero(round(importe, 2), 0, 999999999999.99, 'el importe');
-  pesos bigint := trunc(redondo);
-  millones integer := pesos / 1000000;
+  redondo numeric := round(importe, 2);
+  monto numeric := abs(redondo);
+  pesos bigint;
+  millones integer;
 BEGIN
+  IF importe IS NULL THEN
+    RAISE EXCEPTION 'Falta el importe' USING ERRCODE = 'not_null_violation';
+  ELSIF importe IN ('NaN', 'Infinity', '-Infinity') THEN
+    RAISE EXCEPTION 'El importe % no es un número', importe USING ERRCODE = 'numeric_value_out_of_range';
+  ELSIF monto >= 1000000000000 THEN
+    RETURN redondo || ' PESOS M.N.';
+  END IF;
+  pesos := trunc(monto);
+  millones := pesos / 1000000;
   RETURN concat_ws(' ',
+    CASE WHEN redondo < 0 THEN 'MENOS' END,
     CASE WHEN pesos = 0 THEN 'CERO' END,
     nullif(miles_letra(millones), ''),
     CASE WHEN millones = 1 THEN 'MILLÓN' WHEN millones > 1 THEN 'MILLONES' END,
     nullif(miles_letra((pesos % 1000000)::integer), ''),
     CASE WHEN pesos > 0 AND pesos % 1000000 = 0 THEN 'DE' END,
     CASE WHEN pesos = 1 THEN 'PESO' ELSE 'PESOS' END,
-    to_char((redondo - pesos) * 100, 'FM00') || '/100 M.N.');
+    to_char((monto - pesos) * 100, 'FM00') || '/100 M.N.');
 END $$;
 
 GRANT EXECUTE ON FUNCTION cletra TO :"grupo";

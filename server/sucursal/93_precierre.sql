@@ -1,4 +1,71 @@
 -- The monthly pre-close of the loans: their state at the end of a day, one row each, computed once per month.
+CREATE TABLE tramoreserva (
+  diasdesde integer PRIMARY KEY CHECK (diasdesde >= 0),
+  porcentaje numeric(7,4) NOT NULL CHECK (porcentaje BETWEEN 0 AND 100)
+);
+COMMENT ON TABLE tramoreserva IS 'tramos de reserva: por ciento del saldo que se reserva según los días vencidos';
+
+CREATE TABLE cierre (
+  ejercicio integer NOT NULL CHECK (ejercicio BETWEEN 1900 AND 9999),
+  periodo integer NOT NULL CHECK (periodo BETWEEN 1 AND 12),
+  fechacierre date NOT NULL,
+  usuarioid name NOT NULL DEFAULT session_user,
+  momento timestamptz NOT NULL DEFAULT now(),
+  PRIMARY KEY (ejercicio, periodo)
+);
+COMMENT ON TABLE cierre IS 'cierres: meses cuyo precierre ya se corrió';
+
+CREATE TABLE precorte (
+  ejercicio integer NOT NULL,
+  periodo integer NOT NULL,
+  prestamoid bigint NOT NULL REFERENCES prestamos,
+  fechacierre date NOT NULL,
+  tipoprestamoid character(3) NOT NULL REFERENCES tipoprestamo,
+  clavefinalidad character(3) NOT NULL REFERENCES finalidades,
+  montoprestamo numeric(14,2) NOT NULL,
+  fecha_vencimiento date NOT NULL,
+  saldoprestamo numeric(14,2) NOT NULL,
+  diastraspasoavencida integer NOT NULL,
+  diasvencidos integer NOT NULL,
+  noamorvencidas integer NOT NULL,
+  saldovencidomenoravencido numeric(14,2) NOT NULL,
+  saldovencidomayoravencido numeric(14,2) NOT NULL,
+  interesdevengadomenoravencido numeric(14,2) NOT NULL,
+  interesdevengadomayoravencido numeric(14,2) NOT NULL,
+  interesdevmormenor numeric(14,2) NOT NULL,
+  interesdevmormayor numeric(14,2) NOT NULL,
+  porcentajeaplicado numeric(7,4) NOT NULL,
+  factoraplicado numeric(9,6) NOT NULL,
+  reservacalculada numeric(14,2) NOT NULL,
+  pagocapitalenperiodo numeric(14,2) NOT NULL,
+  pagointeresenperiodo numeric(14,2) NOT NULL,
+  pagomoratorioenperiodo numeric(14,2) NOT NULL,
+  bonificacionintenperiodo numeric(14,2) NOT NULL,
+  bonificacionmorenperiodo numeric(14,2) NOT NULL,
+  fechaultamorpagada date,
+  ultimoabono date,
+  ultimoabonointeres date,
+  PRIMARY KEY (ejercicio, periodo, prestamoid),
+  FOREIGN KEY (ejercicio, periodo) REFERENCES cierre
+);
+COMMENT ON TABLE precorte IS 'renglones de precierre: estado de cada préstamo al cierre de cada mes';
+COMMENT ON COLUMN precorte.saldovencidomenoravencido IS
+  'capital vencido, si el atraso no pasa de diastraspasoavencida; si pasa, está en saldovencidomayoravencido';
+COMMENT ON COLUMN precorte.interesdevengadomenoravencido IS
+  'interés devengado y no pagado hasta el traspaso a cartera vencida; el posterior está en el otro renglón';
+COMMENT ON COLUMN precorte.interesdevmormenor IS 'moratorio devengado hasta el traspaso a cartera vencida';
+COMMENT ON COLUMN precorte.factoraplicado IS 'porcentajeaplicado entre 100';
+CREATE INDEX ON precorte (prestamoid);
+CREATE INDEX ON precorte (tipoprestamoid);
+CREATE INDEX ON precorte (clavefinalidad);
+
+CREATE TRIGGER bitacora AFTER INSERT OR UPDATE OR DELETE ON tramoreserva
+  FOR EACH ROW EXECUTE FUNCTION anota_bitacora('diasdesde');
+CREATE TRIGGER bitacora AFTER INSERT OR UPDATE OR DELETE ON cierre
+  FOR EACH ROW EXECUTE FUNCTION anota_bitacora('ejercicio', 'periodo');
+-- A close logs itself; its thousands of computed rows are logged only when somebody touches them afterwards.
+CREATE TRIGGER bitacora AFTER UPDATE OR DELETE ON precorte
+  FOR EACH ROW EXECUTE FUNCTION anota_bitacora('ejercicio', 'periodo', 'prestamoid');
 
 -- The rows as they would be at the end of `corte`: loans with a balance, and those paid in the same month.
 --   Payments of capital and of interest cover the oldest amortisations first; what is forgiven counts as paid, and so
@@ -11,6 +78,7 @@
 --   taken off the older part first.
 --   A loan that has paid exactly what fell due is done with the two sums; only the others are looked at amortisation by
 --   amortisation (`pendiente`), which is what takes time.
+--   What is answered stands in the order of the table, each expression with the name of its column; a test compares.
 CREATE FUNCTION calcula_precorte(corte date) RETURNS SETOF precorte
 LANGUAGE sql STABLE SET search_path FROM CURRENT AS $$
   WITH mes AS (
@@ -95,22 +163,42 @@ LANGUAGE sql STABLE SET search_path FROM CURRENT AS $$
       LEFT JOIN pagado_en_atraso g USING (prestamoid)),
   tramo AS (
     SELECT porcentaje, diasdesde, coalesce(lead(diasdesde) OVER (ORDER BY diasdesde), 2147483647) AS hasta
-      FROM tramoreserva)
-  SELECT extract(year FROM corte)::integer, extract(month FROM corte)::integer, d.prestamoid, corte, d.tipoprestamoid,
-         d.clavefinalidad, d.montoprestamo, d.fecha_vencimiento, d.saldo, d.diastraspasoavencida, d.dias,
-         d.amortizaciones::integer,
-         CASE WHEN d.dias <= d.diastraspasoavencida THEN d.capital_vencido ELSE 0 END,
-         CASE WHEN d.dias <= d.diastraspasoavencida THEN 0 ELSE d.capital_vencido END,
-         d.interes - least(d.interes, d.interes_tras_traspaso), least(d.interes, d.interes_tras_traspaso),
-         greatest(0, d.mora_menor - d.mora_pagada),
-         greatest(0, d.mora_mayor - greatest(0, d.mora_pagada - d.mora_menor)),
-         coalesce(r.porcentaje, 0), coalesce(r.porcentaje, 0) / 100,
-         round(d.saldo * coalesce(r.porcentaje, 0) / 100, 2),
-         coalesce(d.capital_mes, 0), coalesce(d.interes_mes, 0), coalesce(d.moratorio_mes, 0),
-         coalesce(d.bonificacion_interes_mes, 0), coalesce(d.bonificacion_moratorio_mes, 0),
-         d.ultima_pagada, d.ultimo_capital, d.ultimo_interes
-    FROM devengado d
-    LEFT JOIN tramo r ON d.dias >= r.diasdesde AND d.dias < r.hasta
+      FROM tramoreserva),
+  calificado AS (
+    SELECT d.*, d.dias > d.diastraspasoavencida AS traspasado,
+           least(d.interes, d.interes_tras_traspaso) AS interes_mayor, coalesce(r.porcentaje, 0) AS porcentaje
+      FROM devengado d
+      LEFT JOIN tramo r ON d.dias >= r.diasdesde AND d.dias < r.hasta)
+  SELECT extract(year FROM corte)::integer AS ejercicio,
+         extract(month FROM corte)::integer AS periodo,
+         prestamoid,
+         corte AS fechacierre,
+         tipoprestamoid,
+         clavefinalidad,
+         montoprestamo,
+         fecha_vencimiento,
+         saldo AS saldoprestamo,
+         diastraspasoavencida,
+         dias AS diasvencidos,
+         amortizaciones::integer AS noamorvencidas,
+         CASE WHEN traspasado THEN 0 ELSE capital_vencido END AS saldovencidomenoravencido,
+         CASE WHEN traspasado THEN capital_vencido ELSE 0 END AS saldovencidomayoravencido,
+         interes - interes_mayor AS interesdevengadomenoravencido,
+         interes_mayor AS interesdevengadomayoravencido,
+         greatest(0, mora_menor - mora_pagada) AS interesdevmormenor,
+         greatest(0, mora_mayor - greatest(0, mora_pagada - mora_menor)) AS interesdevmormayor,
+         porcentaje AS porcentajeaplicado,
+         porcentaje / 100 AS factoraplicado,
+         round(saldo * porcentaje / 100, 2) AS reservacalculada,
+         coalesce(capital_mes, 0) AS pagocapitalenperiodo,
+         coalesce(interes_mes, 0) AS pagointeresenperiodo,
+         coalesce(moratorio_mes, 0) AS pagomoratorioenperiodo,
+         coalesce(bonificacion_interes_mes, 0) AS bonificacionintenperiodo,
+         coalesce(bonificacion_moratorio_mes, 0) AS bonificacionmorenperiodo,
+         ultima_pagada AS fechaultamorpagada,
+         ultimo_capital AS ultimoabono,
+         ultimo_interes AS ultimoabonointeres
+    FROM calificado
 $$;
 
 -- Runs the pre-close of the month of a day, as of that day, and answers 1. A month is closed once.
@@ -200,4 +288,10 @@ BEGIN
     USING anio, mes;
 END $$;
 
+ALTER TABLE precorte ENABLE ROW LEVEL SECURITY;
+CREATE POLICY lectura ON precorte FOR SELECT TO :"grupo" USING ((SELECT puede_leer('0910')));
+GRANT SELECT ON precorte TO :"grupo";
 GRANT EXECUTE ON FUNCTION precierre, precorteconsolidado TO :"grupo";
+
+INSERT INTO tramoreserva (diasdesde, porcentaje) VALUES
+  (0, 1), (1, 4), (8, 15), (31, 30), (61, 50), (91, 75), (121, 90), (181, 100);

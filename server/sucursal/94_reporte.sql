@@ -79,10 +79,12 @@ $$;
 
 -- The report of this branch.
 CREATE FUNCTION spssujeto(nombres text, apaterno text, amaterno text, clave text) RETURNS text
-LANGUAGE sql STABLE SECURITY DEFINER SET search_path FROM CURRENT AS $$
-  SELECT concat(encabezado_reporte(nombres, apaterno, amaterno, clave), E'\n',
-                personas_reporte(nombres, apaterno, amaterno, clave), E'\n')
-$$;
+LANGUAGE plpgsql STABLE SECURITY DEFINER SET search_path FROM CURRENT AS $$
+BEGIN
+  PERFORM exige_permiso('0442');
+  RETURN concat(encabezado_reporte(nombres, apaterno, amaterno, clave), E'\n',
+                personas_reporte(nombres, apaterno, amaterno, clave), E'\n');
+END $$;
 
 -- The report of all branches. A user reads only his own; this reads the others with the owner's rights, for whoever may
 -- use the option of persons here.

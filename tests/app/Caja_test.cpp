@@ -3,7 +3,7 @@
 #include <ctime>
 #include <functional>
 
-#include "framework/Iconos.h"
+#include "icons/Icono.h"
 #include "icons/iconos.h"
 #include "tests/app/ConCaja.h"
 #include "tests/support/Espia.h"

@@ -5,7 +5,7 @@
 #include <map>
 
 #include "catalogs/simple/Monedas_Window.h"
-#include "framework/Iconos.h"
+#include "icons/Icono.h"
 #include "icons/iconos.h"
 #include "tests/app/ConCaja.h"
 #include "tests/support/Espia.h"

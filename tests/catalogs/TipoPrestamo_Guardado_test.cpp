@@ -1,6 +1,6 @@
 // What the form of the types of loan saves and reads, field by field, and what it does when something is
 // missing, dead, gone, out of range or cut off.
-#include "framework/Busqueda_Window.h"
+#include "catalogs/finance/Busqueda_Window.h"
 #include "tests/catalogs/PrestamoDePrueba.h"
 #include "tests/support/Maltrato.h"
 #include "tests/support/Pantalla.h"

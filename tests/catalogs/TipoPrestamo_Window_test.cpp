@@ -2,7 +2,7 @@
 // field feeds its own column and no other.
 #include "catalogs/finance/TipoPrestamo_Window.h"
 
-#include "framework/Busqueda_Window.h"
+#include "catalogs/finance/Busqueda_Window.h"
 #include "tests/catalogs/PrestamoDePrueba.h"
 #include "tests/support/Pantalla.h"
 #include "tests/support/Principal.h"

@@ -9,7 +9,7 @@
 #include "app/sesion.h"
 #include "catalogs/assets/Activo_Window.h"
 #include "catalogs/assets/TipoDepreciaciones_Window.h"
-#include "framework/Busqueda_Window.h"
+#include "catalogs/finance/Busqueda_Window.h"
 #include "tests/catalogs/Activos.h"
 #include "tests/catalogs/FormaProducto.h"
 #include "tests/support/Cortes.h"

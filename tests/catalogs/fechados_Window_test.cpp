@@ -7,12 +7,12 @@
 
 #include "app/sesion.h"
 #include "catalogs/finance/Banco_Window.h"
+#include "catalogs/finance/Busqueda_Window.h"
 #include "catalogs/finance/Inabil_Window.h"
 #include "catalogs/finance/Inpc_Window.h"
 #include "catalogs/finance/Recargos_Window.h"
 #include "catalogs/finance/TipoPromocion_Window.h"
 #include "catalogs/finance/Udis_Window.h"
-#include "framework/Busqueda_Window.h"
 #include "tests/catalogs/ConMandos.h"
 #include "tests/catalogs/FormaProducto.h"
 #include "tests/support/Cortes.h"

@@ -2,8 +2,8 @@
 // each field feeds, what each command sends to the server, and what becomes of it when something is missing,
 // gone or cut off.
 #include "app/sesion.h"
-#include "framework/Busqueda_Window.h"
-#include "framework/Iconos.h"
+#include "catalogs/finance/Busqueda_Window.h"
+#include "icons/Icono.h"
 #include "icons/iconos.h"
 #include "tests/catalogs/FormaProducto.h"
 #include "tests/support/Cortes.h"

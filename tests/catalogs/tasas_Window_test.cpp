@@ -581,8 +581,8 @@ TEST_F(TasaInteresVentana, TrasNuevoAceptarInserta) {
   EXPECT_EQ(Enviado(), Y_Listado(sql));
   EXPECT_EQ(salida_.Lineas().back(), sql);
   EXPECT_EQ(Buffers, sql);
-  EXPECT_EQ(tasa, "QZ");
-  EXPECT_EQ(des, "Serie de prueba");
+  EXPECT_STREQ(tasa, "QZ");
+  EXPECT_STREQ(des, "Serie de prueba");
   EXPECT_EQ(Lista(), (Textos{"CCP", "CETES", "QZ", "TIIE"}));
   EXPECT_EQ(Nombre() + Descripcion(), "");
   EXPECT_FALSE(flag);
@@ -605,7 +605,7 @@ TEST_F(TasaInteresVentana, SinNuevoAceptarPreguntaYCambia) {
   const std::string sql = "SELECT * FROM subtipotasa('d','CPP','Costo','CCP');";
   EXPECT_EQ(Enviado(), Y_Listado(sql));
   EXPECT_EQ(salida_.Lineas().back(), sql);
-  EXPECT_EQ(neww, "CCP");
+  EXPECT_STREQ(neww, "CCP");
   EXPECT_EQ(EnServidor("CPP"), "Costo");
   EXPECT_EQ(Lista(), (Textos{"CETES", "CPP", "TIIE"}));
 }

@@ -626,9 +626,9 @@ TEST_F(ConexionTest, CadaRechazoDiceSuMotivo) {
       {"usuario", [&] { return Conecta("nadie", "x"); }, "password authentication failed for user \"nadie\""},
       {"base", [&] { return Conecta("cajera", "clave de 20 letras!!", "nada"); },
        "database \"nada\" does not exist"},
-      {"puerto", [] { return apertura::Conecta("127.0.0.1", "1", "b", "u", "c"); }, "Connection refused"},
+      {"puerto", [] { return apertura::Conecta("127.0.0.1", "1", "b", "u", "c"); }, "Conexión rehusada"},
       {"puerto de letras", [] { return apertura::Conecta("127.0.0.1", "xx", "b", "u", "c"); },
-       "invalid integer"},
+       "valor entero «xx» no válido"},
       {"servidor", [] { return apertura::Conecta("no.existe.invalid", "5432", "b", "u", "c"); },
        "no.existe.invalid"},
   };

@@ -394,11 +394,11 @@ TEST_F(LoginTest, UnServidorQueNoDejaConectarSeMuestra) {
       {"user", "nadie", "password authentication failed for user \"nadie\""},
       {"user", "o'brien; %n%s", "password authentication failed for user \"o'brien; %n%s\""},
       {"db", "no hay tal base", "database \"no hay tal base\" does not exist"},
-      {"puerto", "1", "Connection refused"},
-      {"puerto", "0", "invalid port number"},
-      {"puerto", "99x", "invalid integer value \"99x\""},
-      {"servidor", "127.0.0.2", "Connection refused"},
-      {"servidor", "/no/existe", "No such file or directory"},
+      {"puerto", "1", "Conexión rehusada"},
+      {"puerto", "0", "número de puerto no válido: «0»"},
+      {"puerto", "99x", "valor entero «99x» no válido"},
+      {"servidor", "127.0.0.2", "Conexión rehusada"},
+      {"servidor", "/no/existe", "No existe el fichero o el directorio"},
   };
   for (const auto& [llave, valor, motivo] : casos) {
     SCOPED_TRACE(std::string(llave) + " = " + valor);
@@ -412,7 +412,7 @@ TEST_F(LoginTest, UnServidorQueNoDejaConectarSeMuestra) {
 
 TEST_F(LoginTest, SinServidorHayUnaCajaYDespuesSePuedeEntrar) {
   Servidor::Unico().Detiene();
-  EXPECT_TRUE(Contiene(EnUnaLinea(Rechazo().texto), "Connection refused"));
+  EXPECT_TRUE(Contiene(EnUnaLinea(Rechazo().texto), "Conexión rehusada"));
   Servidor::Unico().Arranca();
   EXPECT_TRUE(Pasa());
 }

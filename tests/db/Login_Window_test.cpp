@@ -9,7 +9,7 @@
 
 #include "app/sesion.h"
 #include "db/Engine.h"
-#include "framework/Iconos.h"
+#include "icons/Icono.h"
 #include "icons/iconos.h"
 #include "tests/support/Espia.h"
 #include "tests/support/Guion.h"

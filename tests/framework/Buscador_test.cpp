@@ -6,10 +6,10 @@
 #include <functional>
 #include <memory>
 
-#include "framework/BusquedaSocio_Window.h"
-#include "framework/BusquedaSujeto_Window.h"
-#include "framework/Busqueda_Window.h"
-#include "tests/framework/Cuentas.h"
+#include "catalogs/finance/Busqueda_Window.h"
+#include "catalogs/people/BusquedaSocio_Window.h"
+#include "catalogs/people/BusquedaSujeto_Window.h"
+#include "tests/catalogs/Cuentas.h"
 #include "tests/support/Espia.h"
 #include "tests/support/Maltrato.h"
 #include "tests/support/Salida.h"

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "catalogs/Posiciones.h"
 #include "framework/Campos.h"
 #include "tests/support/Pantalla.h"
 #include "tests/support/Ventana.h"
@@ -35,8 +36,8 @@ class CampoFilaTest : public testing::Test {
     movimiento_.Llena([](const cTipoMovimiento& fila) {
       return FXString(fila.getTipoMovimientoID()) + " " + fila.getDescTipoMovimiento();
     });
-    formula_.Pon({});  // as a form does when it opens
-    movimiento_.Pon({});
+    formula_.Vacia();  // as a form does when it opens
+    movimiento_.Vacia();
     ventana_->create();
     ventana_->show(PLACEMENT_SCREEN);
     Bombea();
@@ -91,11 +92,11 @@ TEST_F(CampoFilaTest, UnaClaveMuestraSuRenglonYUnaDesconocidaElPrimero) {
 
 TEST_F(CampoFilaTest, SinNadaNoMuestraRenglonNiVale) {
   formula_.Pon(9);
-  formula_.Pon({});
+  formula_.Vacia();
   EXPECT_EQ(formula_.combo->getCurrentItem(), -1);
   EXPECT_EQ(formula_.Valor(), 0);
   movimiento_.Pon("Q ");
-  movimiento_.Pon({});
+  movimiento_.Vacia();
   EXPECT_EQ(movimiento_.combo->getCurrentItem(), -1);
   EXPECT_EQ(movimiento_.Valor(), "");
 }

@@ -175,7 +175,7 @@ TEST_F(CamposTest, UnParrafoLlevaSuTextoDeIdaYVuelta) {
   EXPECT_EQ(dato.valor, "árbol\ny flor");
   dato.Pon("otro");
   EXPECT_EQ(dato.campo->getText(), "otro");
-  dato.Pon({});
+  dato.Vacia();
   EXPECT_EQ(dato.campo->getText(), "");
   EXPECT_EQ(dato.Valor(), "");
 }
@@ -283,8 +283,8 @@ TEST_F(CamposTest, UnaCasillaValeLoQueMuestra) {
   EXPECT_EQ(numero.boton->getCheck(), MAYBE);
   texto.Pon("S");
   numero.Pon(1);
-  texto.Pon({});
-  numero.Pon({});
+  texto.Vacia();
+  numero.Vacia();
   EXPECT_EQ(texto.Valor(), "N");
   EXPECT_EQ(numero.Valor(), 0);
 }
@@ -305,7 +305,7 @@ TEST_F(CamposTest, UnSNConservaLoLeidoHastaQueSePulsa) {
     EXPECT_EQ(dato.Elige(), 1);
     EXPECT_EQ(dato.Valor(), marcada ? "N" : "S");
   }
-  dato.Pon({});
+  dato.Vacia();
   EXPECT_FALSE(dato.boton->getCheck());
   EXPECT_EQ(dato.Valor(), "N");
 }
@@ -330,7 +330,7 @@ TEST_F(CamposTest, UnaOpcionValeSuLugar) {
     EXPECT_EQ(dato.combo->getText(), "");
   }
   dato.Pon(1);
-  dato.Pon({});
+  dato.Vacia();
   EXPECT_EQ(dato.Valor(), -1);
 }
 

@@ -70,7 +70,7 @@ class cDoble : public Registro<cDoble> {
  public:
   template <class... Valores>
   explicit cDoble(const char* clave, Valores... valores) {
-    TomaCampos(clave, valores...);
+    TomaMiembros(clave, valores...);
   }
 
   bool Check() { return true; }
@@ -84,7 +84,7 @@ class cDoble : public Registro<cDoble> {
   static constexpr unsigned trazas = TrazaAddNew;
 
   auto Columnas() { return std::tie(DobleID, Valor, Letra); }
-  auto Campos() { return std::tie(DobleID, Letra, Valor); }
+  auto Miembros() { return std::tie(DobleID, Letra, Valor); }
   const char* Clave() const { return DobleID; }
   void AlInsertar() { EjecutaEscritura("select 'segunda del alta'", false); }
   void AlCambiar() { EjecutaEscritura("select 'segunda del cambio'", true); }

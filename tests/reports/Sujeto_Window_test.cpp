@@ -4,7 +4,7 @@
 #include <fxkeys.h>
 
 #include "app/sesion.h"
-#include "framework/BusquedaSujeto_Window.h"
+#include "catalogs/people/BusquedaSujeto_Window.h"
 #include "tests/reports/ConDuenio.h"
 #include "tests/support/Cortes.h"
 #include "tests/support/Espia.h"

@@ -163,7 +163,8 @@ Servidor::Servidor() {
 void Servidor::Enciende() {
   const std::filesystem::path bitacora = carpeta_.Ruta() / "bitacora";
   const int salida = open(bitacora.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644);
-  Orden orden{{Programa("postgres"), "-D", carpeta_.Ruta() / "datos", "-p", puerto_, "-k", carpeta_.Ruta()}};
+  Orden orden{{Programa("postgres"), "-D", carpeta_.Ruta() / "datos", "-p", puerto_, "-k", carpeta_.Ruta(),
+               "-c", "lc_messages=C"}};  // whatever language the client under test asks for
   for (const char* ajuste :
        {"listen_addresses=127.0.0.1", "fsync=off", "synchronous_commit=off", "full_page_writes=off",
         "autovacuum=off", "shared_buffers=32MB", "wal_level=minimal", "max_wal_senders=0"}) {

@@ -109,6 +109,20 @@ TEST_F(CajasTest, UnTextoVacioDiceQueNoHayConexion) {
   EXPECT_EQ(Visto(""), "No hay conexión con el servidor.");
 }
 
+TEST_F(CajasTest, LaSentenciaSenaladaNoSeMuestra) {
+  const struct {
+    std::string texto, visto;
+  } tabla[] = {
+      {"ERROR:  no\nLINE 1: select no();\n               ^\nHINT:  si\n", "ERROR:  no\nHINT:  si\n"},
+      {"ERROR:  no\nLÍNEA 12: select no();\n ^\n", "ERROR:  no\n"},
+      {"ERROR:  no\nSUGERENCIA:  2 ^ 3\n", "ERROR:  no\nSUGERENCIA:  2 ^ 3\n"},
+      {"ERROR:  no\notra\n  ^\n", "ERROR:  no\notra\n  ^\n"},
+      {"LINE 1: x\n ^", "LINE 1: x\n ^"},
+      {"^", "^"},
+  };
+  for (const auto& [texto, visto] : tabla) EXPECT_EQ(Visto(texto), visto);
+}
+
 TEST_F(CajasTest, UnaLineaLargaSeParteTrasUnBlanco) {
   const std::string larga = Repetida("palabra ", 30);
   const Textos lineas = EnLineas(Visto(larga));
