@@ -159,6 +159,7 @@ int main(int argc, char* argv[]) {
   std::cout.setstate(std::ios::failbit);  // the traces of forms and loads
   for (const auto& [filas, veces] : Largos) {
     for (const Caso& caso : casos) {
+      if (argc > 1 && argv[1][0] != '-' && caso.nombre != std::string(argv[1])) continue;
       PreparaCatalogo(base, caso, filas);
       const std::unique_ptr<FXComposite> modelo(caso.abre(escenario));
       modelo->create();

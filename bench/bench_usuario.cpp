@@ -30,36 +30,36 @@ constexpr int Colonias = 2000;
 /// Fills a branch up to so many users, each with his person.
 void PonUsuarios(pruebas::BaseDatos& base, const char* sucursal, int cuantos) {
   base.Ejecuta(
-      ::Sentencia("set search_path to %s, comun; set session_replication_role to replica;"
-                  "with persona as (insert into sujeto (paterno, materno, nombre)"
-                  " select 'Prueba', 'Muestra', 'Usuario ' || i"
-                  " from generate_series((select count(*) + 1 from usuario), %d) i returning sujetoid)"
-                  " insert into usuario (usuarioid, tipousuarioid, sujetoid)"
-                  " select 'prueba' || sujetoid, (select min(tipousuarioid) from tipousuario), sujetoid"
-                  " from persona; analyze; reset all",
-                  sucursal, cuantos)
+      Sentencia("set search_path to %s, comun; set session_replication_role to replica;"
+                "with persona as (insert into sujeto (paterno, materno, nombre)"
+                " select 'Prueba', 'Muestra', 'Usuario ' || i"
+                " from generate_series((select count(*) + 1 from usuario), %d) i returning sujetoid)"
+                " insert into usuario (usuarioid, tipousuarioid, sujetoid)"
+                " select 'prueba' || sujetoid, (select min(tipousuarioid) from tipousuario), sujetoid"
+                " from persona; analyze; reset all",
+                sucursal, cuantos)
           .Texto());
 }
 
 /// The cities of the state, and the neighbourhoods of the one that its list begins with.
 void PonLugares(pruebas::BaseDatos& base) {
-  base.Ejecuta(::Sentencia("set search_path to norte, comun; set session_replication_role to replica;"
-                           "insert into ciudadesmex (estadomexid, claveciudadmex, nombreciudadmex)"
-                           " select %d, 'M' || to_char(i, 'FM000'), 'Municipio ' || i from generate_series("
-                           "(select count(*) + 1 from ciudadesmex where estadomexid = %d), %d) i;"
-                           "insert into colonias (ciudadmexid, nombrecolonia, cp, tipoasentamientoid)"
-                           " select c.ciudadmexid, 'Colonia ' || i, 68000 + i %% 900,"
-                           " (select min(tipoasentamientoid) from tipoasentamiento)"
-                           " from generate_series(1, %d) i, (select ciudadmexid from ciudadesmex"
-                           " where estadomexid = %d order by nombreciudadmex limit 1) c;"
-                           "analyze; reset all",
-                           Estado, Estado, Ciudades, Colonias, Estado)
+  base.Ejecuta(Sentencia("set search_path to norte, comun; set session_replication_role to replica;"
+                         "insert into ciudadesmex (estadomexid, claveciudadmex, nombreciudadmex)"
+                         " select %d, 'M' || to_char(i, 'FM000'), 'Municipio ' || i from generate_series("
+                         "(select count(*) + 1 from ciudadesmex where estadomexid = %d), %d) i;"
+                         "insert into colonias (ciudadmexid, nombrecolonia, cp, tipoasentamientoid)"
+                         " select c.ciudadmexid, 'Colonia ' || i, 68000 + i %% 900,"
+                         " (select min(tipoasentamientoid) from tipoasentamiento)"
+                         " from generate_series(1, %d) i, (select ciudadmexid from ciudadesmex"
+                         " where estadomexid = %d order by nombreciudadmex limit 1) c;"
+                         "analyze; reset all",
+                         Estado, Estado, Ciudades, Colonias, Estado)
                    .Texto());
 }
 
 /// The branch that the statements go to.
 void Entra(const char* sucursal) {
-  Ejecuta(::Sentencia("set search_path to %s", sucursal));
+  Ejecuta(Sentencia("set search_path to %s", sucursal));
   LiberaResultado();
 }
 

@@ -43,6 +43,24 @@ void Mide(FXWindow* ventana, Falta& falta) {
   }
 }
 
+/// Are the letters larger than those for which the sizes of the forms are made?
+bool TieneLetraGrande(FXApp* app) {
+  constexpr FXuint comun = 100;  // points to the inch
+  return app->reg().readUnsignedEntry("SETTINGS", "screenres", comun) > comun;
+}
+
+/// Grows a form by what its pieces lack.
+void Completa(FXMDIChild* forma, FXWindow* cuerpo) {
+  constexpr int vueltas = 8;  // what one box gets, another may still lack
+  for (int vuelta = 0; vuelta < vueltas && !forma->isMaximized(); ++vuelta) {
+    forma->layout();
+    Falta falta;
+    Mide(cuerpo, falta);
+    if (falta.ancho == 0 && falta.alto == 0) break;
+    forma->resize(forma->getWidth() + falta.ancho, forma->getHeight() + falta.alto);
+  }
+}
+
 /// Grows a main window by what `hija` lacks in its area, but not beyond the screen.
 void Ensancha(FXTopWindow* principal, FXint masAncho, FXint masAlto) {
   constexpr FXint orilla = 8, titulo = 32;  // what a window manager puts around
@@ -141,14 +159,7 @@ FXGroupBox* CuerpoDeForma::ArmaBotones() {
 void CuerpoDeForma::Acomoda() {
   auto* const hija = static_cast<FXMDIChild*>(forma);
   FXWindow* const area = hija->getParent();
-  constexpr int vueltas = 8;  // what one box gets, another may still lack
-  for (int vuelta = 0; vuelta < vueltas && !hija->isMaximized(); ++vuelta) {
-    hija->layout();
-    Falta falta;
-    Mide(cuerpo, falta);
-    if (falta.ancho == 0 && falta.alto == 0) break;
-    hija->resize(hija->getWidth() + falta.ancho, hija->getHeight() + falta.alto);
-  }
+  if (TieneLetraGrande(forma->getApp())) Completa(hija, cuerpo);
   const auto sobra = [&](Falta& falta) {
     falta = {hija->getX() + hija->getWidth() - area->getWidth(),
              hija->getY() + hija->getHeight() - area->getHeight()};

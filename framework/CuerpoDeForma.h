@@ -59,9 +59,9 @@ class CuerpoDeForma {
 
   /// F5 runs this.
   void AlReleer(std::function<void()> accion) { cuerpo->AlReleer(std::move(accion)); }
-  /// Gives a child form that exists the size that shows it whole, if its own does not, and room for it in the
-  /// main window, which grows with it as far as the screen allows; where that is not enough, the form fills
-  /// the main window.
+  /// Gives a child form that exists room in the main window, which grows with it as far as the screen allows;
+  /// where that is not enough, the form fills the main window. On a screen with larger letters than usual the
+  /// form takes the size that shows it whole, if its own does not.
   void Acomoda();
 
   FXList* lstFilas = nullptr;

@@ -1,16 +1,40 @@
 #include "operaciones/Bienes_Window.h"
 
 #include <cstdlib>
+#include <cstring>
 
 #include "catalogs/people/Bien_Window.h"
-#include "framework/BusquedaSujeto_Window.h"
+#include "catalogs/people/BusquedaSocio_Window.h"
+#include "catalogs/people/BusquedaSujeto_Window.h"
+#include "framework/Sentencia.h"
 #include "icons/Icono.h"
 #include "icons/iconos.h"
+#include "widgets/Boton.h"
 #include "widgets/cajas.h"
+
+namespace {
+
+/// The person who is the member with the key at the start of `renglon`, as it stands in the list of the
+/// search; 0 if there is none. Throws what the server answers.
+long PersonaDelSocio(const char* renglon) {
+  for (const auto& [fila, socio] : Catalogo::SociosCaja) {
+    const FXString clave = FXStringFormat("%-12s ", socio.getClaveSocioInt());
+    if (strncmp(renglon, clave.text(), std::min<size_t>(clave.length(), strlen(renglon))) != 0) continue;
+    Ejecuta(Sentencia("SELECT sujetoid FROM socio WHERE socioid = %li;", socio.getSocioID()));
+    LanzaSiRechazada();
+    const long persona = atol(Celda(0, 0));
+    LiberaResultado();
+    return persona;
+  }
+  return 0;
+}
+
+}  // namespace
 
 FXDEFMAP(Bienes_Window)
 Bienes_WindowMap[] = {
     FXMAPFUNC(SEL_COMMAND, Bienes_Window::ID_PERSONA, Bienes_Window::onCmdPersona),
+    FXMAPFUNC(SEL_COMMAND, Bienes_Window::ID_SOCIO, Bienes_Window::onCmdSocio),
     FXMAPFUNC(SEL_COMMAND, Bienes_Window::ID_NUEVO, Bienes_Window::onCmdNuevo),
     FXMAPFUNC(SEL_COMMAND, Bienes_Window::ID_ABRIR, Bienes_Window::onCmdAbrir),
     FXMAPFUNC(SEL_DOUBLECLICKED, Bienes_Window::ID_LISTA, Bienes_Window::onCmdAbrir),
@@ -33,17 +57,20 @@ Bienes_Window::Bienes_Window(FXWindow* duenio)
   lstBienes = new FXList(marco, this, ID_LISTA, LIST_BROWSESELECT | LAYOUT_FILL_X | LAYOUT_FILL_Y);
   aviso = new FXLabel(izquierda, " ", nullptr, JUSTIFY_LEFT | LAYOUT_FILL_X);
   auto* columna = new FXVerticalFrame(cuerpo, LAYOUT_FILL_Y, 0, 0, 0, 0, 4, 4, 0, 0);
-  Boton(columna, "&Persona", iconos::find_icon, ID_PERSONA);
-  Boton(columna, "&Nuevo", iconos::nuevo_icon, ID_NUEVO);
-  Boton(columna, "A&brir", iconos::user_icon, ID_ABRIR);
-  Boton(columna, "&Cerrar", iconos::cerrar_icon, ID_CANCEL, LAYOUT_SIDE_BOTTOM);
-  Boton(columna, "&Aceptar", iconos::ok_icon, ID_GUARDAR, LAYOUT_SIDE_BOTTOM);
+  ArmaBotones(columna);
 }
 
-FXButton* Bienes_Window::Boton(FXComposite* padre, const char* texto, const unsigned char* dibujo,
-                               FXSelector mensaje, FXuint opciones) {
-  return new FXButton(padre, texto, icono(getApp(), dibujo), this, mensaje,
-                      FRAME_RAISED | FRAME_THICK | ICON_BEFORE_TEXT | LAYOUT_FILL_X | opciones);
+void Bienes_Window::ArmaBotones(FXComposite* columna) {
+  const auto boton = [&](const char* texto, const unsigned char* dibujo, FXSelector mensaje,
+                         FXuint opciones = 0) {
+    NuevoBoton(columna, texto, icono(getApp(), dibujo), this, mensaje, LAYOUT_FILL_X | opciones);
+  };
+  boton("&Persona", iconos::find_icon, ID_PERSONA);
+  boton("&Socio", iconos::find_icon, ID_SOCIO);
+  boton("&Nuevo", iconos::nuevo_icon, ID_NUEVO);
+  boton("A&brir", iconos::user_icon, ID_ABRIR);
+  boton("&Cerrar", iconos::cerrar_icon, ID_CANCEL, LAYOUT_SIDE_BOTTOM);
+  boton("&Aceptar", iconos::ok_icon, ID_GUARDAR, LAYOUT_SIDE_BOTTOM);
 }
 
 long Bienes_Window::onUpdConPersona(FXObject* emisor, FXSelector, void*) {
@@ -75,18 +102,28 @@ void Bienes_Window::Muestra() {
   aviso->setText(pendiente ? "Hay cambios sin guardar" : " ");
 }
 
-long Bienes_Window::onCmdPersona(FXObject*, FXSelector, void*) {
+/// Lets the user search, and shows the goods of the person who was picked, if any. `suPersona` gives the
+/// number of the person from what the search hands over.
+template <class Buscador, class SuPersona>
+long Bienes_Window::Busca(SuPersona suPersona) {
   sbusquedasocio[0] = '\0';
-  BusquedaSujeto_Window(this).execute(PLACEMENT_CURSOR);
-  const long elegida = atol(sbusquedasocio);
-  if (elegida == 0) return 1;
+  Buscador(this).execute(PLACEMENT_CURSOR);
+  if (sbusquedasocio[0] == '\0') return 1;
   try {
-    Lee(elegida);
+    if (const long elegida = suPersona(sbusquedasocio); elegida != 0) Lee(elegida);
   } catch (char* texto) {
     persona.RollBackTransaction();
     cajaError(this, "Bienes", texto);
   }
   return 1;
+}
+
+long Bienes_Window::onCmdPersona(FXObject*, FXSelector, void*) {
+  return Busca<BusquedaSujeto_Window>([](const char* elegida) { return atol(elegida); });
+}
+
+long Bienes_Window::onCmdSocio(FXObject*, FXSelector, void*) {
+  return Busca<BusquedaSocio_Window>(PersonaDelSocio);
 }
 
 void Bienes_Window::Edita(int indice) {

@@ -1,5 +1,5 @@
-// The goods of a person: the person is picked in the search, his goods are opened one by one, and all of it
-// is saved with the person.
+// The goods of a person: the person is picked in the search of persons or of members, his goods are opened
+// one by one, and all of it is saved with the person.
 #pragma once
 
 #include <fx.h>
@@ -11,6 +11,7 @@ class Bienes_Window : public FXDialogBox {
  public:
   enum {
     ID_PERSONA = FXDialogBox::ID_LAST,
+    ID_SOCIO,
     ID_LISTA,
     ID_NUEVO,
     ID_ABRIR,
@@ -23,6 +24,8 @@ class Bienes_Window : public FXDialogBox {
 
   /// &Persona: the search, and the goods of who was picked in it.
   long onCmdPersona(FXObject*, FXSelector, void*);
+  /// &Socio: the search of members, and the goods of the person who is the one picked.
+  long onCmdSocio(FXObject*, FXSelector, void*);
   /// &Nuevo: the form of a new good.
   long onCmdNuevo(FXObject*, FXSelector, void*);
   /// A&brir, and a double click: the form of the good at the current row.
@@ -37,11 +40,12 @@ class Bienes_Window : public FXDialogBox {
   Bienes_Window() {}
 
  private:
-  FXButton* Boton(FXComposite* padre, const char* texto, const unsigned char* dibujo, FXSelector mensaje,
-                  FXuint opciones = 0);
+  void ArmaBotones(FXComposite* columna);
   void Edita(int indice);
   void Muestra();
   void Lee(long sujetoID);
+  template <class Buscador, class SuPersona>
+  long Busca(SuPersona suPersona);
 
   cSujeto persona;
   bool hayPersona = false;

@@ -2,7 +2,7 @@
 
 #include <unordered_map>
 
-#include "framework/Busqueda_Window.h"
+#include "catalogs/finance/Busqueda_Window.h"
 #include "operaciones/Plegado.h"
 
 // clang-format off

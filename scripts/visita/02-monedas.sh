@@ -24,9 +24,9 @@ captura moneda-agregada
 
 paso 'Se busca por su clave'
 encuentra QZ
-teclea Tab
+salta descripcion
 exige_campo 12.5
-teclea shift+Tab
+vuelve valor
 exige_campo 'Corona del Ensueño'
 captura moneda-encontrada
 

@@ -1,6 +1,6 @@
 # A catalogue of each family: a row is added, changed and deleted.
 paso 'Un diálogo con clave de letras: un tipo de garantía se agrega'
-elige 6 5
+elige tipo-de-garantias
 espera_ventana 'Tipo de Garantia'
 nuevo QZ 'Fianza del año'
 confirma alt+a 'Tipo de Garantía' garantia-registrar
@@ -24,7 +24,7 @@ teclea alt+c
 
 paso 'Una forma con una casilla: un movimiento bancario sin operación se rechaza'
 espera_ventana "$principal"
-elige 3
+elige movimientos-bancarios
 exige_traza 'terminando creacion frm tipomovibanco'
 nuevo QZ 'Ajuste de prueba'
 teclea alt+a
@@ -52,7 +52,7 @@ exige_dato "SELECT count(*) FROM tipomovibanco WHERE tipomovibancoid = 'QZ'" 0
 teclea alt+c
 
 paso 'Una forma corta: una ocupación se agrega, y el servidor le da su número'
-elige 7 2
+elige ocupaciones
 exige_traza 'terminando creacion frm ocupacion'
 nuevo '' 'Leñador'
 confirma alt+a 'Ocupacion' ocupacion-registrar
@@ -74,7 +74,7 @@ teclea alt+c
 
 paso 'Un diálogo con número: un concepto se agrega'
 espera_ventana "$principal"
-elige 10 5
+elige conceptos-scoring
 espera_ventana 'Concepto Scoring'
 nuevo '' 'Puntualidad'
 confirma alt+a 'Concepto Scoring' concepto-registrar

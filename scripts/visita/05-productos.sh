@@ -1,7 +1,7 @@
 # The products: one of each is added, refused, changed and deleted.
 
 paso 'Una fórmula sin texto se rechaza'
-elige 10 1
+elige formulas
 espera_ventana 'Formulas de Calculos'
 nuevo '' 'Tasa del año'
 teclea alt+a
@@ -27,7 +27,7 @@ teclea alt+c
 
 paso 'Un tipo de movimiento sin cuentas se rechaza'
 espera_ventana "$principal"
-elige 4
+elige tipo-de-movimientos
 exige_traza 'terminando creacion frm tipomovimiento'
 nuevo QZ 'Ahorro de prueba'
 teclea alt+a
@@ -35,10 +35,10 @@ responde 'Error en Validación' Return movimiento-sin-cuentas
 
 paso 'Con sus once cuentas se agrega'
 nuevo QZ 'Ahorro de prueba'
-adelante 4
+salta aplica-saldo depositos retiros iva
 pon_cuentas 7
 llena D 3.5
-adelante 1
+salta cuentas-de-orden
 pon_cuentas 2
 llena 1 2 16
 pon_cuentas 2
@@ -58,18 +58,25 @@ exige_dato "SELECT count(*) FROM tipomovimiento WHERE tipomovimientoid = 'QZ'" 0
 teclea alt+c
 
 paso 'Un tipo de inversión sin clasificación se rechaza'
-elige 5
+elige tipo-de-inversion
 exige_traza 'terminando creacion frm tipoinversion'
 nuevo QZ 'Plazo de otoño' 5 100 1000 30 60
 pon_cuentas 7
-teclea Down Tab Tab Tab Down Tab Tab Tab # formula and movement
+opta 1 # the formula
+salta iva
+opta 1 # the movement
+salta isr
 teclea alt+a
 responde 'Error en Validación' Return inversion-rechazada
 
 paso 'Con ella se agrega'
 nuevo QZ 'Plazo de otoño' 5 100 1000 30 60
 pon_cuentas 7
-teclea Down Tab Tab Tab Down Tab Tab Tab Down
+opta 1
+salta iva
+opta 1
+salta isr
+baja 1 # the classification
 captura tipo-de-inversion-nuevo
 confirma alt+a 'Tipo de Inversión' tipo-de-inversion-registrar
 exige_dato "SELECT desctipoinversion, rtrim(cuentapasivo) FROM tipoinversion WHERE tipoinversionid = 'QZ'" \
@@ -86,24 +93,24 @@ exige_dato "SELECT count(*) FROM tipoinversion WHERE tipoinversionid = 'QZ'" 0
 teclea alt+c
 
 paso 'Un tipo de préstamo con solo la clave se rechaza'
-elige 6 1
+elige tipo-de-prestamos
 exige_traza 'terminando creacion frm tipoprestamo'
-pulsa 417 186 # the key
+pulsa prestamo-clave
 escribe QZ
 teclea alt+a
 responde 'Error en Validación' Return prestamo-rechazado
 
 paso 'Se ven las páginas de uno, y se modifica'
 teclea alt+n
-pulsa 417 186
+pulsa prestamo-clave
 escribe ORD
-pulsa 862 190 # &Buscar
+pulsa prestamo-buscar
 captura prestamo-generales
-for pagina in parametros:442 activo:494 pasivo:544 resultados:598 orden:654 generales:374; do
-  pulsa "${pagina#*:}" 224
-  captura "prestamo-${pagina%:*}"
+for pagina in parametros activo pasivo resultados orden generales; do
+  pulsa "prestamo-$pagina"
+  captura "prestamo-$pagina"
 done
-pulsa 593 247 # the description
+pulsa prestamo-descripcion
 llena 'Ordinario de otoño'
 confirma alt+a 'Tipo de Prestamo' prestamo-guardar
 exige_dato "SELECT desctipoprestamo FROM tipoprestamo WHERE tipoprestamoid = 'ORD'" 'Ordinario de otoño'

@@ -1,17 +1,8 @@
 # Banks, series by month and by day, promotions, rates: a row of each is added, refused, found, changed and deleted.
 
-# Opens the calendar, by its button, which has the keyboard, and picks the second day of the month shown.
-elige_dia() {
-  teclea space
-  espera_sin_titulo
-  captura "$1"
-  teclea Tab Tab space alt+a
-  espera_cierre
-}
-
 paso 'Una cuenta de banco sin su cuenta contable se rechaza'
 espera_ventana "$principal"
-elige 2
+elige bancos
 exige_traza 'terminando creacion frm banco'
 nuevo QZ-001 'Banco del Ensueño' 15/03/2026
 teclea alt+a
@@ -21,9 +12,9 @@ exige_dato "SELECT count(*) FROM banco WHERE no_cuenta = 'QZ-001'" 0
 paso 'Con ella se agrega, con la fecha del calendario'
 nuevo QZ-001 'Banco del Ensueño' 15/03/2026
 elige_dia banco-calendario
-teclea shift+Tab
+vuelve calendario
 exige_campo 02/03/2026
-adelante 2
+salta fecha calendario
 llena 1000 900.5 25.75
 pon_cuentas 1
 llena A 17
@@ -46,18 +37,18 @@ confirma alt+r 'Banco' banco-borrar
 exige_dato "SELECT count(*) FROM banco WHERE no_cuenta = 'QZ-001'" 0
 teclea alt+c
 
-# The series by month. One row each: name, place in the cascade, title of its questions, column of the figure.
+# The series by month. One row each: name, title of its questions, column of the figure.
 series=(
-  'inpc|1|Inpc|inpc'
-  'recargos|3|Recargos|porcentaje'
+  'inpc|Inpc|inpc'
+  'recargos|Recargos|porcentaje'
 )
 
 for serie in "${series[@]}"; do
-  IFS='|' read -r nombre lugar titulo columna <<<"$serie"
+  IFS='|' read -r nombre titulo columna <<<"$serie"
   del_mes="SELECT $columna FROM $nombre WHERE ano = 2031 AND mes = 5"
 
   paso "Una cifra negativa de $nombre se rechaza"
-  elige 9 "$lugar"
+  elige "$nombre"
   exige_traza 'terminando creacion frm pais'
   nuevo 2031 5 -1
   teclea alt+a
@@ -92,10 +83,10 @@ for serie in "${series[@]}"; do
 done
 
 paso 'El valor negativo de una UDI se rechaza'
-elige 9 2
+elige udis
 exige_traza 'terminando creacion frm pais'
 nuevo 15/01/2031
-adelante 1
+salta calendario
 llena -1
 teclea alt+a
 responde 'Error en Validación' Return udis-rechazado
@@ -104,7 +95,7 @@ exige_traza 'entrando a error'
 paso 'El de un día que se elige en el calendario se agrega'
 nuevo 15/01/2031
 elige_dia udis-calendario
-adelante 1
+salta calendario
 llena 9.125
 captura udis-nuevo
 confirma alt+a 'Udis' udis-registrar
@@ -113,7 +104,8 @@ exige_dato "SELECT fecha, valor FROM udis WHERE fecha > '2031-01-01'" '2031-01-0
 
 paso 'Se busca por la fecha, y se modifica'
 nuevo 02/01/2031
-teclea alt+b Tab
+teclea alt+b
+salta calendario
 exige_campo 9.125
 llena 9.25
 confirma alt+a 'Udis' udis-guardar
@@ -125,7 +117,7 @@ exige_dato "SELECT count(*) FROM udis WHERE fecha > '2031-01-01'" 0
 teclea alt+c
 
 paso 'Un día inhábil que ya está se rechaza'
-elige 10 4
+elige dias-inabiles
 exige_traza 'terminando creacion frm pais'
 nuevo 16/09/2026
 confirma alt+a 'Inabil' inabil-repetir
@@ -140,7 +132,8 @@ exige_dato "SELECT fecha FROM inabil WHERE fecha > '2031-01-01'" 2031-06-02
 
 paso 'Se busca, y el servidor no deja que se modifique'
 nuevo 02/06/2031
-teclea alt+b shift+Tab
+teclea alt+b
+vuelve fecha
 exige_traza "SELECT * FROM inabil where fecha='2031-06-02';"
 exige_campo 02/06/2031
 llena 03/06/2031
@@ -156,32 +149,32 @@ exige_dato "SELECT count(*) FROM inabil WHERE fecha > '2031-01-01'" 0
 teclea alt+c
 
 paso 'Una promoción sin condición se rechaza'
-elige 10 2
+elige tipo-promocion
 exige_traza 'terminando creacion frm tipopromocion'
 nuevo ''
-teclea Down Tab Tab # the first movement type
+opta 1 # the first movement type
 llena 'Otoño' 01/10/2031
 teclea alt+a
 responde 'Error en Validación' Return promocion-rechazada
 
 paso 'Con ella, y la fecha final del calendario, se agrega'
 nuevo ''
-teclea Down Tab Tab
+opta 1
 llena 'Otoño' 01/10/2031
-adelante 1
+salta calendario
 llena 15/11/2031
 elige_dia promocion-calendario
-adelante 1
+salta calendario
 llena 'Una sombrilla al señor que ahorre'
-teclea Down # in force
+baja 1 # in force
 captura promocion-nueva
 confirma alt+a 'TipoPromocion' promocion-registrar
 exige_dato "SELECT tipomovimientoid, fechainicial, fechafinal, condicion, estatus FROM tipopromocion
-             WHERE descripcion = 'Otoño'" 'AH|2031-10-01|2031-11-02|Una sombrilla al señor que ahorre|0'
+             WHERE descripcion = 'Otoño'" 'MN|2031-10-01|2031-11-02|Una sombrilla al señor que ahorre|0'
 
 paso 'Se elige en la lista y se modifica'
 elige_ultimo
-adelante 2
+salta movimiento
 exige_campo 'Otoño'
 captura promocion-elegida
 llena 'Otoño lluvioso'
@@ -195,7 +188,7 @@ exige_dato "SELECT count(*) FROM tipopromocion WHERE fechainicial > '2031-01-01'
 teclea alt+c
 
 paso 'Una serie de tasas sin observaciones no se agrega'
-elige 6 6
+elige tipo-tasa-interes
 espera_ventana 'Tipo Tasa Variables'
 nuevo ZQ
 teclea alt+a
@@ -213,7 +206,9 @@ exige_dato "SELECT descripcion FROM tipotasa WHERE tipotasa = 'ZQ'" 'Tasa del a�
 # The last row; without &Nuevo, after which &Aceptar would insert.
 paso 'Se elige en la lista y se modifica'
 espera_ventana 'Tipo Tasa Variables'
-teclea shift+Tab End Tab
+vuelve nombre
+teclea End
+salta lista
 exige_campo ZQ
 llena ZQS 'Tasa del otoño'
 confirma alt+a 'Modifica tasa' serie-guardar
@@ -221,7 +216,9 @@ exige_dato "SELECT tipotasa, descripcion FROM tipotasa WHERE tipotasa LIKE 'ZQ%'
 
 paso 'Y se borra'
 espera_ventana 'Tipo Tasa Variables'
-teclea alt+n shift+Tab End
+teclea alt+n
+vuelve nombre
+teclea End
 confirma alt+r 'Elimina tasa' serie-borrar
 exige_dato "SELECT string_agg(tipotasa, ' ' ORDER BY tipotasa) FROM tipotasa" 'CCP CETES TIIE'
 espera_ventana 'Tipo Tasa Variables'
@@ -229,12 +226,12 @@ teclea alt+c
 
 paso 'El servidor rechaza un periodo que termina antes de empezar'
 espera_ventana "$principal"
-elige 6 7
+elige tasa-interes
 espera_ventana 'Tasas Variables'
 nuevo TIIE 01/10/2031
-adelante 1
+salta calendario
 llena 30/09/2031
-adelante 1
+salta calendario
 llena 5.5 5.25
 confirma alt+a 'tasasinteres' periodo-al-reves
 responde 'Error en Validación' Return periodo-rechazado
@@ -243,10 +240,10 @@ exige_dato "SELECT count(*) FROM tasavariable WHERE fechainicial > '2031-01-01'"
 paso 'Uno con la fecha del calendario se agrega, y sus valores se pierden'
 espera_ventana 'Tasas Variables'
 nuevo TIIE 01/10/2031
-adelante 1
+salta calendario
 llena 15/11/2031
 elige_dia periodo-calendario
-adelante 1
+salta calendario
 llena 5.5 5.25
 captura periodo-nuevo
 confirma alt+a 'tasasinteres' periodo-registrar
@@ -258,7 +255,7 @@ espera_ventana 'Tasas Variables'
 elige_ultimo
 exige_campo 01/10/2031
 captura periodo-elegido
-adelante 4
+salta fecha-inicio calendario fecha-final calendario
 llena 5.5 5.25
 confirma alt+a 'tasasinteres' periodo-guardar
 exige_dato "SELECT valor1, valor2 FROM tasavariable WHERE fechainicial > '2031-01-01'" '5.500000|5.250000'
@@ -276,30 +273,30 @@ area_vacia() { [[ $(import -silent -window root png:- | convert - -crop 780x500+
 # A form that comes up because another one was closed waits for the mouse before it takes keys.
 paso 'La historia de tasas abre dos capturas a la vez'
 espera_ventana "$principal"
-elige 10 3
+elige tasas
 exige_traza 'terminando creacion y fijando foco del dialogo WTASA'
 captura tasas
 tasas=$(servidor psql "$sucursal" -XAtc 'SELECT count(*) FROM tasa')
 teclea alt+n
 llena 15/10/2031 # the first date; the calendar's button follows
 elige_dia tasa-calendario
-adelante 1
+salta calendario
 llena 31/12/2031
-adelante 1
+salta calendario
 llena 9 18
 captura tasa-nueva
 teclea alt+a # asks nothing
-pulsa 158 520 # the history's &Nuevo
+pulsa tasas-nuevo
 escribe 05/10/2031
 exige_campo 05/10/2031
 captura dos-tasas-nuevas
 teclea alt+c
-pulsa 265 215 # the first date of the other one, which is at the same place
+pulsa tasa-fecha-inicial # of the other one, which is at the same place
 exige_campo 02/10/2031
 
 paso 'Se cierran y no guardaron nada'
 teclea alt+c
-pulsa 414 136 # the title of the history
+pulsa tasas-titulo
 teclea alt+c
 espera 'queda abierta una forma' area_vacia
 exige_dato 'SELECT count(*) FROM tasa' "$tasas"

@@ -2,11 +2,6 @@
 # she works beside him in a client of her own, and he takes one of them away.
 nueva=ximena
 
-# Places of the form of the users, whose pages are turned with the mouse.
-declare -A sitio=([fila]='230 202' [generales]='376 336' [domicilio]='455 336' [accesos]='545 336' [parametros]='642 336'
-  [apellido]='460 358' [codigo]='430 360' [serie]='469 360' [borrar]='870 217' [monedas]='600 395' [movimientos]='600 433')
-ve() { pulsa ${sitio[$1]}; }
-
 # Saves the user of the form, with the pictures $1.
 guarda_usuario() {
   confirma alt+a 'Usuario' "usuario-$1"
@@ -14,7 +9,7 @@ guarda_usuario() {
   espera_ventana "$principal"
 }
 # Turns the right of the row around, and the letter with it.
-alterna() { xdotool mousemove ${sitio[$1]} click --repeat 2 --delay 80 1; }
+alterna() { pulsa "usuario-$1" 2; }
 
 permisos_de_nueva() {
   exige_dato "SELECT string_agg(rtrim(clavemodulo), ',' ORDER BY clavemodulo) FROM permisomodulo
@@ -29,7 +24,7 @@ pasa_a() {
 esta_activa() { [[ $(xdotool getactivewindow) == "$1" ]]; }
 
 paso 'Un usuario sin nada escrito se rechaza'
-elige 8 1
+elige usuarios
 exige_traza 'terminando creacion frm usuario'
 captura usuarios
 teclea alt+a
@@ -37,44 +32,46 @@ responde 'Error en Validación' Return usuario-rechazado
 
 paso 'Se escribe una usuaria nueva, y la fecha de nacimiento trae su RFC'
 nuevo "$nueva"
-teclea Down Down Down Tab Tab Tab Tab # Consulta, whose users begin with no right at all
+opta 3 # Consulta, whose users begin with no right at all
+salta jefe
 llena "$nueva@ensueno.example" caja 'De prueba'
-ve apellido
+pulsa usuario-apellido
 llena 'Peña' 'Acuña' 'Ximena'
 escribe '4/3/1990'
-teclea Tab space
+salta fecha
+teclea space
 espera 'no aparece el calendario' es_otra '' "$ventana"
 captura usuario-nacimiento
-teclea Tab Tab Tab Tab Tab space # the fifth day
-teclea alt+a
+pon_dia 5
 espera_ventana "$principal"
 exige_traza "Query==select * from generarfc('Peña','Acuña','Ximena','05/03/1990');"
 captura usuario-rfc
 
 paso 'Un código postal que no existe se rechaza'
-ve domicilio
-ve codigo
+pulsa usuario-domicilio
+pulsa usuario-codigo
 llena 99999
 teclea space
 responde 'Error en Validación' Return codigo-postal-rechazado
 
 paso 'El que existe trae el estado, el municipio y las colonias'
-ve codigo
+pulsa usuario-codigo
 llena 44720
 teclea space
 exige_traza 'EstadoMexID 14'
-adelante 5
-teclea Down # the first neighbourhood
-adelante 2
+salta estado municipio colonia
+baja 1 # the first neighbourhood
+salta colonia
 llena 'Calle del Sol' 12 B 'La Peña' '33 1234 5678'
-ve domicilio
+pulsa usuario-domicilio
 captura usuario-domicilio
 
 paso 'Con su serie y su cuenta se agrega'
-ve parametros
-ve serie
+pulsa usuario-parametros
+pulsa usuario-serie
 escribe XI
-teclea Tab Down Down Down Down
+salta serie
+baja 4 # an account that takes postings
 captura usuario-parametros
 guarda_usuario registrar
 exige_traza "select * from creausuario('$nueva','tolvara_usuarios');"
@@ -85,9 +82,9 @@ exige_dato "SELECT s.nombre, s.paterno, s.fechanacimiento, s.rfc = generarfc.rfc
 permisos_de_nueva ''
 
 paso 'En la rejilla se le dan dos opciones'
-ve fila
+pulsa usuario-fila
 exige_traza 'Termian permisos'
-ve accesos
+pulsa usuario-accesos
 alterna monedas
 alterna movimientos
 captura usuario-accesos
@@ -137,7 +134,7 @@ done
 permisos_de_nueva '0203,0205'
 
 paso 'La nueva agrega una moneda'
-elige 1
+elige monedas
 exige_traza 'terminando creacion frm pais'
 nuevo QZ 'Corona prestada' 2
 confirma alt+a 'Moneda' moneda-de-la-nueva
@@ -145,7 +142,7 @@ exige_dato "SELECT count(*) FROM moneda WHERE monedaid = 'QZ'" 1
 
 paso 'El administrador le quita las monedas mientras las tiene abiertas'
 pasa_a "$ventana_administrador"
-ve fila
+pulsa usuario-fila
 exige_traza 'Termian permisos'
 alterna monedas
 captura usuario-sin-monedas
@@ -170,9 +167,9 @@ teclea ctrl+q
 espera_fin
 cliente=$administrador
 pasa_a "$ventana_administrador"
-ve fila
+pulsa usuario-fila
 exige_traza 'Termian permisos'
-ve borrar
+pulsa usuario-borrar
 responde 'Usuario' alt+s usuario-borrar
 exige_dato "SELECT count(*) FROM usuario WHERE usuarioid = '$nueva'" 0
 exige_dato "SELECT count(*) FROM pg_roles WHERE rolname = '$nueva' AND rolcanlogin" 0

@@ -10,9 +10,10 @@ paso 'Entra un usuario sin derechos'
 menu Inicio
 teclea alt+c
 espera_ventana 'Login'
-teclea shift+Tab ctrl+a
+vuelve clave
+teclea ctrl+a
 escribe camila
-teclea Tab
+salta login
 escribe "$(clave_de camila)"
 captura login-de-otro-usuario
 teclea Return
@@ -25,7 +26,7 @@ done
 
 paso 'Motivos Baja se le abre también'
 espera_ventana "$principal"
-elige 7 3
+elige motivos-baja
 exige_traza 'terminando creacion frm motivobaja'
 captura motivos-baja-sin-derechos
 teclea alt+c

@@ -1,4 +1,6 @@
-# The second program: its forms, its reports, and how both are reached.
+# The second program: each option of its menu, opened, worked with and refused, and a date as the forms ask for one. Whoever
+# opens something here waits until it has the keyboard before he types on.
+
 # A stand-in for the printer, first on the path of the client: keeps what it is called with and what it would print.
 pon_impresora() {
   mkdir -p "$temporal/bin"
@@ -11,15 +13,58 @@ LPR
   PATH=$temporal/bin:$PATH
 }
 
-operaciones='Tolvara Operaciones V. 0.0.7a' # title of its main window
-
-# Chooses the entry at place $2 of the pane at place $1 behind "Inicio".
-opcion() {
+# Chooses the option with this name.
+opera() {
+  local panel lugar
+  IFS='|' read -r panel lugar _ <<<"${operacion_en[$1]:?}"
   espera_ventana "$operaciones"
   menu Inicio
-  teclea $(printf 'Right %.0s' $(seq "$1"))
-  baja "$2"
+  salta_paneles "$panel"
+  baja "$lugar"
   teclea Return
+}
+salta_paneles() { teclea $(printf 'Right %.0s' $(seq "$1")); }
+
+# The same for one that opens a dialog with the title $2.
+opera_dialogo() {
+  opera "$1"
+  espera_ventana "$2"
+}
+# Closes it.
+cierra_dialogo() {
+  teclea alt+c
+  espera_ventana "$operaciones"
+}
+
+# Brings up the next page of the dialog, whose first field then has the keyboard.
+pasa_pagina() { teclea ctrl+Next; }
+
+# Opens the search dialog by the key $1.
+busca() {
+  ventana=$(xdotool getactivewindow)
+  teclea "$1"
+  espera_sin_titulo
+}
+
+# In a search dialog: filters by $1, which the server is asked for by $2, and takes the last row; its picture is $3.
+filtra_y_toma() {
+  salta buscar lista
+  escribe "$1"
+  salta filtro
+  teclea space # the lens
+  exige_traza "SELECT * FROM $2('$1');"
+  salta lupa buscar
+  teclea End # the last row of the list
+  captura "$3"
+  teclea alt+a
+}
+
+# The option of a row of `operaciones_de` when the user $1 has no right to it.
+niega_operacion() {
+  paso "Se niega a $1 la operación $2"
+  opera "$2"
+  responde 'Acceso NO AUTORIZADO' Return "operacion-negada-$2"
+  exige_traza "SELECT * FROM spspermisomodulo('$1','${operacion_en[$2]##*|}');"
 }
 
 paso 'Se abre el segundo programa'
@@ -30,7 +75,7 @@ espera_ventana "$operaciones"
 captura operaciones
 
 paso 'Un asesor se agrega y se borra'
-opcion 4 1
+opera asesores
 exige_traza 'terminando creacion frm pais'
 nuevo 97 'Ñico Lagos'
 captura asesores
@@ -41,13 +86,13 @@ exige_dato "SELECT count(*) FROM asesor WHERE asesorid = 97" 0
 teclea alt+c
 
 paso 'Se ven las clasificaciones de créditos'
-opcion 3 1
+opera clasificaciones
 exige_traza 'terminando creacion frm clasificacioncredito'
 captura clasificaciones
 teclea alt+c
 
 paso 'Un grupo se agrega y se borra'
-opcion 4 2
+opera grupos
 exige_traza 'terminando creacion frm grupo'
 nuevo '' 'Grupo de los Soñadores'
 confirma alt+a 'Grupo' grupo-registrar
@@ -60,10 +105,9 @@ exige_dato "SELECT count(*) FROM grupo WHERE grupo = 'Grupo de los Soñadores'" 
 teclea alt+c
 
 paso 'Un tipo de depreciación se agrega, se modifica y se borra'
-opcion 2 2
-espera_ventana 'Depreciaciones'
+opera_dialogo depreciaciones 'Depreciaciones'
 nuevo '' 'Herramienta' 12.5 10 5000
-teclea Down Tab Tab
+opta 1
 llena 90
 pon_cuentas 4
 captura depreciacion-nueva
@@ -79,47 +123,49 @@ espera_ventana 'Depreciaciones'
 confirma alt+r 'Tipo de Depreciacion' depreciacion-borrar
 exige_dato "SELECT count(*) FROM depreciacion WHERE depredescripcion = 'Herramienta del taller'" 0
 espera_ventana 'Depreciaciones'
-teclea alt+c
+cierra_dialogo
 
 paso 'Un activo se agrega por sus tres páginas'
-opcion 2 1
-espera_ventana 'Activo'
+opera_dialogo activos 'Activo'
 captura activos
-pulsa 500 274 # the code
+nuevo '' # the server numbers it
 llena 'QZ-1' 'Torno de prueba'
-teclea Down Tab Tab
+opta 1
 llena 1000 50 900 'Bodega' 'S-77' 1200
-teclea Down Tab Tab Down
+opta 1
+baja 1
 captura activo-generales
-pulsa 479 250 # the second page, and its first field
-pulsa 560 274
-llena '1/2/2026'
-teclea space
-espera_sin_titulo
-teclea Tab Tab space # the second day
-teclea alt+a
+pasa_pagina
+escribe '1x/2/2026' # the letter is refused
+exige_campo '1/2/2026'
+salta fecha
+busca space
+captura calendario
+pon_dia 2 calendario-otro-dia
 espera_ventana 'Activo'
-teclea Tab
+vuelve calendario
+exige_campo '2/2/2026'
+salta fecha calendario
 llena 10 20
-teclea Down
+baja 1
 captura activo-contable
-pulsa 605 250 # the third
-pulsa 560 274
+pasa_pagina
 llena '3/2/2026'
-teclea Tab space Tab
+salta calendario
+teclea space
+salta deduccion
 llena 10 20
-teclea Down Tab Tab
+opta 1
 escribe 500
 captura activo-fiscal
 confirma alt+a 'Activo' activo-registrar
-exige_dato "SELECT activodescripcion, feciniciodepconta, actdeduccioninme FROM activo WHERE activoclave = 'QZ-1'" \
-  'Torno de prueba|2026-02-02|S'
+exige_dato "SELECT activodescripcion, feciniciodepconta, feciniciodepfiscal, actdeduccioninme FROM activo WHERE activoclave = 'QZ-1'" \
+  'Torno de prueba|2026-02-02|2026-02-03|S'
 
 paso 'Se modifica y se borra'
 espera_ventana 'Activo'
-pulsa 376 250 # the first page
+pasa_pagina # round to the first one
 elige_ultimo
-pulsa 500 274
 exige_campo 'QZ-1'
 llena 'QZ-2'
 confirma alt+a 'Activo' activo-guardar
@@ -128,44 +174,41 @@ espera_ventana 'Activo'
 confirma alt+r 'Activo' activo-borrar
 exige_dato "SELECT count(*) FROM activo WHERE activodescripcion = 'Torno de prueba'" 0
 espera_ventana 'Activo'
-teclea alt+c
+cierra_dialogo
 
 paso 'Una ciudad se agrega y se borra'
-opcion 5 2
-espera_ventana 'Ciudad'
+opera_dialogo ciudades 'Ciudad'
 nuevo '' QZ 'Zona de la Peña'
-teclea Down # the first state
+baja 1 # the first state
 captura ciudad-nueva
 confirma alt+a 'Ciudadades' ciudad-registrar
 exige_dato "SELECT estadomexid FROM ciudadesmex WHERE nombreciudadmex = 'Zona de la Peña'" 1
 espera_ventana 'Ciudad'
 elige_ultimo # &Buscar takes two figures
-teclea Tab
+salta clave
 exige_campo 'Zona de la Peña'
 confirma alt+r 'Ciudadades' ciudad-borrar
 exige_dato "SELECT count(*) FROM ciudadesmex WHERE nombreciudadmex = 'Zona de la Peña'" 0
 espera_ventana 'Ciudad'
-teclea alt+c
+cierra_dialogo
 
 paso 'Un estado se agrega y se borra'
-opcion 5 1
-espera_ventana 'Estados'
+opera_dialogo estados 'Estados'
 nuevo '' QZ 'Tierra de la Peña'
 confirma alt+a 'EstadoMex' estado-registrar
 exige_dato "SELECT nombreestadomex FROM estadosmex WHERE claveestadomex = 'QZ'" 'Tierra de la Peña'
 espera_ventana 'Estados'
 elige_ultimo
-teclea Tab
+salta clave
 exige_campo 'Tierra de la Peña'
 captura estado-elegido
 confirma alt+r 'EstadoMex' estado-borrar
 exige_dato "SELECT count(*) FROM estadosmex WHERE claveestadomex = 'QZ'" 0
 espera_ventana 'Estados'
-teclea alt+c
+cierra_dialogo
 
 paso 'Un tipo de asentamiento se agrega y se borra'
-opcion 5 3
-espera_ventana 'Tipos de asentamiento'
+opera_dialogo tipos-de-asentamiento 'Tipos de asentamiento'
 nuevo 77 'Ranchería Ñandú'
 captura tipo-de-asentamiento
 confirma alt+a 'Tipo de asentamiento' tipo-de-asentamiento-registrar
@@ -174,37 +217,69 @@ espera_ventana 'Tipos de asentamiento'
 confirma alt+r 'Tipo de asentamiento' tipo-de-asentamiento-borrar
 exige_dato "SELECT count(*) FROM tipoasentamiento WHERE tipoasentamientoid = 77" 0
 espera_ventana 'Tipos de asentamiento'
-teclea alt+c
+cierra_dialogo
 
-paso 'Las colonias se buscan por código postal'
-opcion 5 4
-espera_ventana 'Colonias'
+paso 'Las colonias se buscan por código postal, y una se agrega y se borra'
 codigo=$(servidor psql "$sucursal" -XAtc 'SELECT cp FROM colonias ORDER BY coloniaid LIMIT 1')
-teclea shift+Tab shift+Tab # from the key back to the postal code
+opera_dialogo colonias 'Colonias'
+vuelve mostrar codigo
 escribe "$codigo"
 teclea alt+m
 exige_traza "SELECT * FROM spscoloniacp($codigo);"
 captura colonias
-teclea alt+c
+nuevo '' 'Peña Alta' "$codigo"
+opta 2
+baja 1
+captura colonia-nueva
+confirma alt+a 'Colonia' colonia-registrar
+exige_dato "SELECT cp FROM colonias WHERE nombrecolonia = 'Peña Alta'" "$codigo"
+espera_ventana 'Colonias'
+confirma alt+r 'Colonia' colonia-borrar
+exige_dato "SELECT count(*) FROM colonias WHERE nombrecolonia = 'Peña Alta'" 0
+espera_ventana 'Colonias'
+cierra_dialogo
 
 paso 'Una cuenta se busca en el árbol del catálogo'
-opcion 6 1
-espera_ventana 'Catálogo de cuentas'
+opera_dialogo cuentas 'Catálogo de cuentas'
 captura cuentas
-teclea alt+c
+vuelve cuenta
+escribe 'caja'
+captura cuenta-hallada
+
+paso 'Una cuenta se agrega debajo de otra, que se busca, y se borra'
+nuevo '9999-77' 'Cuenta de la Peña'
+salta acumula
+busca space
+escribe '1301x' # no account continues so: the letter is taken back
+exige_campo '1301'
+captura busqueda-de-cuentas
+salta buscar lista
+escribe 'Bancos'
+salta filtro
+teclea space
+salta lupa buscar
+teclea Home
+captura busqueda-de-cuentas-filtradas
+teclea alt+a
+espera_ventana 'Catálogo de cuentas'
+salta lupa
+opta 2
+opta 1
+opta 2
+captura cuenta-nueva
+confirma alt+a 'Cuenta' cuenta-registrar
+exige_dato "SELECT cuentanombre, tipo_cta FROM catalogo_ctas WHERE cuentaid = '9999-77'" 'Cuenta de la Peña|A'
+espera_ventana 'Catálogo de cuentas'
+captura cuenta-agregada
+confirma alt+r 'Cuenta' cuenta-borrar
+exige_dato "SELECT count(*) FROM catalogo_ctas WHERE cuentaid = '9999-77'" 0
+espera_ventana 'Catálogo de cuentas'
+cierra_dialogo
 
 paso 'Un bien se agrega con su persona'
-opcion 4 3
-espera_ventana 'Bienes de una persona'
-teclea alt+p
-espera_sin_titulo
-teclea Tab Tab
-escribe 'Mar'
-teclea Tab space # the lens
-exige_traza "SELECT * FROM spssujetos('Mar');"
-teclea Tab Tab End # the last row of the list
-captura personas
-teclea alt+a
+opera_dialogo bienes 'Bienes de una persona'
+busca alt+p
+filtra_y_toma 'Mar' spssujetos personas
 espera_ventana 'Bienes de una persona'
 teclea alt+n
 espera_ventana 'Bien'
@@ -216,7 +291,13 @@ captura bienes
 confirma alt+a 'Bienes' bienes-guardar
 exige_dato "SELECT valorfiscal, adjudicado FROM bienes WHERE describien = 'Terreno de la Peña'" '80000.00|N'
 espera_ventana 'Bienes de una persona'
-teclea alt+c
+
+paso 'Los de un socio se buscan por su clave o su nombre'
+busca alt+s
+filtra_y_toma 'Quimera' spssociocajaf socios
+espera_ventana 'Bienes de una persona'
+captura bienes-del-socio
+cierra_dialogo
 
 cierra_reporte() {
   teclea Escape
@@ -225,8 +306,7 @@ cierra_reporte() {
 
 paso 'Se corre el pre-cierre del mes pasado y se exporta'
 dia=$(date -d "$(date +%Y-%m-01) -1 day" +%d/%m/%Y)
-opcion 1 1
-espera_ventana 'Pre-Cierre'
+opera_dialogo precierre 'Pre-Cierre'
 escribe "$dia"
 captura precierre
 teclea alt+p
@@ -237,7 +317,8 @@ espera 'no aparece el resultado' es_otra 'Pre-Corte' "$ventana"
 exige_traza "select * from precierre('$dia');"
 responde 'Pre-Corte' Return precierre-resultado
 espera_ventana 'Pre-Cierre'
-teclea Tab space # &Consulta, whose key is that of &Cerrar too
+salta ejecutar
+teclea space # &Consulta, whose key is that of &Cerrar too
 espera_ventana 'Reporte'
 exige_traza 'Termina generacion correctamente'
 captura precierre-exportado
@@ -246,16 +327,19 @@ cierra_reporte 'Pre-Cierre'
 teclea Escape
 
 paso 'Se pide el reporte de personas, de la sucursal y consolidado, y se imprime'
-opcion 1 2
-espera_ventana 'Busqueda Sujeto'
+opera_dialogo reporte-de-personas 'Busqueda Sujeto'
 escribe 'Mar'
 captura reporte-personas
-teclea Tab Tab Tab Tab Tab Tab space # &Consulta
+salta paterno materno nombre otros consolidado imprimir
+teclea space # &Consulta
 espera_ventana 'Reporte'
 exige_traza "SELECT * FROM spssujeto('Mar','','','');"
 captura reporte-personas-visto
 cierra_reporte 'Busqueda Sujeto'
-teclea shift+Tab shift+Tab space Tab Tab space # CONSOLIDADO, &Consulta
+vuelve consulta imprimir
+teclea space # CONSOLIDADO
+salta consolidado imprimir
+teclea space # &Consulta
 espera_ventana 'Reporte'
 exige_traza "SELECT * FROM spssujetoc('Mar','','','');"
 captura reporte-personas-consolidado
@@ -264,6 +348,16 @@ teclea alt+i
 espera 'no se imprime el reporte' cmp "$HOME/reporte.txt" "$HOME/impreso.txt"
 espera 'no se imprime con su orden' grep -qx -- '-l reporte.txt' "$HOME/impreso.orden"
 teclea Escape
+espera_ventana "$operaciones"
+teclea ctrl+q
+espera_fin
+
+paso 'Entra al segundo programa un usuario sin derechos'
+abre_cliente tolvara-operaciones
+entra camila "$(clave_de camila)" bienvenida-a-operaciones-sin-derechos
+for operacion in "${operaciones_en_orden[@]}"; do
+  niega_operacion camila "${operacion%%|*}"
+done
 espera_ventana "$operaciones"
 teclea ctrl+q
 espera_fin

@@ -5,7 +5,7 @@ abre_cliente
 entra "$usuario" "$(clave_de "$usuario")" bienvenida-antes-del-fin
 espera_ventana "$principal"
 captura sesion-antes-del-fin # until nothing moves: a menu that is posted for the first time misses quick keys
-elige 6 6
+elige tipo-tasa-interes
 espera_ventana 'Tipo Tasa Variables'
 captura series
 exige_dato "SELECT count(pg_terminate_backend(pid)) > 0 FROM pg_stat_activity WHERE usename = '$usuario'" t

@@ -10,19 +10,18 @@ exige_traza '38      '
 paso 'Se abren los usuarios'
 espera_ventana "$principal"
 captura sesion-antes-de-los-usuarios
-elige 8 1
+elige usuarios
 exige_traza "SELECT * FROM spspermisomodulo('$usuario','0206');"
 exige_traza 'terminando creacion frm usuario'
 captura usuarios
 
 paso 'Buscar un login que nadie tiene termina el programa'
 # By mouse: the remarks keep the keyboard on its way to the login, and &Borrar has the key of &Buscar.
-pulsa_en() { xdotool mousemove --window "$(xdotool getactivewindow)" "$1" "$2" click 1; }
-pulsa_en 337 101
+pulsa_en_ventana usuario-login
 escribe 'nadie'
 exige_campo 'nadie'
 captura usuario-desconocido
-pulsa_en 757 104
+pulsa_en_ventana usuario-buscar
 exige_traza 'Entrando a Find '
 exige_traza 'El usuario no se encontro en la BD'
 espera_fin

@@ -3,6 +3,8 @@
 # folder of the results.
 #
 # Nothing here sleeps for a fixed time: a step waits until its outcome shows, and fails after $paciencia seconds.
+. "$raiz/scripts/visita/nombres.sh"
+
 paciencia=20
 principal='Tolvara V. 0.0.7a' # title of the main window
 paso=preparación              # the step under way
@@ -120,29 +122,41 @@ termino() { ! kill -0 "$cliente"; }
 teclea() { xdotool key --delay 30 "$@"; }
 escribe() { xdotool type --delay 15 -- "$1"; }
 
-# Clicks at a place of the screen.
-pulsa() { xdotool mousemove "$1" "$2" click 1; }
+# Clicks at a place that has a name, $2 times if that is told.
+pulsa() { xdotool mousemove ${punto[$1]:?} click --repeat "${2:-1}" --delay 80 1; }
+pulsa_en_ventana() { xdotool mousemove --window "$(xdotool getactivewindow)" ${punto_de_ventana[$1]:?} click 1; }
 
-# Opens a pane of the menu bar. Always by way of the first one: the keys of the others can belong to a button as well.
+# Opens a pane of the menu bar. Always by way of the first one: the keys of the others can belong to a button as well. Keys
+# that come before the pane is on the screen would be lost.
 menu() {
+  local antes
   xdotool mousemove 1000 750 # out of the way: an entry that comes up under the pointer becomes the current one
+  antes=$(a_la_vista)
   teclea alt+i
+  espera 'no se abre el menú' hay_mas_que "$antes"
   case $1 in
     Catalogos) teclea Right ;;
     Ayuda) teclea Left ;;
   esac
 }
 
-# Chooses the entry of the pane "Catalogos" at place $1, or in its cascade the one at place $2, counted from 1.
+# How many windows are on the screen, the panes of a menu among them.
+a_la_vista() { xdotool search --onlyvisible --maxdepth 1 '.*' 2>/dev/null | wc -l; }
+hay_mas_que() { (($(a_la_vista) > $1)); }
+
+# Chooses the option with this name.
 elige() {
+  local lugar cascada
+  read -r lugar cascada <<<"${opcion_en[$1]:?}"
   menu Catalogos
-  baja "$1"
-  if [[ ${2:-} ]]; then
+  baja "$lugar"
+  if [[ $cascada ]]; then
     teclea Right
-    baja "$2"
+    baja "$cascada"
   fi
   teclea Return
 }
+# Down to the place $1, counted from 1.
 baja() { teclea $(printf 'Down %.0s' $(seq "$1")); }
 
 # &Nuevo, and the values into the fields from the key on. The keyboard is then behind the last of them.
@@ -158,9 +172,38 @@ encuentra() {
 }
 
 # The last row of the list, which is ahead of the key; the keyboard is then on the field behind the key.
-elige_ultimo() { teclea alt+n shift+Tab End Tab Tab; }
+elige_ultimo() {
+  teclea alt+n
+  vuelve clave
+  teclea End
+  salta lista clave
+}
 
-adelante() { teclea $(printf 'Tab %.0s' $(seq "$1")); }
+# Passes over the fields and buttons with these names, from the one with the keyboard on, or back over them.
+salta() { teclea ${@/*/Tab}; }
+vuelve() { teclea ${@/*/shift+Tab}; }
+
+# The item at place $1 of the combo box with the keyboard, counted from 1; the keyboard is then behind it.
+opta() {
+  baja "$1"
+  salta lista
+}
+
+# The day $1 in the calendar that has just opened, with the picture $2 if that is told, and &Aceptar.
+pon_dia() {
+  teclea $(printf 'Tab %.0s' $(seq "$1")) space
+  [[ ! ${2:-} ]] || captura "$2"
+  teclea alt+a
+}
+
+# Opens the calendar, by its button, which has the keyboard, and picks the second day of the month shown.
+elige_dia() {
+  teclea space
+  espera_sin_titulo
+  captura "$1"
+  pon_dia 2
+  espera_cierre
+}
 
 # &Aceptar or &Borrar (alt+r) by its key $1, and yes to the question with the title $2, which may be that of its
 # form as well; its picture is $3.
@@ -179,7 +222,7 @@ es_otra() { es_activa "$1" && [[ $ventana != "$2" ]]; }
 # is $3.
 entra() {
   espera_ventana 'Login'
-  teclea shift+Tab
+  vuelve clave
   llena "$1"
   escribe "$2"
   teclea Return
@@ -200,7 +243,10 @@ llena() {
 # Picks the fourth account of the chart, which takes postings, in $1 account fields from the one with the keyboard on.
 pon_cuentas() {
   local i
-  for ((i = 0; i < $1; i++)); do teclea Down Down Down Down Tab Tab Tab; done
+  for ((i = 0; i < $1; i++)); do
+    opta 4
+    salta lupa
+  done
 }
 
 # Answers a box: waits for the one with this title, takes its picture, types a key and sees it go.

@@ -33,7 +33,8 @@ BEGIN
   END IF;
   FOR archivo IN
     SELECT current_setting('log_directory') || '/' || l.name FROM pg_ls_logdir() AS l
-     WHERE l.name ~ '\.json$' AND l.modification >= desde ORDER BY l.modification
+     WHERE l.name ~ '\.json$' AND l.modification > desde - interval '1 second'  -- told in whole seconds
+     ORDER BY l.modification
   LOOP
     lugar := 0;
     LOOP

@@ -100,22 +100,28 @@ END $$;
 
 -- Municipalities ---------------------------------------------------------------------------------------------------
 
-CREATE FUNCTION spsciudadmex(id integer)
-RETURNS TABLE (ciudadmexid integer, estadomexid integer, claveciudadmex character(4), nombreciudadmex varchar(50))
-LANGUAGE sql STABLE
-BEGIN ATOMIC
+-- What the readers of municipalities answer, and out of what.
+SELECT $$
+  ciudadmexid integer, estadomexid integer, claveciudadmex character(4), nombreciudadmex varchar(50)
+$$ AS columnas, $$
   SELECT c.ciudadmexid, c.estadomexid, c.claveciudadmex, c.nombreciudadmex
     FROM ciudadesmex c
+$$ AS filas \gset
+
+CREATE FUNCTION spsciudadmex(id integer)
+RETURNS TABLE (:columnas)
+LANGUAGE sql STABLE
+BEGIN ATOMIC
+  :filas
    WHERE coalesce(id, 0) = 0 OR c.ciudadmexid = id
    ORDER BY c.ciudadmexid;
 END;
 
 CREATE FUNCTION spsciudadxedo(estado integer)
-RETURNS TABLE (ciudadmexid integer, estadomexid integer, claveciudadmex character(4), nombreciudadmex varchar(50))
+RETURNS TABLE (:columnas)
 LANGUAGE sql STABLE
 BEGIN ATOMIC
-  SELECT c.ciudadmexid, c.estadomexid, c.claveciudadmex, c.nombreciudadmex
-    FROM ciudadesmex c
+  :filas
    WHERE c.estadomexid = estado
    ORDER BY c.ciudadmexid;
 END;
@@ -167,35 +173,38 @@ END $$;
 
 -- Neighbourhoods: one, those of a municipality, those of a postal code ----------------------------------------------
 
-CREATE FUNCTION spscolonia(id bigint)
-RETURNS TABLE (coloniaid bigint, ciudadmexid integer, nombrecolonia varchar(100), cp integer,
-               tipoasentamientoid bigint)
-LANGUAGE sql STABLE
-BEGIN ATOMIC
+-- What the readers of neighbourhoods answer, and out of what.
+SELECT $$
+  coloniaid bigint, ciudadmexid integer, nombrecolonia varchar(100), cp integer,
+  tipoasentamientoid bigint
+$$ AS columnas, $$
   SELECT c.coloniaid, c.ciudadmexid, c.nombrecolonia, c.cp, c.tipoasentamientoid
     FROM colonias c
+$$ AS filas \gset
+
+CREATE FUNCTION spscolonia(id bigint)
+RETURNS TABLE (:columnas)
+LANGUAGE sql STABLE
+BEGIN ATOMIC
+  :filas
    WHERE coalesce(id, 0) = 0 OR c.coloniaid = id
    ORDER BY c.coloniaid;
 END;
 
 CREATE FUNCTION spscolonias(ciudad bigint)
-RETURNS TABLE (coloniaid bigint, ciudadmexid integer, nombrecolonia varchar(100), cp integer,
-               tipoasentamientoid bigint)
+RETURNS TABLE (:columnas)
 LANGUAGE sql STABLE
 BEGIN ATOMIC
-  SELECT c.coloniaid, c.ciudadmexid, c.nombrecolonia, c.cp, c.tipoasentamientoid
-    FROM colonias c
+  :filas
    WHERE c.ciudadmexid = ciudad
    ORDER BY c.coloniaid;
 END;
 
 CREATE FUNCTION spscoloniacp(codigo bigint)
-RETURNS TABLE (coloniaid bigint, ciudadmexid integer, nombrecolonia varchar(100), cp integer,
-               tipoasentamientoid bigint)
+RETURNS TABLE (:columnas)
 LANGUAGE sql STABLE
 BEGIN ATOMIC
-  SELECT c.coloniaid, c.ciudadmexid, c.nombrecolonia, c.cp, c.tipoasentamientoid
-    FROM colonias c
+  :filas
    WHERE c.cp = codigo
    ORDER BY c.coloniaid;
 END;

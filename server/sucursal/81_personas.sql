@@ -160,28 +160,31 @@ BEGIN
   RETURN fila;
 END $$;
 
-CREATE FUNCTION spsdomicilio(id bigint)
-RETURNS TABLE (domicilioid bigint, ciudadmexid integer, sujetoid bigint, calle varchar(40), numero_ext varchar(15),
-               numero_int varchar(15), colonia varchar(30), codpostal bigint, comunidad varchar(50),
-               teldomicilio varchar(20), coloniaid bigint)
-LANGUAGE sql STABLE
-BEGIN ATOMIC
+-- What the readers of addresses answer, and out of what.
+SELECT $$
+  domicilioid bigint, ciudadmexid integer, sujetoid bigint, calle varchar(40), numero_ext varchar(15),
+  numero_int varchar(15), colonia varchar(30), codpostal bigint, comunidad varchar(50),
+  teldomicilio varchar(20), coloniaid bigint
+$$ AS columnas, $$
   SELECT d.domicilioid, coalesce(d.ciudadmexid, 0), d.sujetoid, d.calle, d.numero_ext, d.numero_int, d.colonia,
          d.codpostal, d.comunidad, d.teldomicilio, coalesce(d.coloniaid, 0)
     FROM domicilio d
+$$ AS filas \gset
+
+CREATE FUNCTION spsdomicilio(id bigint)
+RETURNS TABLE (:columnas)
+LANGUAGE sql STABLE
+BEGIN ATOMIC
+  :filas
    WHERE coalesce(id, 0) = 0 OR d.domicilioid = id
    ORDER BY d.domicilioid;
 END;
 
 CREATE FUNCTION spsdomiciliosujeto(persona bigint)
-RETURNS TABLE (domicilioid bigint, ciudadmexid integer, sujetoid bigint, calle varchar(40), numero_ext varchar(15),
-               numero_int varchar(15), colonia varchar(30), codpostal bigint, comunidad varchar(50),
-               teldomicilio varchar(20), coloniaid bigint)
+RETURNS TABLE (:columnas)
 LANGUAGE sql STABLE
 BEGIN ATOMIC
-  SELECT d.domicilioid, coalesce(d.ciudadmexid, 0), d.sujetoid, d.calle, d.numero_ext, d.numero_int, d.colonia,
-         d.codpostal, d.comunidad, d.teldomicilio, coalesce(d.coloniaid, 0)
-    FROM domicilio d
+  :filas
    WHERE coalesce(persona, 0) = 0 OR d.sujetoid = persona
    ORDER BY d.domicilioid;
 END;

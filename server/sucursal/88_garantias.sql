@@ -50,30 +50,33 @@ BEGIN
   RETURN fila;
 END $$;
 
--- Guarantees of a loan.
-CREATE FUNCTION spsgarantiap(prestamo bigint)
-RETURNS TABLE (garantiaid bigint, solicitudprestamoid bigint, prestamoid bigint, garantiabienid bigint,
-               nohip varchar(30), folio varchar(32), fecharegistro date, fechavencimiento date,
-               descripcion varchar(100))
-LANGUAGE sql STABLE
-BEGIN ATOMIC
+-- What the readers of guarantees answer, and out of what.
+SELECT $$
+  garantiaid bigint, solicitudprestamoid bigint, prestamoid bigint, garantiabienid bigint,
+  nohip varchar(30), folio varchar(32), fecharegistro date, fechavencimiento date,
+  descripcion varchar(100)
+$$ AS columnas, $$
   SELECT g.garantiaid, g.solicitudprestamoid, g.prestamoid, g.garantiabienid, g.nohip, g.folio, g.fecharegistro,
          g.fechavencimiento, g.descripcion
     FROM garantia g
+$$ AS filas \gset
+
+-- Guarantees of a loan.
+CREATE FUNCTION spsgarantiap(prestamo bigint)
+RETURNS TABLE (:columnas)
+LANGUAGE sql STABLE
+BEGIN ATOMIC
+  :filas
    WHERE coalesce(prestamo, 0) = 0 OR g.prestamoid = prestamo
    ORDER BY g.garantiaid;
 END;
 
 -- Guarantees of a loan request.
 CREATE FUNCTION spsgarantias(solicitud bigint)
-RETURNS TABLE (garantiaid bigint, solicitudprestamoid bigint, prestamoid bigint, garantiabienid bigint,
-               nohip varchar(30), folio varchar(32), fecharegistro date, fechavencimiento date,
-               descripcion varchar(100))
+RETURNS TABLE (:columnas)
 LANGUAGE sql STABLE
 BEGIN ATOMIC
-  SELECT g.garantiaid, g.solicitudprestamoid, g.prestamoid, g.garantiabienid, g.nohip, g.folio, g.fecharegistro,
-         g.fechavencimiento, g.descripcion
-    FROM garantia g
+  :filas
    WHERE coalesce(solicitud, 0) = 0 OR g.solicitudprestamoid = solicitud
    ORDER BY g.garantiaid;
 END;

@@ -3,6 +3,8 @@
 #include <ctime>
 #include <functional>
 
+#include "catalogs/finance/TipoMovimiento_Window.h"
+#include "catalogs/people/Usuario_Window.h"
 #include "icons/Icono.h"
 #include "icons/iconos.h"
 #include "tests/app/ConCaja.h"
@@ -329,6 +331,93 @@ TEST(CajaFin, CallaElRelojYBorraSusPiezasEnOrden) {
     }
   }
   EXPECT_EQ(idas, (Textos{"menuInicio", "menuCatalogos", "menuBar", "statusBar", "dragShellMenu"}));
+}
+
+TEST_F(CajaConServidorTest, CreceHastaQueCabeLaFormaMasAncha) {
+  const Sesion sesion(*base_);
+  IsConectado = true;
+  Escoge("&Usuarios");
+  const auto formas = Todos<Usuario_Window>(caja_.get());
+  ASSERT_EQ(formas.size(), 1u);
+  EXPECT_EQ(formas[0]->getWidth(), 815);
+  EXPECT_GT(caja_->getWidth(), 800);
+  EXPECT_LE(formas[0]->getX() + formas[0]->getWidth(), formas[0]->getParent()->getWidth());
+  EXPECT_FALSE(formas[0]->isMaximized());
+}
+
+TEST_F(CajaConServidorTest, ConLetraGrandeUnaFormaCreceLoQueLeFalta) {
+  const Sesion sesion(*base_);
+  IsConectado = true;
+  FXFont* const comun = App().getNormalFont();
+  FXFont grande(&App(), "arial", 180);
+  grande.create();
+  App().setNormalFont(&grande);  // as a screen of that resolution shows the common one
+  for (const FXuint resolucion : {100u, 144u}) {
+    App().reg().writeUnsignedEntry(Seccion, "screenres", resolucion);
+    Escoge("&Tipo de Movimientos");
+    const auto formas = Todos<TipoMovimiento_Window>(caja_.get());
+    ASSERT_EQ(formas.size(), 1u);
+    EXPECT_EQ(formas[0]->getWidth() == 830, resolucion == 100) << formas[0]->getWidth();
+    delete formas[0];
+  }
+  App().setNormalFont(comun);
+}
+
+/// The main window as the program makes it, its first login closed.
+class CajaEnSuLugarTest : public SinSesion {
+ protected:
+  static void Anota(const char* llave, FXint valor) { App().reg().writeIntEntry("VENTANA", llave, valor); }
+  static FXint Anotado(const char* llave) { return App().reg().readIntEntry("VENTANA", llave, -1); }
+  /// Where it stands: left, top, width, height.
+  static std::vector<FXint> Arranca(const std::function<void(Caja*)>& uso = {}) {
+    const Salida salida;
+    Guion guion;
+    guion.Con([](FXDialogBox* login) { Pulsa(Boton(login, "&Cerrar")); });
+    auto caja = std::make_unique<Caja>(&App());
+    caja->create();
+    Bombea(20);
+    if (uso) uso(caja.get());
+    return {caja->getX(), caja->getY(), caja->getWidth(), caja->getHeight()};
+  }
+};
+
+TEST_F(CajaEnSuLugarTest, LaPrimeraVezMideOchocientosPorSeiscientos) {
+  const auto lugar = Arranca();
+  EXPECT_EQ(lugar.at(2), 800);
+  EXPECT_EQ(lugar.at(3), 600);
+}
+
+TEST_F(CajaEnSuLugarTest, VuelveADondeEstaba) {
+  Arranca([](Caja* caja) {
+    caja->position(30, 40, 700, 500);
+    Bombea(1200);  // the clock takes note
+  });
+  EXPECT_EQ(Anotado("ancho"), 700);
+  EXPECT_EQ(Arranca(), (std::vector<FXint>{30, 40, 700, 500}));
+}
+
+TEST_F(CajaEnSuLugarTest, LoQueNoCabeEnLaPantallaNoSeToma) {
+  const FXint ancho = App().getRootWindow()->getWidth(), alto = App().getRootWindow()->getHeight();
+  const struct {
+    FXint x, y, ancho, alto;
+    bool mide;  // is its size taken?
+  } tabla[] = {{0, 0, ancho + 1, 500, false}, {0, 0, 700, alto + 1, false},
+               {0, 0, 399, 500, false},       {0, 0, 700, 299, false},
+               {0, 0, -5, -5, false},         {ancho - 600, 0, 700, 500, true},
+               {-1, 0, 700, 500, true},       {0, alto - 400, 700, 500, true}};
+  for (const auto& fila : tabla) {
+    SCOPED_TRACE(testing::Message() << fila.x << " " << fila.y << " " << fila.ancho << " " << fila.alto);
+    Anota("x", fila.x);
+    Anota("y", fila.y);
+    Anota("ancho", fila.ancho);
+    Anota("alto", fila.alto);
+    const auto lugar = Arranca();
+    EXPECT_EQ(lugar.at(2), fila.mide ? 700 : 800);
+    EXPECT_EQ(lugar.at(3), fila.mide ? 500 : 600);
+    EXPECT_GE(lugar.at(0), 0);
+    EXPECT_LE(lugar.at(0) + lugar.at(2), ancho);
+    EXPECT_LE(lugar.at(1) + lugar.at(3), alto);
+  }
 }
 
 TEST_F(CajaConServidorTest, SeDejaDestruirConFormasAbiertas) {

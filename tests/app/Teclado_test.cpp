@@ -10,9 +10,13 @@
 namespace pruebas {
 namespace {
 
-/// Ahead of the windows: a window manager gives the keyboard to those that come up while it is there.
+/// One for all, and ahead of the windows.
 struct ConEscritorio {
-  Escritorio escritorio_;
+  static Escritorio& Unico() {
+    static Escritorio unico;
+    return unico;
+  }
+  Escritorio& escritorio_ = Unico();
 };
 
 class TecladoTest : public ConEscritorio, public ConCaja {
@@ -21,6 +25,7 @@ class TecladoTest : public ConEscritorio, public ConCaja {
     ConCaja::SetUp();
     sesion_ = std::make_unique<Sesion>(*base_);
     IsConectado = true;
+    escritorio_.Activa(caja_.get());
     ASSERT_TRUE(BombeaHasta([this] { return caja_->hasFocus() != FALSE; })) << "the window has no keyboard";
     Escoge("&Monedas");
     monedas_ = Forma<Monedas_Window>();

@@ -46,11 +46,7 @@ class BienVentana : public testing::Test {
     throw std::runtime_error("sin fecha");
   }
   Textos Manda(const std::string& boton, const std::vector<Respuesta>& respuestas = {}) {
-    Guion guion;
-    for (const Respuesta respuesta : respuestas) guion.Responde(respuesta);
-    Pulsa(Boton(forma_.get(), boton));
-    cuadro_ = guion.Ultimo();
-    return guion.Mensajes();
+    return PulsaYResponde(Boton(forma_.get(), boton), respuestas, cuadros_);
   }
   void Llena() {
     Escribe(forma_.get(), "Propietario:", "Bea");
@@ -69,7 +65,7 @@ class BienVentana : public testing::Test {
   cSujeto persona_;
   std::unique_ptr<FXMainWindow> duena_;
   std::unique_ptr<Bien_Window> forma_;
-  Cuadro cuadro_;
+  std::vector<Cuadro> cuadros_;
 };
 
 TEST_F(BienVentana, TieneSusPiezas) {
@@ -154,7 +150,7 @@ TEST_F(BienVentana, CerrarNoCambiaNada) {
 TEST_F(BienVentana, BorrarMarcaElBienYLoDejaEnLaLista) {
   Abre(0);
   EXPECT_EQ(Manda("&Borrar", {Respuesta::No}), Textos{"Borrar el registro ?"});
-  EXPECT_EQ(cuadro_.titulo, "Bien");
+  EXPECT_EQ(cuadros_.back().titulo, "Bien");
   EXPECT_TRUE(forma_->shown());
   EXPECT_FALSE(Bienes().Item(0).Deleted());
   Manda("&Borrar", {Respuesta::Si});
@@ -201,8 +197,8 @@ TEST_F(BienVentana, CadaReglaTieneSuCuadroYNadaSeDeshace) {
     const auto parrafos = Todos<FXText>(pieza);
     Escribe(parrafos.empty() ? pieza : parrafos[0], caso.valor);
     EXPECT_EQ(Manda("&Aceptar", {Respuesta::Aceptar}), Textos{caso.mensaje});
-    EXPECT_EQ(cuadro_.clase, Clase::Error);
-    EXPECT_EQ(cuadro_.titulo, "Error en Validación");
+    EXPECT_EQ(cuadros_.back().clase, Clase::Error);
+    EXPECT_EQ(cuadros_.back().titulo, "Error en Validación");
     EXPECT_TRUE(forma_->shown());
     EXPECT_EQ(Bienes().NumElementos(), 2);
   }

@@ -3,15 +3,13 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/Espia.h"
-#include "tests/support/Guion.h"
+#include "tests/support/ConVentana.h"
 #include "tests/support/Registros.h"
-#include "tests/support/Ventana.h"
 
 namespace pruebas {
 namespace {
 
-class CalculoVentana : public testing::Test {
+class CalculoVentana : public ConVentana<Calculo_Window> {
  protected:
   CalculoVentana() {
     calculo.Clear();
@@ -21,19 +19,7 @@ class CalculoVentana : public testing::Test {
     Escribe(forma_, "Descripción:", descripcion);
     Escribe(forma_, "Formula:", formula);
   }
-  Textos Manda(const std::string& boton, const std::vector<Respuesta>& respuestas = {}) {
-    Guion guion;
-    for (const Respuesta respuesta : respuestas) guion.Responde(respuesta);
-    Pulsa(Boton(forma_, boton));
-    return guion.Mensajes();
-  }
   std::string Cuantas() { return base_.Valor("select count(*) from norte.calculo"); }
-
-  BaseDatos base_;
-  std::optional<Sesion> sesion_{base_};
-  Espia espia_;
-  Area area_;
-  Calculo_Window* forma_;
 };
 
 TEST_F(CalculoVentana, UnaFormulaMasLargaQueSuCampoSeConservaEntera) {

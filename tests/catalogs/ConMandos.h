@@ -10,16 +10,12 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/Espia.h"
-#include "tests/support/Guion.h"
-#include "tests/support/Salida.h"
-#include "tests/support/Servidor.h"
-#include "tests/support/Sesion.h"
-#include "tests/support/Ventana.h"
+#include "tests/support/ConVentana.h"
 
 namespace pruebas {
 
-class ConMandos : public testing::Test {
+/// One database for all tests, until one of them has written to it.
+class ConBaseDeTodos : public testing::Test {
  protected:
   void SetUp() override {
     if (!base_) base_ = new BaseDatos;
@@ -35,22 +31,17 @@ class ConMandos : public testing::Test {
     base_ = nullptr;
   }
 
-  Textos Renglones() {
-    Textos renglones;
-    for (FXint i = 0; i < Lista(forma_)->getNumItems(); ++i)
-      renglones.push_back(Lista(forma_)->getItemText(i).text());
-    return renglones;
-  }
-  std::string RenglonActual() { return Lista(forma_)->getItemText(Lista(forma_)->getCurrentItem()).text(); }
+  inline static BaseDatos* base_ = nullptr;
+  bool escrita_ = false;
+  std::optional<Sesion> sesion_;
+};
 
-  /// Presses a button, answers the boxes that come in order, and gives their texts.
+class ConMandos : public ConVentana<FXWindow, ConBaseDeTodos> {
+ protected:
+  /// A question answered with yes may have written.
   Textos Manda(const std::string& boton, const std::vector<Respuesta>& respuestas = {}) {
     escrita_ = escrita_ || std::count(respuestas.begin(), respuestas.end(), Respuesta::Si) != 0;
-    Guion guion;
-    for (const Respuesta respuesta : respuestas) guion.Responde(respuesta);
-    Pulsa(Boton(forma_, boton));
-    cuadros_ = guion.Cuadros();
-    return guion.Mensajes();
+    return ConVentana::Manda(boton, respuestas);
   }
   /// What a question of the form asks, when answered and captioned as it should be.
   std::string Pregunta(const std::string& boton, Respuesta respuesta) {
@@ -66,22 +57,8 @@ class ConMandos : public testing::Test {
     EXPECT_EQ(cuadros_.at(1).titulo, "Error en Validación");
     return dichos.at(1);
   }
-  /// The statements since the last call.
-  Textos Enviado() {
-    const Textos sentencias = espia_.Sentencias();
-    espia_.Vacia();
-    return sentencias;
-  }
 
-  inline static BaseDatos* base_ = nullptr;  // one for all tests, until one of them has written to it
-  bool escrita_ = false;
-  std::optional<Sesion> sesion_;
-  Salida salida_;
-  Espia espia_;
-  Area area_;
-  FXWindow* forma_ = nullptr;
   const char* (*clase_)() = nullptr;  // caption of the form's questions
-  std::vector<Cuadro> cuadros_;
 };
 
 }  // namespace pruebas

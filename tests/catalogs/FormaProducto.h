@@ -15,11 +15,8 @@
 
 #include "db/Catalogo.h"
 #include "tests/catalogs/Producto.h"
-#include "tests/support/Espia.h"
-#include "tests/support/Guion.h"
+#include "tests/support/ConVentana.h"
 #include "tests/support/Registros.h"
-#include "tests/support/Salida.h"
-#include "tests/support/Ventana.h"
 
 namespace pruebas {
 
@@ -110,7 +107,7 @@ inline std::string Tecleado(std::string valor) {
 }
 
 /// A form opened on the demonstration, with what it picks from in the cache.
-class ConForma : public testing::Test {
+class ConForma : public ConVentana<> {
  protected:
   explicit ConForma(const FormaProducto& tabla) : tabla(tabla) {}
 
@@ -121,19 +118,11 @@ class ConForma : public testing::Test {
     tabla.limpia();
     Abre();
   }
-  void Reconecta() {
-    sesion_.reset();
-    sesion_.emplace(base_);
-  }
   void Abre() { Abre(area_); }
   void Abre(Area& area) {
     forma_ = tabla.abre(area);
     Recoge();
     espia_.Vacia();
-  }
-  void Cierra() {
-    Pulsa(Boton(forma_, "&Cerrar"));
-    forma_ = nullptr;
   }
 
   // The widgets.
@@ -170,15 +159,6 @@ class ConForma : public testing::Test {
     for (const CampoForma& campo : tabla.campos)
       if (campo.pieza != Pieza::Nada && campo.columna != menos) Pon(campo.columna, valores.at(campo.columna));
   }
-  /// Presses a button, answers the boxes that come in order, and gives their texts.
-  Textos Manda(const std::string& boton, const std::vector<Respuesta>& respuestas = {}) {
-    Guion guion;
-    for (const Respuesta respuesta : respuestas) guion.Responde(respuesta);
-    Pulsa(Boton(forma_, boton));
-    cuadros_ = guion.Cuadros();
-    return guion.Mensajes();
-  }
-  Textos Acepta() { return Manda("&Aceptar", {Respuesta::Si}); }
   Textos Busca(const std::string& clave, const std::vector<Respuesta>& respuestas = {}) {
     Manda("&Nuevo");
     Escribe(Texto(ColumnaClave()), clave);
@@ -248,12 +228,6 @@ class ConForma : public testing::Test {
     return base_.Valor("select count(*) from norte." + std::string(tabla.producto.tabla) + " where " +
                        tabla.producto.campos[0].nombre + " = '" + clave + "'") == "1";
   }
-  /// The statements since the last call.
-  Textos Enviado() {
-    const Textos sentencias = espia_.Sentencias();
-    espia_.Vacia();
-    return sentencias;
-  }
   /// What &Aceptar sends to save these columns.
   Textos Guardado(const Enunciado& enunciado, const Valores& valores) const {
     return {"BEGIN;", Sentencia(enunciado, valores), "COMMIT;", "BEGIN;", tabla.carga, "COMMIT;"};
@@ -263,7 +237,6 @@ class ConForma : public testing::Test {
     for (const std::string& campo : enunciado.campos) columnas.push_back(valores.at(campo));
     return Formateado(enunciado.formato, columnas);
   }
-  std::string RenglonActual() { return Lista(forma_)->getItemText(Lista(forma_)->getCurrentItem()).text(); }
 
   // The values.
 
@@ -288,13 +261,6 @@ class ConForma : public testing::Test {
   }
 
   const FormaProducto tabla;
-  BaseDatos base_;
-  std::optional<Sesion> sesion_{base_};
-  Salida salida_;
-  Espia espia_;
-  Area area_;
-  FXWindow* forma_ = nullptr;
-  std::vector<Cuadro> cuadros_;
   std::map<std::string, FXWindow*> piezas_;  // by the column that they feed
 
  private:

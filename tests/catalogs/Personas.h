@@ -8,11 +8,6 @@
 
 namespace pruebas {
 
-inline Textos operator+(Textos a, const Textos& b) {
-  a.insert(a.end(), b.begin(), b.end());
-  return a;
-}
-
 /// The flags of one half of a person.
 template <class Mitad>
 std::string Banderas(const Mitad& m) {

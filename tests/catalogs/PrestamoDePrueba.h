@@ -10,12 +10,7 @@
 
 #include "catalogs/finance/TipoPrestamo_Window.h"
 #include "tests/catalogs/Producto.h"
-#include "tests/support/Espia.h"
-#include "tests/support/Guion.h"
-#include "tests/support/Salida.h"
-#include "tests/support/Servidor.h"
-#include "tests/support/Sesion.h"
-#include "tests/support/Ventana.h"
+#include "tests/support/ConVentana.h"
 
 namespace pruebas {
 
@@ -112,20 +107,15 @@ inline const std::vector<CampoPrestamo>& CamposPrestamo() {
 
 /// The form in an area of its own, connected to the branch norte with its chart, formulas, movements and
 /// purposes in the cache.
-class ConPrestamo : public testing::Test {
+class ConPrestamo : public ConVentana<TipoPrestamo_Window> {
  protected:
   using C = CampoPrestamo;
   using Valores = std::map<std::string, std::string>;  // by column of the record
 
   void SetUp() override {
-    Conecta();
     LlenaCache();
     tipoprestamo.Clear();
     Abre();
-  }
-  void Conecta() {
-    sesion_.reset();
-    sesion_.emplace(base_);
   }
   static void LlenaCache() {
     catalogo.LoadCuentas();
@@ -137,10 +127,6 @@ class ConPrestamo : public testing::Test {
     forma_ = area_.Abre<TipoPrestamo_Window>();
     ASSERT_TRUE(BombeaHasta([&] { return Libro()->getHeight() > 1; }));  // laid out
     espia_.Vacia();
-  }
-  void Cierra() {
-    Pulsa(Boton(forma_, "&Cerrar"));
-    forma_ = nullptr;
   }
 
   /// Runs statements on the table, which asks its writer for a permission.
@@ -203,15 +189,6 @@ class ConPrestamo : public testing::Test {
     for (const C& campo : campos)
       if (campo.vive || campo.tipo == C::Cuenta) Pon(campo, valores.at(campo.columna));
   }
-  /// Presses a button, answers the boxes that come in order, and gives their texts.
-  Textos Manda(const std::string& boton, const std::vector<Respuesta>& respuestas = {}) {
-    Guion guion;
-    for (const Respuesta respuesta : respuestas) guion.Responde(respuesta);
-    Pulsa(Boton(forma_, boton));
-    cuadros_ = guion.Cuadros();
-    return guion.Mensajes();
-  }
-  Textos Acepta() { return Manda("&Aceptar", {Respuesta::Si}); }
   /// The error in which &Aceptar ends ahead of its question.
   std::string Rechazo() {
     const Textos dichos = Manda("&Aceptar", {Respuesta::Aceptar});
@@ -258,12 +235,6 @@ class ConPrestamo : public testing::Test {
     Valores valores;
     for (size_t i = 0; i < producto.campos.size(); ++i) valores[producto.campos[i].nombre] = ficha->Da(i);
     return valores;
-  }
-  /// The statements since the last call.
-  Textos Enviado() {
-    const Textos sentencias = espia_.Sentencias();
-    espia_.Vacia();
-    return sentencias;
   }
   /// What &Aceptar sends to save these columns.
   static Textos Guardado(const std::vector<Enunciado>& enunciados, const Valores& valores) {
@@ -312,13 +283,6 @@ class ConPrestamo : public testing::Test {
   }
 
   const std::vector<C>& campos = CamposPrestamo();
-  BaseDatos base_;
-  std::optional<Sesion> sesion_;
-  Salida salida_;
-  Espia espia_;
-  Area area_;
-  TipoPrestamo_Window* forma_ = nullptr;
-  std::vector<Cuadro> cuadros_;
 
  private:
   static Valores De(std::string pruebas::Campo::*valor, const Valores& propios) {

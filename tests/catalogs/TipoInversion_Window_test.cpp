@@ -203,7 +203,8 @@ TEST_F(TipoInversionVentana, LosMontosSeTrazanTambienCuandoDespuesSeRechazan) {
 
 TEST_F(TipoInversionVentana, LoQueYaNoExisteLoDiceElServidorYSeCorrige) {
   base_.Ejecuta(
-      "insert into norte.tipomovimiento select (jsonb_populate_record(t, '{\"tipomovimientoid\": \"ZZ\"}')).*"
+      "insert into norte.tipomovimiento select (jsonb_populate_record(t, '{\"tipomovimientoid\": \"ZZ\","
+      " \"desctipomovimiento\": \"ZZ\"}')).*"
       " from norte.tipomovimiento t where tipomovimientoid = 'AH'");
   catalogo.LoadTipoMovimiento();
   Cierra();

@@ -521,7 +521,7 @@ TEST_F(TipoPrestamoGuardadoTest, UnaLineaCortadaAlGuardarNoDejaNadaAMediasYSeSig
         for (const std::string& dicho : dichos) EXPECT_NE(dicho, "");
         espia_.Vacia();
 
-        Conecta();
+        Reconecta();
         const bool escrito = n > commit || (despues && n == commit);
         Valores esperado = alta;
         if (cambio && escrito) {

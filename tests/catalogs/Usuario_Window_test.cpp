@@ -43,7 +43,7 @@ Textos SqlPersona(const std::string& id) {
           "SELECT * FROM spsbienes(" + id + ");"};
 }
 
-class UsuarioVentana : public testing::Test {
+class UsuarioVentana : public ConVentana<Usuario_Window> {
  protected:
   UsuarioVentana() {
     usuario.Clear();
@@ -70,8 +70,7 @@ class UsuarioVentana : public testing::Test {
   }
   void Reconecta() {
     espia_.Vacia();
-    sesion_.reset();
-    sesion_.emplace(base_);
+    ConVentana::Reconecta();
     espia_.Vacia();
   }
 
@@ -105,12 +104,8 @@ class UsuarioVentana : public testing::Test {
   // What a user does.
 
   Textos Manda(FXWindow* boton, const std::vector<Respuesta>& respuestas = {}) {
-    Guion guion;
-    for (const Respuesta respuesta : respuestas) guion.Responde(respuesta);
     espia_.Vacia();
-    Pulsa(boton);
-    cuadro_ = guion.Ultimo();
-    return guion.Mensajes();
+    return ConVentana::Manda(boton, respuestas);
   }
   Textos Manda(const std::string& boton, const std::vector<Respuesta>& respuestas = {}) {
     return Manda(Boton(forma_, boton), respuestas);
@@ -233,13 +228,6 @@ class UsuarioVentana : public testing::Test {
                   ") n");
   }
 
-  BaseDatos base_;
-  std::optional<Sesion> sesion_{base_};
-  Espia espia_;
-  Salida salida_;
-  Area area_;
-  Usuario_Window* forma_ = nullptr;
-  Cuadro cuadro_;
   Textos dichos_;
 };
 
@@ -481,6 +469,19 @@ TEST_F(UsuarioVentana, ElegirPideLoDichoYMuestraLoSuyo) {
   Hojea(forma_, Domicilio);
 }
 
+TEST_F(UsuarioVentana, CadaClaveTieneSuLugarEnSuCombo) {
+  Abre();
+  catalogo.LoadCiudadesXEdo(Jalisco);
+  const auto segunda = [](const auto& filas) { return filas.at(1); };
+  EXPECT_EQ(forma_->FindTipoUsuario(segunda(Catalogo::TiposUsuarios).getTipoUsuarioID()), 1);
+  EXPECT_EQ(forma_->FindUsuario(segunda(Catalogo::Usuarios).getUsuarioID()), 2) << "tras Ninguno";
+  EXPECT_EQ(forma_->FindCiudad(segunda(Catalogo::CiudadesMex).getCiudadMexID()), 1);
+  EXPECT_EQ(forma_->FindCuenta(segunda(Catalogo::Catalogo_Ctas).getCuentaID()), 1);
+  for (const int lugar : {forma_->FindTipoUsuario("??"), forma_->FindUsuario("nadie"), forma_->FindCiudad(-1),
+                          forma_->FindCuenta("??")})
+    EXPECT_EQ(lugar, 0);
+}
+
 TEST_F(UsuarioVentana, LaRaizNoEsUnUsuario) {
   Abre();
   Guion guion;
@@ -524,8 +525,8 @@ TEST_F(UsuarioVentana, BuscarSinLoginEnUnoNuevoLoDice) {
   Abre();
   Teclea(Generales, "  Nombre: ", "Ana");
   EXPECT_EQ(Manda("&Buscar", {Respuesta::Aceptar}), Textos{"Registro NO encontrado"});
-  EXPECT_EQ(cuadro_.titulo, "Usuario");
-  EXPECT_EQ(cuadro_.clase, Clase::Informacion);
+  EXPECT_EQ(cuadros_.back().titulo, "Usuario");
+  EXPECT_EQ(cuadros_.back().clase, Clase::Informacion);
   EXPECT_EQ(Lee("  Nombre: "), "");
   EXPECT_TRUE(espia_.Sentencias().empty());
 }
@@ -542,8 +543,8 @@ TEST_F(UsuarioVentana, LoQueFaltaSeDiceEnSuOrden) {
   Abre();
   const auto exige = [&](const char* mensaje) {
     EXPECT_EQ(Manda("&Aceptar", {Respuesta::Aceptar}), Textos{mensaje});
-    EXPECT_EQ(cuadro_.clase, Clase::Error);
-    EXPECT_EQ(cuadro_.titulo, "Error en Validación");
+    EXPECT_EQ(cuadros_.back().clase, Clase::Error);
+    EXPECT_EQ(cuadros_.back().titulo, "Error en Validación");
     EXPECT_TRUE(espia_.Sentencias().empty());
   };
   exige("No ha especificado el usuario");
@@ -579,8 +580,8 @@ TEST_F(UsuarioVentana, UnoNuevoSeGuardaEnteroYSinLosPermisosDeLaRejilla) {
   EXPECT_EQ(Letra(1), "S");
   const Salida salida;
   EXPECT_EQ(Acepta(), (Textos{"Registrar ?", "Transacción exitosa"}));
-  EXPECT_EQ(cuadro_.titulo, "Usuario");
-  EXPECT_EQ(cuadro_.clase, Clase::Informacion);
+  EXPECT_EQ(cuadros_.back().titulo, "Usuario");
+  EXPECT_EQ(cuadros_.back().clase, Clase::Informacion);
   const std::string persona = Persona("lucio");
   const std::string colonia = base_.Valor("select min(coloniaid) from norte.colonias where ciudadmexid = 56");
   const std::string cuenta = Catalogo::Catalogo_Ctas.at(3).getCuentaID();
@@ -745,7 +746,7 @@ TEST_F(UsuarioVentana, BorrarPreguntaYQuitaTodoLoSuyo) {
   EXPECT_THROW(Item("camila"), std::runtime_error);
   Escribe(forma_, "Login:", "camila");
   EXPECT_EQ(Manda("&Borrar", {Respuesta::Aceptar}), Textos{"El usuario no se encontro en la BD"});
-  EXPECT_EQ(cuadro_.clase, Clase::Error);
+  EXPECT_EQ(cuadros_.back().clase, Clase::Error);
 }
 
 TEST_F(UsuarioVentana, UnLoginRepetidoOConApostrofeNoDejaNada) {
@@ -916,8 +917,8 @@ TEST_F(UsuarioVentana, UnCodigoQueNoHayDejaEstadoYMunicipioYNingunaColonia) {
   Elige("braulio");
   Codigo("99999", {Respuesta::Aceptar});
   EXPECT_EQ(dichos_, Textos{"El Codigo Postal capturado no existe, Verifique !!!"});
-  EXPECT_EQ(cuadro_.clase, Clase::Error);
-  EXPECT_EQ(cuadro_.titulo, "Error en Validación");
+  EXPECT_EQ(cuadros_.back().clase, Clase::Error);
+  EXPECT_EQ(cuadros_.back().titulo, "Error en Validación");
   EXPECT_EQ(espia_.Sentencias(), Textos{SqlCodigo(99999)});
   EXPECT_EQ(Colonia()->getNumItems(), 0);
   EXPECT_STREQ(Estado()->getText().text(), "Jalisco");
@@ -1088,7 +1089,7 @@ TEST_F(ConNavegador, SinUsuarioSeNiegan) {
   Escribe(forma_, "Login:", "braulio");  // the record counts, not the field
   for (const char* boton : {"&Promotor", "C&onoce a tu \nEmpleado"}) {
     EXPECT_EQ(Manda(boton, {Respuesta::Aceptar}), Textos{"Debe seleccionar primeramente el usuario."});
-    EXPECT_EQ(cuadro_.titulo, "Error en Validación");
+    EXPECT_EQ(cuadros_.back().titulo, "Error en Validación");
   }
   EXPECT_FALSE(std::filesystem::exists(Visto()));
 }

@@ -129,14 +129,9 @@ FormaActivos FormaActivo() {
   return forma;
 }
 
-Textos operator+(Textos unas, const Textos& otras) {
-  unas.insert(unas.end(), otras.begin(), otras.end());
-  return unas;
-}
-
 Textos EnTransaccion(const std::string& sentencia) { return {"BEGIN;", sentencia, "COMMIT;"}; }
 
-class ConActivos : public testing::Test {
+class ConActivos : public ConVentana<FXDialogBox> {
  protected:
   using Campo_t = pruebas::Campo;
 
@@ -153,10 +148,6 @@ class ConActivos : public testing::Test {
   void Abre(Area& area) {
     forma_ = tabla.abre(area);
     espia_.Vacia();
-  }
-  void Reconecta() {
-    sesion_.reset();
-    sesion_.emplace(base_);
   }
 
   // The widgets.
@@ -215,14 +206,6 @@ class ConActivos : public testing::Test {
     for (const CampoVisto& campo : tabla.campos)
       if (campo.tipo != Tipo::Clave && campo.columna != menos) Pon(campo.columna, valores.at(campo.columna));
   }
-  Textos Manda(const std::string& boton, const std::vector<Respuesta>& respuestas = {}) {
-    Guion guion;
-    for (const Respuesta respuesta : respuestas) guion.Responde(respuesta);
-    Pulsa(Boton(forma_, boton));
-    cuadros_ = guion.Cuadros();
-    return guion.Mensajes();
-  }
-  Textos Acepta() { return Manda("&Aceptar", {Respuesta::Si}); }
   Textos Busca(const std::string& clave, const std::vector<Respuesta>& respuestas = {}) {
     Manda("&Nuevo");
     Escribe(Texto(ColumnaClave()), clave);
@@ -306,11 +289,6 @@ class ConActivos : public testing::Test {
   }
   std::string Ultima() { return Consulta("max(" + ColumnaClave() + ")"); }
   std::string Cuantas() { return Consulta("count(*)"); }
-  Textos Enviado() {
-    const Textos sentencias = espia_.Sentencias();
-    espia_.Vacia();
-    return sentencias;
-  }
   static std::string Formado(const Enunciado& enunciado, const Valores& valores) {
     Textos columnas;
     for (const std::string& campo : enunciado.campos) columnas.push_back(valores.at(campo));
@@ -319,7 +297,6 @@ class ConActivos : public testing::Test {
   Textos Guardado(const Enunciado& enunciado, const Valores& valores) const {
     return EnTransaccion(Formado(enunciado, valores)) + EnTransaccion(tabla.carga);
   }
-  std::string RenglonActual() { return Lista(forma_)->getItemText(Lista(forma_)->getCurrentItem()).text(); }
 
   // The values.
 
@@ -375,13 +352,6 @@ class ConActivos : public testing::Test {
   }
 
   const FormaActivos tabla;
-  BaseDatos base_;
-  std::optional<Sesion> sesion_{base_};
-  Salida salida_;
-  Espia espia_;
-  Area area_;
-  FXDialogBox* forma_ = nullptr;
-  std::vector<Cuadro> cuadros_;
 
  private:
   Valores Tomados(std::string Campo_t::*valor, const std::string& clave) const {

@@ -22,11 +22,6 @@
 namespace pruebas {
 namespace {
 
-Textos operator+(Textos unas, const Textos& otras) {
-  unas.insert(unas.end(), otras.begin(), otras.end());
-  return unas;
-}
-
 enum class Tipo { Texto, Numero, Fecha, Parrafo, Combo };
 
 /// A row of fields as it stands on the screen.
@@ -153,266 +148,283 @@ std::vector<Recuadro> CajasDeUnMes(const char* cifra) {
 }
 
 const Caso casos[] = {
-    {De<Udis_Window, udis>([] {
-       using V = Udis_Window;
-       Mapa<V, &V::onCmdUdis, true>({Mando<V>(V::ID_CALENDARIO, &V::onCmdCalendario)});
-     }),
-     "Catalogo de UDIS",
-     {20, 20, 620, 205},
-     "terminando creacion frm pais",
-     1,
-     true,
-     true,
-     "Udis",
-     150,
-     {{"Identificación", {{"Fecha:", Tipo::Fecha, 10}}},
-      {"Datos", {{"Valor :", Tipo::Numero, 10, DeReal, JUSTIFY_RIGHT}}}},
-     "SELECT * FROM spsudis('1900-01-01');",
-     false,
-     true,
-     "udis",
-     1,
-     {"05/03/2031", "8.25"},
-     {"05/03/2031", "8.25"},
-     "05/03/2031",
-     {"", "9.5"},
-     {"05/03/2031", "9.5"},
-     "05/03/2031",
-     "select spiudis('2031-03-05',8.250000);",
-     "select spuudis('2031-03-05',9.500000);",
-     "SELECT spdudis('2031-03-05');",
-     "SELECT * FROM spsudis('2031-03-05');",
-     nullptr,
-     nullptr,
-     DeUnDia(SinFechaDada, {{"Fecha:", "31/02/2031", NoExisteElDia},
-                            {"Fecha:", "05/00/2031", NoExisteElDia},
-                            {"Fecha:", "05/13/2031", NoExisteElDia},
-                            {"Fecha:", "5/3/2031", ""},     // between its slashes
-                            {"Fecha:", "05/03/20319", ""},  // the fifth figure does not enter
-                            {"Valor :", "-0.01", "El valor no puede ser negativo"},
-                            {"Valor :", "0", ""},
-                            {"Valor :", "", ""},
-                            {"Valor :", "1e30", "Está fuera de rango el valor"},
-                            {"Valor :", "1e308", "Está fuera de rango el valor"},
-                            {"Valor :", "1e999", "inf"},
-                            {"Valor :", "nan", ""}})},
-    {De<Inpc_Window, inpc>([] { Mapa<Inpc_Window, &Inpc_Window::onCmdInpc, true>({}); }),
-     "Catalogo de INPC",
-     {20, 20, 450, 205},
-     "terminando creacion frm pais",
-     1,
-     true,
-     true,
-     "Inpc",
-     170,
-     CajasDeUnMes("Valor :"),
-     "SELECT * FROM spsinpc(0,0);",
-     false,
-     true,
-     "inpc",
-     2,
-     {"2031", "3", "140.25"},
-     {"2031", "3", "140.25"},
-     "2031  3",
-     {"", "", "141"},
-     {"2031", "3", "141"},
-     "2031  3",
-     "select spiinpc(2031,3,140.250000);",
-     "select spuinpc(2031,3,141.000000);",
-     "SELECT spdinpc(2031,3);",
-     "SELECT * FROM spsinpc(2031,3);",
-     nullptr,
-     nullptr,
-     DeUnMes("Valor :", {{"Valor :", "-0.01", "No ha especificado el Inpc"}})},
-    {De<Recargos_Window, recargos>([] { Mapa<Recargos_Window, &Recargos_Window::onCmdRecargos, true>({}); }),
-     "Catalogo de Recargos",
-     {20, 20, 500, 205},
-     "terminando creacion frm pais",
-     1,
-     true,
-     true,
-     "Recargos",
-     170,
-     CajasDeUnMes("Porcentaje :"),
-     "SELECT * FROM spsrecargos(0,0);",
-     false,
-     true,
-     "recargos",
-     2,
-     {"2031", "11", "2.25"},
-     {"2031", "11", "2.25"},
-     "2031 11",
-     {"", "", "1.13"},
-     {"2031", "11", "1.13"},
-     "2031 11",
-     "select spirecargos(2031,11,2.250000);",
-     "select spurecargos(2031,11,1.130000);",
-     "SELECT spdrecargos(2031,11);",
-     "SELECT * FROM spsrecargos(2031,11);",
-     nullptr,
-     nullptr,
-     DeUnMes("Porcentaje :", {{"Porcentaje :", "-0.01", "No ha especificado el Porcentaje"},
-                              {"Porcentaje :", "100", ""},
-                              {"Porcentaje :", "100.01", "Está fuera de rango el porcentaje"}})},
-    {De<Inabil_Window, inabil>([] {
-       using V = Inabil_Window;
-       Mapa<V, &V::onCmdInabil, true>({Mando<V>(V::ID_CALENDARIO, &V::onCmdCalendario)});
-     }),
-     "Dias Inabiles",
-     {20, 20, 460, 205},
-     "terminando creacion frm pais",
-     1,
-     true,
-     true,
-     "Inabil",
-     150,
-     {{"Datos", {{"Fecha:", Tipo::Fecha, 10}}}},
-     "SELECT * FROM inabil;",
-     false,
-     true,
-     "inabil",
-     1,
-     {"05/03/2031"},
-     {"05/03/2031"},
-     "05/03/2031",
-     {"06/03/2031"},
-     {"06/03/2031"},
-     "06/03/2031",
-     "insert into inabil values('2031-03-05');",
-     "update inabil set fecha='2031-03-06' where fecha='2031-03-06;",
-     "delete from inabil where fecha='2031-03-05';",
-     "SELECT * FROM inabil where fecha='2031-03-05';",
-     "'2031-03-06;",
-     nullptr,
-     DeUnDia(nullptr, {{"Fecha:", "31/02/2031", "2031-02-31"},
-                       {"Fecha:", "05/00/2031", "2031-00-05"},
-                       {"Fecha:", "05/13/2031", "2031-13-05"},
-                       {"Fecha:", "05/03/20319", ""},
-                       {"Fecha:", "25/12/2026", "El día 25/12/2026 ya es inhábil"}})},
-    {De<Banco_Window, banco>([] {
-       using V = Banco_Window;
-       Mapa<V, &V::onCmdLista, true>({Mando<V>(V::ID_CUENTA, &V::onCmdCuenta),
-                                      Mando<V>(V::ID_CALENDARIO, &V::onCmdCalendario),
-                                      Mando<V>(V::ID_BUSCAR, &V::onCmdBusqueda)});
-     }),
-     "Catalogo de Bancos",
-     {0, 0, 805, 380},
-     "terminando creacion frm banco",
-     2,
-     true,
-     false,
-     "Banco",
-     215,
-     {{"Identificación", {{"Cuenta:", Tipo::Texto, 15, DeClave}}},
-      {"Datos de la Banco",
-       {{"Banco:", Tipo::Texto, 25},
-        {"Fecha Inic.:", Tipo::Fecha, 10},
-        {"Saldo Inic. :", Tipo::Numero, 20, DeReal, JUSTIFY_RIGHT},
-        {"Saldo Act. :", Tipo::Numero, 20, DeReal, JUSTIFY_RIGHT},
-        {"Saldo Pen. :", Tipo::Numero, 20, DeReal, JUSTIFY_RIGHT},
-        {"Cta. Contable:", Tipo::Combo, 10},
-        {"Serie:", Tipo::Texto, 2},
-        {"No. Cheque", Tipo::Numero, 10, DeEntero, JUSTIFY_RIGHT}}}},
-     "SELECT * FROM spsbanco('  ');",
-     true,
-     true,
-     "banco",
-     1,
-     {"0770012345", "Prueba nueva", "29/02/2024", "1000.25", "-20.5", "3", "1102-01-00-00-0000", "Z",
-      "8123456789"},
-     {"0770012345     ", "Prueba nueva", "29/02/2024", "1000.25", "-20.5", "3", "1102-01-00-00-0000", "Z",
-      "8123456789"},
-     "Prueba nueva",
-     {"", "Otra prueba", "01/03/2024", "0", "999999999999.99", "0.01", "1102-02-00-00-0000", "YY", "0"},
-     {"0770012345     ", "Otra prueba", "01/03/2024", "0", "999999999999.99", "0.01", "1102-02-00-00-0000",
-      "YY", "0"},
-     "Otra prueba",
-     "select spibanco('0770012345     ','Prueba nueva','2024-02-29',1000.250000,-20.500000,3.000000,"
-     "'1102-01-00-00-0000      ','Z',8123456789);",
-     "select spubanco('0770012345     ','Otra prueba','2024-03-01',0.000000,999999999999.989990,0.010000,"
-     "'1102-02-00-00-0000      ','YY',0);",
-     "SELECT spdbanco('0770012345     ');",
-     "SELECT * FROM spsbanco('0770012345     ');",
-     nullptr,
-     nullptr,
-     {{"Cuenta:", "", "No se especifico la cuenta"},
-      {"Banco:", "", "No ha especificado el banco"},
-      {"Serie:", "", "No ha especificado la serie"},
-      {"No. Cheque", "-1", "El número de cheque no puede ser negativo"},
-      {"No. Cheque", "9999999999", ""},
-      {"No. Cheque", "", ""},
-      {"Cta. Contable:", "1000-00-00-00-0000",
-       "La cuenta contable asociada a la cuenta bancaria debe ser afectable"},
-      {"Fecha Inic.:", "", ""},
-      {"Fecha Inic.:", "00/00/0000", ""},
-      {"Fecha Inic.:", "//", ""},
-      {"Fecha Inic.:", "1/1/1", NoExisteElDia},
-      {"Fecha Inic.:", "31/02/2026", NoExisteElDia},
-      {"Fecha Inic.:", "01/13/2026", NoExisteElDia},
-      {"Saldo Inic. :", "-5", ""},
-      {"Saldo Inic. :", "1e30", "Está fuera de rango el saldo inicial"},
-      {"Saldo Act. :", "1e308", "Está fuera de rango el saldo actual"},
-      {"Saldo Pen. :", "1e999", "inf"},
-      {"Saldo Pen. :", "nan", ""},
-      {"Banco:", "O'Hara", "Hara"},
-      {"Banco:", "100% %s %n \\", ""},
-      {"Banco:", "ñññññññññññññññññññññññññññññññ", ""},
-      {"Serie:", "ññ", ""},
-      {"Cuenta:", "O'Hara", "Hara"},
-      {"Cuenta:", "ñññññññññññññññññ", ""}}},
-    {De<TipoPromocion_Window, tipopromocion>([] {
-       using V = TipoPromocion_Window;
-       Mapa<V, &V::onCmdTipoPromocion, false>({Mando<V>(V::ID_MOVIMIENTO, &V::onCmdTipoMovimiento),
-                                               Mando<V>(V::ID_FECHAINICIAL, &V::onCmdCalendario, 2)});
-     }),
-     "Catalogo de Tipos de Promociones",
-     {20, 20, 700, 300},
-     "terminando creacion frm tipopromocion",
-     91,
-     false,
-     false,
-     "Promociones",
-     150,
-     {{"",
-       {{"Identificador:", Tipo::Numero, 4, DeClave | TEXTFIELD_INTEGER, JUSTIFY_RIGHT},
-        {"Tipo de Mov:", Tipo::Combo, 10},
-        {"Descripcion:", Tipo::Texto, 40},
-        {"Fecha Inicio:", Tipo::Fecha, 10},
-        {"Fecha Final:", Tipo::Fecha, 10},
-        {"Condicion:", Tipo::Parrafo, 40},
-        {"Estatus:", Tipo::Combo, 3}}}},
-     "SELECT * FROM spstipopromocion(0);",
-     false,
-     true,
-     "tipopromocion",
-     1,
-     {"", "AH", "Prueba nueva", "05/03/2031", "05/04/2031", "Depositar", "Vigente"},
-     {"8", "AH", "Prueba nueva", "05/03/2031", "05/04/2031", "Depositar", "Vigente"},
-     "Prueba nueva",
-     {"", "VC", "Otra prueba", "06/03/2031", "06/04/2031", "Retirar", "Cancelada"},
-     {"8", "VC", "Otra prueba", "06/03/2031", "06/04/2031", "Retirar", "Cancelada"},
-     "Otra prueba",
-     "SELECT spitipopromocion('AH','2031-03-05','2031-04-05','Depositar',0,'Prueba nueva');",
-     "SELECT sputipopromocion(8,'VC','2031-03-06','2031-04-06','Retirar',2,'Otra prueba');",
-     "SELECT spdtipopromocion(8);",
-     "SELECT * FROM spstipopromocion(8);",
-     nullptr,
-     "No ha especificado el Tipo de movimiento",
-     {{"Fecha Inicio:", "", "No ha especificado la fecha de incio"},
-      {"Fecha Inicio:", "//", "No ha especificado la fecha de incio"},
-      {"Fecha Inicio:", "31/02/2031", NoExisteElDia},
-      {"Fecha Inicio:", "05/13/2031", NoExisteElDia},
-      {"Fecha Final:", "", ""},
-      {"Fecha Final:", "00/00/0000", ""},
-      {"Fecha Final:", "04/03/2031", "La fecha final 04/03/2031 es anterior a la inicial 05/03/2031"},
-      {"Fecha Final:", "31/02/2031", NoExisteElDia},
-      {"Condicion:", "", "No ha especificado la condicion"},
-      {"Condicion:", "O'Hara", "Hara"},
-      {"Condicion:", "100% %s %n \\\nsegundo", ""},
-      {"Descripcion:", "", "No ha especificado la descripcion"},
-      {"Descripcion:", "O'Hara", "Hara"},
-      {"Descripcion:", "1234567890123456789012345678901234567890", ""},
-      {"Descripcion:", "ñññññññññññññññññññññññññññññññ", ""}}},
+    {
+        .modelo = De<Udis_Window, udis>([] {
+          using V = Udis_Window;
+          Mapa<V, &V::onCmdUdis, true>({Mando<V>(V::ID_CALENDARIO, &V::onCmdCalendario)});
+        }),
+        .titulo = "Catalogo de UDIS",
+        .lugar = {20, 20, 620, 205},
+        .traza = "terminando creacion frm pais",
+        .ranura = 1,
+        .conBuscar = true,
+        .trazaErrores = true,
+        .lista = "Udis",
+        .anchoLista = 150,
+        .cajas = {{"Identificación", {{"Fecha:", Tipo::Fecha, 10}}},
+                  {"Datos", {{"Valor :", Tipo::Numero, 10, DeReal, JUSTIFY_RIGHT}}}},
+        .carga = "SELECT * FROM spsudis('1900-01-01');",
+        .enTransaccion = false,
+        .trazaCarga = true,
+        .tabla = "udis",
+        .clave = 1,
+        .alta = {"05/03/2031", "8.25"},
+        .vista = {"05/03/2031", "8.25"},
+        .renglon = "05/03/2031",
+        .cambio = {"", "9.5"},
+        .otraVista = {"05/03/2031", "9.5"},
+        .otroRenglon = "05/03/2031",
+        .sqlAlta = "select spiudis('2031-03-05',8.250000);",
+        .sqlCambio = "select spuudis('2031-03-05',9.500000);",
+        .sqlBorrado = "SELECT spdudis('2031-03-05');",
+        .sqlBusqueda = "SELECT * FROM spsudis('2031-03-05');",
+        .noCambia = nullptr,
+        .sinTocar = nullptr,
+        .limites = DeUnDia(SinFechaDada, {{"Fecha:", "31/02/2031", NoExisteElDia},
+                                          {"Fecha:", "05/00/2031", NoExisteElDia},
+                                          {"Fecha:", "05/13/2031", NoExisteElDia},
+                                          {"Fecha:", "5/3/2031", ""},     // between its slashes
+                                          {"Fecha:", "05/03/20319", ""},  // the fifth figure does not enter
+                                          {"Valor :", "-0.01", "El valor no puede ser negativo"},
+                                          {"Valor :", "0", ""},
+                                          {"Valor :", "", ""},
+                                          {"Valor :", "1e30", "Está fuera de rango el valor"},
+                                          {"Valor :", "1e308", "Está fuera de rango el valor"},
+                                          {"Valor :", "1e999", "inf"},
+                                          {"Valor :", "nan", ""}}),
+    },
+    {
+        .modelo = De<Inpc_Window, inpc>([] { Mapa<Inpc_Window, &Inpc_Window::onCmdInpc, true>({}); }),
+        .titulo = "Catalogo de INPC",
+        .lugar = {20, 20, 450, 205},
+        .traza = "terminando creacion frm pais",
+        .ranura = 1,
+        .conBuscar = true,
+        .trazaErrores = true,
+        .lista = "Inpc",
+        .anchoLista = 170,
+        .cajas = CajasDeUnMes("Valor :"),
+        .carga = "SELECT * FROM spsinpc(0,0);",
+        .enTransaccion = false,
+        .trazaCarga = true,
+        .tabla = "inpc",
+        .clave = 2,
+        .alta = {"2031", "3", "140.25"},
+        .vista = {"2031", "3", "140.25"},
+        .renglon = "2031  3",
+        .cambio = {"", "", "141"},
+        .otraVista = {"2031", "3", "141"},
+        .otroRenglon = "2031  3",
+        .sqlAlta = "select spiinpc(2031,3,140.250000);",
+        .sqlCambio = "select spuinpc(2031,3,141.000000);",
+        .sqlBorrado = "SELECT spdinpc(2031,3);",
+        .sqlBusqueda = "SELECT * FROM spsinpc(2031,3);",
+        .noCambia = nullptr,
+        .sinTocar = nullptr,
+        .limites = DeUnMes("Valor :", {{"Valor :", "-0.01", "No ha especificado el Inpc"}}),
+    },
+    {
+        .modelo = De<Recargos_Window, recargos>(
+            [] { Mapa<Recargos_Window, &Recargos_Window::onCmdRecargos, true>({}); }),
+        .titulo = "Catalogo de Recargos",
+        .lugar = {20, 20, 500, 205},
+        .traza = "terminando creacion frm pais",
+        .ranura = 1,
+        .conBuscar = true,
+        .trazaErrores = true,
+        .lista = "Recargos",
+        .anchoLista = 170,
+        .cajas = CajasDeUnMes("Porcentaje :"),
+        .carga = "SELECT * FROM spsrecargos(0,0);",
+        .enTransaccion = false,
+        .trazaCarga = true,
+        .tabla = "recargos",
+        .clave = 2,
+        .alta = {"2031", "11", "2.25"},
+        .vista = {"2031", "11", "2.25"},
+        .renglon = "2031 11",
+        .cambio = {"", "", "1.13"},
+        .otraVista = {"2031", "11", "1.13"},
+        .otroRenglon = "2031 11",
+        .sqlAlta = "select spirecargos(2031,11,2.250000);",
+        .sqlCambio = "select spurecargos(2031,11,1.130000);",
+        .sqlBorrado = "SELECT spdrecargos(2031,11);",
+        .sqlBusqueda = "SELECT * FROM spsrecargos(2031,11);",
+        .noCambia = nullptr,
+        .sinTocar = nullptr,
+        .limites = DeUnMes("Porcentaje :", {{"Porcentaje :", "-0.01", "No ha especificado el Porcentaje"},
+                                            {"Porcentaje :", "100", ""},
+                                            {"Porcentaje :", "100.01", "Está fuera de rango el porcentaje"}}),
+    },
+    {
+        .modelo = De<Inabil_Window, inabil>([] {
+          using V = Inabil_Window;
+          Mapa<V, &V::onCmdInabil, true>({Mando<V>(V::ID_CALENDARIO, &V::onCmdCalendario)});
+        }),
+        .titulo = "Dias Inabiles",
+        .lugar = {20, 20, 460, 205},
+        .traza = "terminando creacion frm pais",
+        .ranura = 1,
+        .conBuscar = true,
+        .trazaErrores = true,
+        .lista = "Inabil",
+        .anchoLista = 150,
+        .cajas = {{"Datos", {{"Fecha:", Tipo::Fecha, 10}}}},
+        .carga = "SELECT * FROM inabil;",
+        .enTransaccion = false,
+        .trazaCarga = true,
+        .tabla = "inabil",
+        .clave = 1,
+        .alta = {"05/03/2031"},
+        .vista = {"05/03/2031"},
+        .renglon = "05/03/2031",
+        .cambio = {"06/03/2031"},
+        .otraVista = {"06/03/2031"},
+        .otroRenglon = "06/03/2031",
+        .sqlAlta = "insert into inabil values('2031-03-05');",
+        .sqlCambio = "update inabil set fecha='2031-03-06' where fecha='2031-03-06;",
+        .sqlBorrado = "delete from inabil where fecha='2031-03-05';",
+        .sqlBusqueda = "SELECT * FROM inabil where fecha='2031-03-05';",
+        .noCambia = "'2031-03-06;",
+        .sinTocar = nullptr,
+        .limites = DeUnDia(nullptr, {{"Fecha:", "31/02/2031", "2031-02-31"},
+                                     {"Fecha:", "05/00/2031", "2031-00-05"},
+                                     {"Fecha:", "05/13/2031", "2031-13-05"},
+                                     {"Fecha:", "05/03/20319", ""},
+                                     {"Fecha:", "25/12/2026", "El día 25/12/2026 ya es inhábil"}}),
+    },
+    {
+        .modelo = De<Banco_Window, banco>([] {
+          using V = Banco_Window;
+          Mapa<V, &V::onCmdLista, true>({Mando<V>(V::ID_CUENTA, &V::onCmdCuenta),
+                                         Mando<V>(V::ID_CALENDARIO, &V::onCmdCalendario),
+                                         Mando<V>(V::ID_BUSCAR, &V::onCmdBusqueda)});
+        }),
+        .titulo = "Catalogo de Bancos",
+        .lugar = {0, 0, 805, 380},
+        .traza = "terminando creacion frm banco",
+        .ranura = 2,
+        .conBuscar = true,
+        .trazaErrores = false,
+        .lista = "Banco",
+        .anchoLista = 215,
+        .cajas = {{"Identificación", {{"Cuenta:", Tipo::Texto, 15, DeClave}}},
+                  {"Datos de la Banco",
+                   {{"Banco:", Tipo::Texto, 25},
+                    {"Fecha Inic.:", Tipo::Fecha, 10},
+                    {"Saldo Inic. :", Tipo::Numero, 20, DeReal, JUSTIFY_RIGHT},
+                    {"Saldo Act. :", Tipo::Numero, 20, DeReal, JUSTIFY_RIGHT},
+                    {"Saldo Pen. :", Tipo::Numero, 20, DeReal, JUSTIFY_RIGHT},
+                    {"Cta. Contable:", Tipo::Combo, 10},
+                    {"Serie:", Tipo::Texto, 2},
+                    {"No. Cheque", Tipo::Numero, 10, DeEntero, JUSTIFY_RIGHT}}}},
+        .carga = "SELECT * FROM spsbanco('  ');",
+        .enTransaccion = true,
+        .trazaCarga = true,
+        .tabla = "banco",
+        .clave = 1,
+        .alta = {"0770012345", "Prueba nueva", "29/02/2024", "1000.25", "-20.5", "3", "1102-01-00-00-0000",
+                 "Z", "8123456789"},
+        .vista = {"0770012345     ", "Prueba nueva", "29/02/2024", "1000.25", "-20.5", "3",
+                  "1102-01-00-00-0000", "Z", "8123456789"},
+        .renglon = "Prueba nueva",
+        .cambio = {"", "Otra prueba", "01/03/2024", "0", "999999999999.99", "0.01", "1102-02-00-00-0000",
+                   "YY", "0"},
+        .otraVista = {"0770012345     ", "Otra prueba", "01/03/2024", "0", "999999999999.99", "0.01",
+                      "1102-02-00-00-0000", "YY", "0"},
+        .otroRenglon = "Otra prueba",
+        .sqlAlta =
+            "select spibanco('0770012345     ','Prueba nueva','2024-02-29',1000.250000,-20.500000,3.000000,"
+            "'1102-01-00-00-0000      ','Z',8123456789);",
+        .sqlCambio = "select spubanco('0770012345     ','Otra "
+                     "prueba','2024-03-01',0.000000,999999999999.989990,0.010000,"
+                     "'1102-02-00-00-0000      ','YY',0);",
+        .sqlBorrado = "SELECT spdbanco('0770012345     ');",
+        .sqlBusqueda = "SELECT * FROM spsbanco('0770012345     ');",
+        .noCambia = nullptr,
+        .sinTocar = nullptr,
+        .limites = {{"Cuenta:", "", "No se especifico la cuenta"},
+                    {"Banco:", "", "No ha especificado el banco"},
+                    {"Serie:", "", "No ha especificado la serie"},
+                    {"No. Cheque", "-1", "El número de cheque no puede ser negativo"},
+                    {"No. Cheque", "9999999999", ""},
+                    {"No. Cheque", "", ""},
+                    {"Cta. Contable:", "1000-00-00-00-0000",
+                     "La cuenta contable asociada a la cuenta bancaria debe ser afectable"},
+                    {"Fecha Inic.:", "", ""},
+                    {"Fecha Inic.:", "00/00/0000", ""},
+                    {"Fecha Inic.:", "//", ""},
+                    {"Fecha Inic.:", "1/1/1", NoExisteElDia},
+                    {"Fecha Inic.:", "31/02/2026", NoExisteElDia},
+                    {"Fecha Inic.:", "01/13/2026", NoExisteElDia},
+                    {"Saldo Inic. :", "-5", ""},
+                    {"Saldo Inic. :", "1e30", "Está fuera de rango el saldo inicial"},
+                    {"Saldo Act. :", "1e308", "Está fuera de rango el saldo actual"},
+                    {"Saldo Pen. :", "1e999", "inf"},
+                    {"Saldo Pen. :", "nan", ""},
+                    {"Banco:", "O'Hara", "Hara"},
+                    {"Banco:", "100% %s %n \\", ""},
+                    {"Banco:", "ñññññññññññññññññññññññññññññññ", ""},
+                    {"Serie:", "ññ", ""},
+                    {"Cuenta:", "O'Hara", "Hara"},
+                    {"Cuenta:", "ñññññññññññññññññ", ""}},
+    },
+    {
+        .modelo = De<TipoPromocion_Window, tipopromocion>([] {
+          using V = TipoPromocion_Window;
+          Mapa<V, &V::onCmdTipoPromocion, false>({Mando<V>(V::ID_MOVIMIENTO, &V::onCmdTipoMovimiento),
+                                                  Mando<V>(V::ID_FECHAINICIAL, &V::onCmdCalendario, 2)});
+        }),
+        .titulo = "Catalogo de Tipos de Promociones",
+        .lugar = {20, 20, 700, 300},
+        .traza = "terminando creacion frm tipopromocion",
+        .ranura = 91,
+        .conBuscar = false,
+        .trazaErrores = false,
+        .lista = "Promociones",
+        .anchoLista = 150,
+        .cajas = {{"",
+                   {{"Identificador:", Tipo::Numero, 4, DeClave | TEXTFIELD_INTEGER, JUSTIFY_RIGHT},
+                    {"Tipo de Mov:", Tipo::Combo, 10},
+                    {"Descripcion:", Tipo::Texto, 40},
+                    {"Fecha Inicio:", Tipo::Fecha, 10},
+                    {"Fecha Final:", Tipo::Fecha, 10},
+                    {"Condicion:", Tipo::Parrafo, 40},
+                    {"Estatus:", Tipo::Combo, 3}}}},
+        .carga = "SELECT * FROM spstipopromocion(0);",
+        .enTransaccion = false,
+        .trazaCarga = true,
+        .tabla = "tipopromocion",
+        .clave = 1,
+        .alta = {"", "AH", "Prueba nueva", "05/03/2031", "05/04/2031", "Depositar", "Vigente"},
+        .vista = {"8", "AH", "Prueba nueva", "05/03/2031", "05/04/2031", "Depositar", "Vigente"},
+        .renglon = "Prueba nueva",
+        .cambio = {"", "VC", "Otra prueba", "06/03/2031", "06/04/2031", "Retirar", "Cancelada"},
+        .otraVista = {"8", "VC", "Otra prueba", "06/03/2031", "06/04/2031", "Retirar", "Cancelada"},
+        .otroRenglon = "Otra prueba",
+        .sqlAlta = "SELECT spitipopromocion('AH','2031-03-05','2031-04-05','Depositar',0,'Prueba nueva');",
+        .sqlCambio = "SELECT sputipopromocion(8,'VC','2031-03-06','2031-04-06','Retirar',2,'Otra prueba');",
+        .sqlBorrado = "SELECT spdtipopromocion(8);",
+        .sqlBusqueda = "SELECT * FROM spstipopromocion(8);",
+        .noCambia = nullptr,
+        .sinTocar = "No ha especificado el Tipo de movimiento",
+        .limites = {{"Fecha Inicio:", "", "No ha especificado la fecha de incio"},
+                    {"Fecha Inicio:", "//", "No ha especificado la fecha de incio"},
+                    {"Fecha Inicio:", "31/02/2031", NoExisteElDia},
+                    {"Fecha Inicio:", "05/13/2031", NoExisteElDia},
+                    {"Fecha Final:", "", ""},
+                    {"Fecha Final:", "00/00/0000", ""},
+                    {"Fecha Final:", "04/03/2031",
+                     "La fecha final 04/03/2031 es anterior a la inicial 05/03/2031"},
+                    {"Fecha Final:", "31/02/2031", NoExisteElDia},
+                    {"Condicion:", "", "No ha especificado la condicion"},
+                    {"Condicion:", "O'Hara", "Hara"},
+                    {"Condicion:", "100% %s %n \\\nsegundo", ""},
+                    {"Descripcion:", "", "No ha especificado la descripcion"},
+                    {"Descripcion:", "O'Hara", "Hara"},
+                    {"Descripcion:", "1234567890123456789012345678901234567890", ""},
+                    {"Descripcion:", "ñññññññññññññññññññññññññññññññ", ""}},
+    },
 };
 
 class FormaFechada : public ConMandos {
@@ -431,18 +443,14 @@ class FormaFechada : public ConMandos {
     forma_ = caso.modelo.abre(area_);
     espia_.Vacia();
   }
-  void Cierra() {
-    Pulsa(Boton(forma_, "&Cerrar"));
-    forma_ = nullptr;
-  }
-  std::vector<CampoVisto> Campos() const {
+  std::vector<CampoVisto> CamposVistos() const {
     std::vector<CampoVisto> campos;
     for (const Recuadro& caja : caso_->cajas)
       campos.insert(campos.end(), caja.campos.begin(), caja.campos.end());
     return campos;
   }
   size_t Indice(const std::string& etiqueta) const {
-    const auto campos = Campos();
+    const auto campos = CamposVistos();
     for (size_t i = 0; i < campos.size(); ++i)
       if (campos[i].etiqueta == etiqueta) return i;
     throw std::runtime_error(etiqueta);
@@ -452,7 +460,7 @@ class FormaFechada : public ConMandos {
   /// The first word of an item.
   static std::string Palabra(const FXString& renglon) { return renglon.before(' ').text(); }
   void Pon(const char* etiqueta, const std::string& valor) {
-    const Tipo tipo = Campos()[Indice(etiqueta)].tipo;
+    const Tipo tipo = CamposVistos()[Indice(etiqueta)].tipo;
     if (tipo == Tipo::Combo) {
       FXComboBox* const combo = Combo(etiqueta);
       for (FXint i = 0; i < combo->getNumItems(); ++i)
@@ -467,12 +475,13 @@ class FormaFechada : public ConMandos {
   /// Types into the fields in order; "" leaves one alone.
   void Llena(const Textos& valores, const std::string& menos = "") {
     for (size_t i = 0; i < valores.size(); ++i)
-      if (!valores[i].empty() && Campos()[i].etiqueta != menos) Pon(Campos()[i].etiqueta, valores[i]);
+      if (!valores[i].empty() && CamposVistos()[i].etiqueta != menos)
+        Pon(CamposVistos()[i].etiqueta, valores[i]);
   }
   Textos Pantalla() {
     Bombea();
     Textos textos;
-    for (const CampoVisto& campo : Campos()) {
+    for (const CampoVisto& campo : CamposVistos()) {
       if (campo.tipo == Tipo::Combo) {
         const FXComboBox* const combo = Combo(campo.etiqueta);
         const FXint actual = combo->getCurrentItem();
@@ -487,7 +496,7 @@ class FormaFechada : public ConMandos {
   }
   Textos Vacia() const {
     Textos textos;
-    for (const CampoVisto& campo : Campos()) textos.push_back(campo.tipo == Tipo::Numero ? "0" : "");
+    for (const CampoVisto& campo : CamposVistos()) textos.push_back(campo.tipo == Tipo::Numero ? "0" : "");
     return textos;
   }
   /// Presses &Aceptar and yes to all that follows.
@@ -596,7 +605,7 @@ TEST_P(FormasFechadas, TieneSusCajasCamposYBotones) {
 }
 
 TEST_P(FormasFechadas, CadaCampoTieneSuAnchoYSuClase) {
-  for (const CampoVisto& campo : Campos()) {
+  for (const CampoVisto& campo : CamposVistos()) {
     SCOPED_TRACE(campo.etiqueta);
     if (campo.tipo == Tipo::Combo) {
       EXPECT_EQ(Combo(campo.etiqueta)->getComboStyle(), FXuint{COMBOBOX_STATIC});
@@ -624,7 +633,7 @@ TEST_P(FormasFechadas, NadaSeVeCortado) {
   ASSERT_TRUE(BombeaHasta([&] { return Grupo(forma_, caso.lista)->getHeight() > 1; }));  // laid out
   ExigeNadaCortado(forma_);
   EXPECT_EQ(Lista(forma_)->getWidth(), caso.anchoLista);
-  for (const CampoVisto& campo : Campos()) {
+  for (const CampoVisto& campo : CamposVistos()) {
     FXWindow* const pieza = campo.tipo == Tipo::Combo     ? static_cast<FXWindow*>(Combo(campo.etiqueta))
                             : campo.tipo == Tipo::Parrafo ? static_cast<FXWindow*>(Parrafo(campo.etiqueta))
                                                           : CampoJuntoA(forma_, campo.etiqueta);
@@ -718,7 +727,7 @@ TEST_P(FormasFechadas, LoQueNoHayNiSeHallaNiSeBorra) {
     EXPECT_EQ(cuadros_.at(0).titulo, caso.modelo.clase());
     EXPECT_EQ(Enviado(), Textos{caso.sqlBusqueda});
     EXPECT_EQ(Pantalla(), Vacia());
-    if (Campos()[0].tipo != Tipo::Texto) {  // no key: nothing to ask
+    if (CamposVistos()[0].tipo != Tipo::Texto) {  // no key: nothing to ask
       EXPECT_EQ(Manda("&Buscar", {Respuesta::Aceptar}), Textos{"Registro NO encontrado"});
       EXPECT_TRUE(Enviado().empty());
     }
@@ -1038,6 +1047,11 @@ TEST_F(BancoVentana, LaLupaParteDeSuCuentaYDejaLaHallada) {
             "1102-02-00-00-0000      ");
 }
 
+TEST_F(BancoVentana, FindCuentaDiceElLugarEnLaLista) {
+  EXPECT_EQ(Banco_Window::FindCuenta(std::next(Catalogo::Catalogo_Ctas.begin())->second.getCuentaID()), 1);
+  EXPECT_EQ(Banco_Window::FindCuenta("??"), 0);
+}
+
 TEST_F(BancoVentana, UnaCuentaVaciaMuestraLaPrimeraYNoLaToma) {
   espia_.Cuando("spsbanco('  ')", [](PGconn* conexion, const char*) {
     return __real_PQexec(conexion, "select '1', '', 'Banco', null, 0, 0, 0, 'A', 1");
@@ -1131,7 +1145,8 @@ TEST_F(PromocionVentana, LoLargoSeCortaEnUnaLetraEntera) {
 
 TEST_F(PromocionVentana, UnMovimientoBorradoConLaFormaAbiertaLoRechazaElServidor) {
   base_->Ejecuta(
-      "insert into norte.tipomovimiento select (jsonb_populate_record(t, '{\"tipomovimientoid\": \"ZZ\"}')).*"
+      "insert into norte.tipomovimiento select (jsonb_populate_record(t, '{\"tipomovimientoid\": \"ZZ\","
+      " \"desctipomovimiento\": \"ZZ\"}')).*"
       " from norte.tipomovimiento t where tipomovimientoid = 'AH'");
   escrita_ = true;
   catalogo.LoadTipoMovimiento();

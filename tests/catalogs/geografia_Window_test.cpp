@@ -21,7 +21,7 @@ namespace {
 constexpr char LeeEstados[] = "SELECT * FROM spsestadomex(0);";
 constexpr char LeeCiudades[] = "SELECT * FROM spsciudadmex(0) order by nombreciudadmex;";
 
-class GeografiaVentana : public testing::Test {
+class GeografiaVentana : public ConVentana<> {
  protected:
   GeografiaVentana() {
     estadomex.Clear();
@@ -36,11 +36,8 @@ class GeografiaVentana : public testing::Test {
     return forma;
   }
   Textos Manda(const std::string& boton, const std::vector<Respuesta>& respuestas = {}) {
-    Guion guion;
-    for (const Respuesta respuesta : respuestas) guion.Responde(respuesta);
     espia_.Vacia();
-    Pulsa(Boton(forma_, boton));
-    return guion.Mensajes();
+    return ConVentana::Manda(boton, respuestas);
   }
   FXComboBox* Estado() { return JuntoA<FXComboBox>(forma_, "Estado:"); }
   Textos Opciones() {
@@ -53,13 +50,6 @@ class GeografiaVentana : public testing::Test {
     Escribe(forma_, "Nombre:", nombre);
   }
   std::string Cuantos(const std::string& tabla) { return base_.Valor("select count(*) from norte." + tabla); }
-
-  BaseDatos base_;
-  std::optional<Sesion> sesion_{base_};
-  Espia espia_;
-  Salida salida_;
-  Area area_;
-  FXWindow* forma_ = nullptr;
 };
 
 void ExigeCampo(FXWindow* forma, const char* etiqueta, FXint columnas, FXuint estilo) {

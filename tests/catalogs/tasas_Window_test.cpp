@@ -41,7 +41,8 @@ Textos Rotulados(FXWindow* forma) {
 }
 
 /// What the forms of this file share: a session, and a window to press the buttons of.
-class ConTasas : public testing::Test {
+template <class V>
+class ConTasas : public ConVentana<V> {
  protected:
   ConTasas() {
     catalogo.LoadTipoPrestamo();
@@ -54,36 +55,17 @@ class ConTasas : public testing::Test {
   }
   /// Presses a button of `ventana`, answers the boxes that come in order, and gives their texts.
   Textos Manda(FXWindow* ventana, const std::string& boton, const std::vector<Respuesta>& respuestas = {}) {
-    Guion guion;
-    for (const Respuesta respuesta : respuestas) guion.Responde(respuesta);
-    Pulsa(Boton(ventana, boton));
-    cuadros_ = guion.Cuadros();
-    return guion.Mensajes();
+    return Manda(Boton(ventana, boton), respuestas);
   }
-  /// The statements since the last call.
-  Textos Enviado() {
-    const Textos sentencias = espia_.Sentencias();
-    espia_.Vacia();
-    return sentencias;
-  }
-  void Reconecta() {
-    sesion_.reset();
-    sesion_.emplace(base_);
-  }
+  using ConVentana<V>::Manda;
   void QuitaDerecho(const std::string& modulo) {
-    base_.Ejecuta("update norte.permisomodulo set permiso = 'N' where clavemodulo = '" + modulo + "'");
+    this->base_.Ejecuta("update norte.permisomodulo set permiso = 'N' where clavemodulo = '" + modulo + "'");
   }
-
-  BaseDatos base_;
-  std::optional<Sesion> sesion_{base_};
-  Salida salida_;
-  Espia espia_;
-  std::vector<Cuadro> cuadros_;
 };
 
 // The history of rates.
 
-class TasaVentana : public ConTasas {
+class TasaVentana : public ConTasas<Tasa_Window> {
  protected:
   Tasa_Window* Abre() { return historia_ = area_.Abre<Tasa_Window>(); }
   /// The entry forms that are open, in the order in which they were opened.
@@ -133,7 +115,6 @@ class TasaVentana : public ConTasas {
 
   const Textos Blanca = {"", "", "0", "0"};
   const Textos DeUnRegistroEnBlanco = {"01/01/1900", "01/01/1900", "0", "0"};
-  Area area_;
   Tasa_Window* historia_ = nullptr;
 };
 
@@ -456,14 +437,11 @@ TEST_F(TasaVentana, VariasEntradasALaVezNoSeEstorban) {
 
 constexpr const char* Listado = "SELECT * FROM subtipotasa('a','null','null','null');";
 
-class TasaInteresVentana : public ConTasas {
+class TasaInteresVentana : public ConTasas<TasaInteres_Window> {
  protected:
   void Abre() {
     forma_ = area_.Abre<TasaInteres_Window>();
     Enviado();
-  }
-  Textos Manda(const std::string& boton, const std::vector<Respuesta>& respuestas = {}) {
-    return ConTasas::Manda(forma_, boton, respuestas);
   }
   FXText* Parrafo() { return Todos<FXText>(forma_).at(0); }
   std::string Nombre() { return Leido(forma_, "TipoTasaVariable:"); }
@@ -472,12 +450,7 @@ class TasaInteresVentana : public ConTasas {
     Escribe(forma_, "TipoTasaVariable:", nombre);
     Parrafo()->setText(descripcion.c_str());
   }
-  Textos Lista() {
-    Textos renglones;
-    for (FXint i = 0; i < pruebas::Lista(forma_)->getNumItems(); ++i)
-      renglones.push_back(pruebas::Lista(forma_)->getItemText(i).text());
-    return renglones;
-  }
+  Textos Lista() { return Renglones(); }
   /// What a command sends that carries out `sql`, and lists everything anew.
   static Textos Y_Listado(const std::string& sql) {
     return {"BEGIN;", sql, "COMMIT;", "BEGIN;", Listado, "COMMIT;"};
@@ -487,9 +460,6 @@ class TasaInteresVentana : public ConTasas {
         base_.Filas("select descripcion from norte.tipotasa where tipotasa = $n$" + nombre + "$n$");
     return filas.empty() ? "(no está)" : filas[0][0];
   }
-
-  Area area_;
-  TasaInteres_Window* forma_ = nullptr;
 };
 
 TEST_F(TasaInteresVentana, SeAbreConLaListaYLaPrimeraSerie) {
@@ -566,6 +536,18 @@ TEST_F(TasaInteresVentana, SinDescripcionNadaSeHace) {
     EXPECT_EQ(Nombre(), "CCP") << "la forma queda como estaba";
     EXPECT_EQ(flag, fila.nueva);
   }
+}
+
+TEST_F(TasaInteresVentana, LosTresValoresSonTextosQueQuedanAlCerrar) {
+  static_assert(std::is_same_v<decltype(tasa), char*> && std::is_same_v<decltype(des), char*> &&
+                std::is_same_v<decltype(neww), char*>);
+  static_assert(sizeof Buffers == 200 && sizeof sDescripciones == 100);
+  Abre();
+  EligeRenglon(pruebas::Lista(forma_), 1);
+  Llena("QZ", "Serie de prueba");
+  forma_->Update();
+  Cierra();
+  EXPECT_EQ((Textos{tasa, des, neww}), (Textos{"QZ", "Serie de prueba", "CETES"}));
 }
 
 TEST_F(TasaInteresVentana, TrasNuevoAceptarInserta) {
@@ -756,14 +738,11 @@ TEST_F(TasaInteresVentana, CortadaEnCadaSentenciaQuedaEnteraONoQueda) {
 
 constexpr const char* Listados = "SELECT * FROM spstasavariable(0);";
 
-class TipoTasaInteresVentana : public ConTasas {
+class TipoTasaInteresVentana : public ConTasas<TipoTasaInteres_Window> {
  protected:
   void Abre() {
     forma_ = area_.Abre<TipoTasaInteres_Window>();
     Enviado();
-  }
-  Textos Manda(const std::string& boton, const std::vector<Respuesta>& respuestas = {}) {
-    return ConTasas::Manda(forma_, boton, respuestas);
   }
   void Llena(const Textos& valores) {
     size_t i = 0;
@@ -787,15 +766,12 @@ class TipoTasaInteresVentana : public ConTasas {
   void ComoPropietario(const std::string& sql) {
     base_.Ejecuta("set role tolvara_propietario;" + sql + ";reset role");
   }
-  FXString RenglonActual() { return Lista(forma_)->getItemText(Lista(forma_)->getCurrentItem()); }
 
   static constexpr const char* Rotulos[] = {
       "Tipo Tasa:", "Fecha Inicio:", "Fecha Final:", "Valor 1:", "Valor 2:"};
   const Textos Nuevo = {"TIIE", "01/11/2026", "30/11/2026", "1.5", "2.5"};
   const Textos Vacio = {"", "", "", "0", "0"};
   const std::string Alta = "SELECT * FROM spitasavariable('TIIE', '2026-11-01','2026-11-30',0,1073217536);";
-  Area area_;
-  TipoTasaInteres_Window* forma_ = nullptr;
 };
 
 TEST_F(TipoTasaInteresVentana, SeAbreConLaListaYLosCamposEnOrden) {

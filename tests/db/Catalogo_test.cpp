@@ -175,7 +175,9 @@ TEST_F(CatalogoTest, LasMonedasSeCarganEnUnaTransaccionYSinTraza) {
 
 TEST_F(CatalogoTest, CadaFilaQuedaBajoSuNumeroConSusColumnas) {
   catalogo.LoadMonedas();
-  const Tabla filas = base_.Filas("select monedaid, monedadescri, monedavalor from norte.moneda order by 1");
+  const Tabla filas = base_.Filas(
+      "select monedaid, monedadescri, monedavalor from norte.moneda"
+      " order by monedadescri collate \"es-MX-x-icu\"");
   ASSERT_EQ(Catalogo::Monedas.size(), filas.size());
   int numero = 0;
   for (const auto& [clave, moneda] : Catalogo::Monedas) {

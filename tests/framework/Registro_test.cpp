@@ -12,8 +12,6 @@
 namespace pruebas {
 namespace {
 
-using Sql = ::Sentencia;  // not the one of the spy
-
 /// A record with one column of each type and an integer key that the server assigns; it traces everything.
 class cPieza : public Registro<cPieza> {
  public:
@@ -50,10 +48,10 @@ class cPieza : public Registro<cPieza> {
   int Clave() const { return PiezaID; }
   void AlInsertar() { TomaClave(PiezaID); }
 
-  Sql SqlAddNew() const { return Sql("select spipieza('%s');", Nombre); }
-  Sql SqlUpdate() const { return Sql("select spupieza(%i,'%s');", PiezaID, Nombre); }
-  Sql SqlDelete() const { return Sql("SELECT spdpieza(%i);", PiezaID); }
-  Sql SqlFind() const { return Sql("SELECT * FROM spspieza(%i);", PiezaID); }
+  Sentencia SqlAddNew() const { return Sentencia("select spipieza('%s');", Nombre); }
+  Sentencia SqlUpdate() const { return Sentencia("select spupieza(%i,'%s');", PiezaID, Nombre); }
+  Sentencia SqlDelete() const { return Sentencia("SELECT spdpieza(%i);", PiezaID); }
+  Sentencia SqlFind() const { return Sentencia("SELECT * FROM spspieza(%i);", PiezaID); }
 
   char Nombre[9];
   int PiezaID;
@@ -89,8 +87,8 @@ class cDoble : public Registro<cDoble> {
   void AlInsertar() { EjecutaEscritura("select 'segunda del alta'", false); }
   void AlCambiar() { EjecutaEscritura("select 'segunda del cambio'", true); }
 
-  Sql SqlAddNew() const { return Sql("select 'alta'"); }
-  Sql SqlUpdate() const { return Sql("select 'cambio'"); }
+  Sentencia SqlAddNew() const { return Sentencia("select 'alta'"); }
+  Sentencia SqlUpdate() const { return Sentencia("select 'cambio'"); }
 
   char DobleID[4];
   char Letra[2];

@@ -36,6 +36,8 @@ Escritorio::Escritorio()
     throw std::runtime_error("openbox no arranca");
 }
 
+void Escritorio::Activa(FXWindow* ventana) { Mueve({"windowactivate", std::to_string(ventana->id())}); }
+
 size_t Escritorio::Teclea(const Textos& teclas) {
   Textos argumentos = {"key", "--delay", "40"};
   argumentos.insert(argumentos.end(), teclas.begin(), teclas.end());

@@ -15,6 +15,8 @@ class Escritorio {
   Escritorio(const Escritorio&) = delete;
   Escritorio& operator=(const Escritorio&) = delete;
 
+  /// Gives a window the keyboard, as a click on its title does.
+  void Activa(FXWindow* ventana);
   /// Presses keys one after the other, each as xdotool names it ("Tab", "alt+b"), to whatever window has the
   /// keyboard, and lets the program take them. Answers how many they were.
   size_t Teclea(const Textos& teclas);

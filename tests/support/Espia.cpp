@@ -144,13 +144,13 @@ void Espia::Cuando(const std::string& texto, Falla falla) { porTexto_.emplace_ba
 
 Textos Espia::Sentencias() const {
   Textos textos;
-  for (const Sentencia& sentencia : historia_) textos.push_back(sentencia.texto);
+  for (const SentenciaVista& sentencia : historia_) textos.push_back(sentencia.texto);
   return textos;
 }
 
 size_t Espia::Cuantas(const std::string& texto) const {
-  return static_cast<size_t>(std::count_if(historia_.begin(), historia_.end(),
-                                           [&](const Sentencia& s) { return Contiene(s.texto, texto); }));
+  return static_cast<size_t>(std::count_if(
+      historia_.begin(), historia_.end(), [&](const SentenciaVista& s) { return Contiene(s.texto, texto); }));
 }
 
 void Espia::Vacia() {

@@ -51,7 +51,7 @@ Falla CorteDespues();
 }  // namespace falla
 
 /// A statement and what came back: the status of its answer, PGRES_FATAL_ERROR for none.
-struct Sentencia {
+struct SentenciaVista {
   std::string texto;
   ExecStatusType estado;
 };
@@ -72,7 +72,7 @@ class Espia {
   /// The texts of all statements, in order.
   Textos Sentencias() const;
   /// The same with the status of each answer.
-  const std::vector<Sentencia>& Historia() const { return historia_; }
+  const std::vector<SentenciaVista>& Historia() const { return historia_; }
   /// How many statements contain `texto`.
   size_t Cuantas(const std::string& texto) const;
   /// Forgets statements and failures, and counts from 0 again.
@@ -84,7 +84,7 @@ class Espia {
  private:
   Falla Elige(const std::string& sentencia) const;
 
-  std::vector<Sentencia> historia_;
+  std::vector<SentenciaVista> historia_;
   std::vector<std::pair<size_t, Falla>> porNumero_;
   std::vector<std::pair<std::string, Falla>> porTexto_;
 };

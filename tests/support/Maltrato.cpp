@@ -7,6 +7,7 @@
 
 #include "tests/support/Guion.h"
 #include "tests/support/Pantalla.h"
+#include "tests/support/Textos.h"
 #include "tests/support/Ventana.h"
 
 namespace pruebas {
@@ -14,10 +15,8 @@ namespace {
 
 constexpr size_t Desmedida = 260;  // bytes at least: more than any column of these windows holds
 
-std::string Repetida(const std::string& trozo) {
-  std::string texto;
-  while (texto.size() < Desmedida) texto += trozo;
-  return texto;
+std::string Desmedido(const std::string& trozo) {
+  return Repetida(trozo, (Desmedida + trozo.size() - 1) / trozo.size());
 }
 
 /// Everything in the paragraph gives way to `texto`, which comes at once, as an input method delivers it: key
@@ -71,12 +70,12 @@ void EligeEnTodo(FXWindow* ventana, bool primero) {
 }  // namespace
 
 const Textos& TextosDesmedidos() {
-  static const Textos textos = {Repetida("ñ"),
-                                Repetida("'"),
-                                Repetida("%s%n%99999d \\"),
-                                Repetida("9"),
-                                Repetida("x',1);--"),
-                                "-1\n" + Repetida("W€\n"),
+  static const Textos textos = {Desmedido("ñ"),
+                                Desmedido("'"),
+                                Desmedido("%s%n%99999d \\"),
+                                Desmedido("9"),
+                                Desmedido("x',1);--"),
+                                "-1\n" + Desmedido("W€\n"),
                                 ""};
   return textos;
 }

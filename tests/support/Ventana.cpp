@@ -252,7 +252,8 @@ bool BombeaHasta(const std::function<bool()>& condicion, FXuint milisegundos) {
     acabado = cumplida || resto == 0;
     const FXuint paso = std::min(Paso, resto);
     resto -= paso;
-    if (!acabado) reloj.Inicia(paso);
+    // Also at the end: after a timer the toolkit waits for the next, or for an event that may never come.
+    reloj.Inicia(paso);
   });
   reloj.Inicia(0);
   App().runUntil(acabado);

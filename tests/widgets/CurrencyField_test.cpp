@@ -8,7 +8,7 @@
 
 namespace {
 
-TEST(CurrencyField, FormatsWithThousandsCommasAndTwoDecimals) {
+TEST(CurrencyField, EscribeMilesConComasYDosDecimales) {
   const struct {
     double valor;
     const char* texto;
@@ -43,7 +43,7 @@ TEST(CurrencyField, FormatsWithThousandsCommasAndTwoDecimals) {
 }
 
 // 0.125 and 2.5 cents are exact in binary, so these are true halves.
-TEST(CurrencyField, RoundsHalvesTowardsPositiveInfinity) {
+TEST(CurrencyField, RedondeaLasMitadesHaciaArriba) {
   EXPECT_STREQ(CurrencyField(0.125).get().text(), "0.13");
   EXPECT_STREQ(CurrencyField(-0.125).get().text(), "-0.12");
   EXPECT_STREQ(CurrencyField(0.375).get().text(), "0.38");
@@ -51,12 +51,12 @@ TEST(CurrencyField, RoundsHalvesTowardsPositiveInfinity) {
   EXPECT_STREQ(CurrencyField(-0.004).get().text(), "0.00");
 }
 
-TEST(CurrencyField, GroupsTheRoundedText) {
+TEST(CurrencyField, AgrupaElTextoYaRedondeado) {
   const std::string texto = CurrencyField(999.995).get().text();
   EXPECT_TRUE(texto == "999.99" || texto == "1,000.00") << texto;
 }
 
-TEST(CurrencyField, ReadsNumbersWithAndWithoutCommas) {
+TEST(CurrencyField, LeeNumerosConComasYSinEllas) {
   const struct {
     const char* texto;
     double valor;
@@ -76,7 +76,7 @@ TEST(CurrencyField, ReadsNumbersWithAndWithoutCommas) {
   }
 }
 
-TEST(CurrencyField, SetReplacesTheValueAndLeavesTheTextAlone) {
+TEST(CurrencyField, PonerCambiaElValorYDejaElTexto) {
   const FXString texto = "2,500.75";
   CurrencyField campo(7.0);
   EXPECT_EQ(campo.asDouble(), 7.0);
@@ -85,13 +85,13 @@ TEST(CurrencyField, SetReplacesTheValueAndLeavesTheTextAlone) {
   EXPECT_STREQ(texto.text(), "2,500.75");
 }
 
-TEST(CurrencyField, ItsOwnTextReadsBackToTheSameAmount) {
+TEST(CurrencyField, SuTextoSeLeeComoElMismoMonto) {
   for (const double valor : {0.0, 0.01, -0.99, 1000.0, -98765.43, 1e9 + 0.25, 123456789012.5}) {
     EXPECT_EQ(CurrencyField(CurrencyField(valor).get()).asDouble(), valor);
   }
 }
 
-TEST(CurrencyField, AmountsOfAnySizeAreFormatted) {
+TEST(CurrencyField, SeEscribenMontosDeCualquierTamano) {
   const FXString grande = CurrencyField(1e300).get();
   EXPECT_EQ(grande.length(), 301 + 100 + 3) << grande.text();
   EXPECT_STREQ(grande.left(6).text(), "1,000,");
@@ -100,7 +100,7 @@ TEST(CurrencyField, AmountsOfAnySizeAreFormatted) {
 }
 
 // No comma is put into the words that the C library prints for them.
-TEST(CurrencyField, WhatIsNoNumberStaysAWord) {
+TEST(CurrencyField, LoQueNoEsNumeroQuedaComoPalabra) {
   EXPECT_STREQ(CurrencyField(HUGE_VAL).get().text(), "inf");
   EXPECT_STREQ(CurrencyField(-HUGE_VAL).get().text(), "-inf");
   EXPECT_STREQ(CurrencyField(std::numeric_limits<double>::max()).get().text(), "inf");

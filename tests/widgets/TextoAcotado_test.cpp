@@ -34,7 +34,7 @@ const struct {
     {"\xFF\xFF\xFF\xFF\xFF\xFF", "\xFF\xFF\xFF\xFF\xFF"},
 };
 
-TEST(TextoAcotado, CopyIsCutAtAWholeCharacterAndTerminated) {
+TEST(TextoAcotado, LaCopiaSeCortaEnUnaLetraEnteraYTermina) {
   for (const auto& c : kCortes) {
     SCOPED_TRACE(c.fuente);
     Registro registro;
@@ -44,7 +44,7 @@ TEST(TextoAcotado, CopyIsCutAtAWholeCharacterAndTerminated) {
   }
 }
 
-TEST(TextoAcotado, FormatIsCutAtAWholeCharacterAndTerminated) {
+TEST(TextoAcotado, ElFormatoSeCortaEnUnaLetraEnteraYTermina) {
   for (const auto& c : kCortes) {
     SCOPED_TRACE(c.fuente);
     Registro registro;
@@ -54,19 +54,19 @@ TEST(TextoAcotado, FormatIsCutAtAWholeCharacterAndTerminated) {
   }
 }
 
-TEST(TextoAcotado, CopyOfNullIsEmpty) {
+TEST(TextoAcotado, LaCopiaDeNadaEstaVacia) {
   Registro registro;
   CopiaTexto(registro.columna, nullptr);
   EXPECT_STREQ(registro.columna, "");
 }
 
-TEST(TextoAcotado, CopyOfATextThatFitsIsExactEvenIfItIsNoUtf8) {
+TEST(TextoAcotado, LoQueCabeSeCopiaExactoAunqueNoSeaUtf8) {
   char columna[6];
   CopiaTexto(columna, "Jos\xE9");
   EXPECT_STREQ(columna, "Jos\xE9");
 }
 
-TEST(TextoAcotado, CopyMayOverlapItsSource) {
+TEST(TextoAcotado, LaCopiaPuedeEncimarseConSuOrigen) {
   char columna[6] = "abcde";
   CopiaTexto(columna, columna);
   EXPECT_STREQ(columna, "abcde");
@@ -74,7 +74,7 @@ TEST(TextoAcotado, CopyMayOverlapItsSource) {
   EXPECT_STREQ(columna, "cde");
 }
 
-TEST(TextoAcotado, ColumnOfOneByteHoldsTheEmptyText) {
+TEST(TextoAcotado, UnaColumnaDeUnByteTieneElTextoVacio) {
   char columna[1] = {'x'};
   CopiaTexto(columna, "ñ");
   EXPECT_STREQ(columna, "");
@@ -82,7 +82,7 @@ TEST(TextoAcotado, ColumnOfOneByteHoldsTheEmptyText) {
   EXPECT_STREQ(columna, "");
 }
 
-TEST(TextoAcotado, PrecisionThatSplitsACharacterDropsIt) {
+TEST(TextoAcotado, LaPrecisionQueParteUnaLetraLaQuita) {
   char columna[31];
   FormateaTexto(columna, "%.4s", "abcé");
   EXPECT_STREQ(columna, "abc");
@@ -92,7 +92,7 @@ TEST(TextoAcotado, PrecisionThatSplitsACharacterDropsIt) {
   EXPECT_STREQ(columna, "ab");
 }
 
-TEST(TextoAcotado, FormatPadsAndTakesAllArguments) {
+TEST(TextoAcotado, ElFormatoRellenaYTomaTodosLosArgumentos) {
   char columna[16];
   FormateaTexto(columna, "%-5s|%03d|%.2f", "ab", 7, 1.5);
   EXPECT_STREQ(columna, "ab   |007|1.50");
@@ -100,7 +100,7 @@ TEST(TextoAcotado, FormatPadsAndTakesAllArguments) {
   EXPECT_EQ(columna, std::string(15, 'x'));
 }
 
-TEST(TextoAcotado, LargoUtf8EndsAtAWholeCharacter) {
+TEST(TextoAcotado, LargoUtf8TerminaEnUnaLetraEntera) {
   const struct {
     const char* texto;
     size_t max, espera;

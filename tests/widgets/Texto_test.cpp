@@ -13,18 +13,18 @@ std::string Contenido(const Texto& texto) {
   return copia;
 }
 
-TEST(Texto, OwnsACopyOfItsSource) {
+TEST(Texto, TieneSuCopiaDelOrigen) {
   char fuente[] = "hola";
   const Texto texto(fuente);
   fuente[0] = 'H';
   EXPECT_EQ(Contenido(texto), "hola");
 }
 
-TEST(Texto, RoomIsMadeForALengthAndHoldsAnEmptyText) {
+TEST(Texto, ConUnLargoHaceLugarYEstaVacio) {
   for (const int n : {0, 10, -1}) EXPECT_EQ(Contenido(Texto(n)), "") << n;
 }
 
-TEST(Texto, CopiesAreDeep) {
+TEST(Texto, LasCopiasSonEnteras) {
   Texto original("uno");
   const Texto copia(original);
   original.setTexto("dos");
@@ -32,7 +32,7 @@ TEST(Texto, CopiesAreDeep) {
   EXPECT_EQ(Contenido(original), "dos");
 }
 
-TEST(Texto, SetTextoReplacesTheTextAndReturnsTheNewArray) {
+TEST(Texto, SetTextoCambiaElTextoYDaElArregloNuevo) {
   Texto texto;
   char* nuevo = texto.setTexto("primero");
   EXPECT_STREQ(nuevo, "primero");
@@ -41,13 +41,13 @@ TEST(Texto, SetTextoReplacesTheTextAndReturnsTheNewArray) {
   EXPECT_STREQ(texto.setTexto("un texto mas largo"), "un texto mas largo");
 }
 
-TEST(Texto, SetTextoTakesAPieceOfItsOwnText) {
+TEST(Texto, SetTextoTomaUnPedazoDeSuPropioTexto) {
   Texto texto;
   const char* propio = texto.setTexto("primero");
   EXPECT_STREQ(texto.setTexto(propio + 3), "mero");
 }
 
-TEST(Texto, NullIsReadAsAnEmptyText) {
+TEST(Texto, NadaSeLeeComoTextoVacio) {
   const Texto nulo;
   EXPECT_EQ(Contenido(nulo), "");
   EXPECT_EQ(Contenido(Texto(nulo)), "");
@@ -57,7 +57,7 @@ TEST(Texto, NullIsReadAsAnEmptyText) {
   EXPECT_EQ(Contenido(texto), "");
 }
 
-TEST(Texto, CannotBeAssigned) {
+TEST(Texto, NoSePuedeAsignar) {
   EXPECT_FALSE(std::is_copy_assignable<Texto>::value);
   EXPECT_FALSE(std::is_move_assignable<Texto>::value);
 }

@@ -9,6 +9,7 @@
 
 #include "tests/support/Guion.h"
 #include "tests/support/Pantalla.h"
+#include "tests/support/Textos.h"
 
 namespace pruebas {
 namespace {
@@ -47,12 +48,6 @@ Textos EnLineas(const std::string& texto) {
 
 std::string SinSaltos(std::string texto) {
   texto.erase(std::remove(texto.begin(), texto.end(), '\n'), texto.end());
-  return texto;
-}
-
-std::string Repetida(const std::string& letra, size_t veces) {
-  std::string texto;
-  while (veces-- > 0) texto += letra;
   return texto;
 }
 

@@ -18,13 +18,13 @@ std::string Partes(const date& d) {
 
 const date kInvalida(31, 2, 2006);
 
-TEST(Date, DefaultIsTheFirstDayOf1900WithBothTexts) {
+TEST(Date, RecienHechaEsElPrimeroDe1900ConSusDosTextos) {
   EXPECT_EQ(Partes(date()), "1/1/1900");
   EXPECT_STREQ(date().AsChar(), "1900-01-01");
   EXPECT_STREQ(date().AsDMY(), "01/01/1900");
 }
 
-TEST(Date, ThreeIntegersAreStoredAsGivenButForTwoDigitYears) {
+TEST(Date, TresEnterosQuedanComoSonMenosElAnioDeDosCifras) {
   const struct {
     int dia, mes, anio;
     const char *servidor, *pantalla;
@@ -45,7 +45,7 @@ TEST(Date, ThreeIntegersAreStoredAsGivenButForTwoDigitYears) {
   }
 }
 
-TEST(Date, IntegerIsReadAsYearMonthDay) {
+TEST(Date, UnEnteroSeLeeComoAnioMesYDia) {
   const struct {
     long entero;
     const char *partes, *servidor;
@@ -62,7 +62,7 @@ TEST(Date, IntegerIsReadAsYearMonthDay) {
   }
 }
 
-TEST(Date, TextIsToldApartByItsFifthCharacter) {
+TEST(Date, ElTextoSeDistinguePorSuQuintaLetra) {
   const struct {
     const char *texto, *partes, *servidor, *pantalla;
   } casos[] = {
@@ -96,9 +96,9 @@ TEST(Date, TextIsToldApartByItsFifthCharacter) {
   }
 }
 
-TEST(Date, BothTextFormsGiveEqualDates) { EXPECT_EQ(date("2006-03-15"), date("15/03/2006")); }
+TEST(Date, LosDosTextosDanLaMismaFecha) { EXPECT_EQ(date("2006-03-15"), date("15/03/2006")); }
 
-TEST(Date, TextOfAnyLengthIsReadWithinItsBounds) {
+TEST(Date, UnTextoDeCualquierLargoSeLeeSinSalirse) {
   // An exact-size copy on the heap, so that the address sanitizer sees a read past the end.
   const std::string largo = "2006-03-15" + std::string(100, '9');
   for (size_t n = 0; n <= largo.size(); ++n) {
@@ -109,7 +109,7 @@ TEST(Date, TextOfAnyLengthIsReadWithinItsBounds) {
   }
 }
 
-TEST(Date, SettersLeaveTheTextsStaleUntilAssigned) {
+TEST(Date, PonerUnNumeroDejaLosTextosHastaQueSeAsigna) {
   date d(15, 3, 2006);
   d.set_year(1999);
   d.set_month(12);
@@ -128,7 +128,7 @@ TEST(Date, SettersLeaveTheTextsStaleUntilAssigned) {
   EXPECT_STREQ(asignada.AsDMY(), "31/12/1999");
 }
 
-TEST(Date, ValidKnowsTheCalendar) {
+TEST(Date, ValidConoceElCalendario) {
   const struct {
     int dia, mes, anio;
     bool valida;
@@ -154,7 +154,7 @@ TEST(Date, ValidKnowsTheCalendar) {
   EXPECT_FALSE(negativa.valid());
 }
 
-TEST(Date, ComparisonsFollowYearMonthDayAndInvalidIsGreaterThanAll) {
+TEST(Date, SeComparanPorAnioMesYDiaYLaInvalidaEsLaMayor) {
   struct Respuestas {
     bool igual, distinta, menor, mayor, menorIgual, mayorIgual;
   };
@@ -190,7 +190,7 @@ TEST(Date, ComparisonsFollowYearMonthDayAndInvalidIsGreaterThanAll) {
   }
 }
 
-TEST(Date, NextAndPreviousCrossMonthsAndYears) {
+TEST(Date, LaSiguienteYLaAnteriorCruzanMesesYAnios) {
   const struct {
     date ayer, hoy;
   } casos[] = {
@@ -205,12 +205,12 @@ TEST(Date, NextAndPreviousCrossMonthsAndYears) {
   }
 }
 
-TEST(Date, StepsReadYearsOfTwoDigitsAsTheConstructorDoes) {
+TEST(Date, LosPasosLeenElAnioDeDosCifrasComoElConstructor) {
   EXPECT_EQ(next_date(date("0005-01-01")), date(2, 1, 2005));
   EXPECT_EQ(previous_date(date("0000-01-01")), date(31, 12, 1999));
 }
 
-TEST(Date, ArithmeticOnAnInvalidDateGivesTheDefaultDate) {
+TEST(Date, LaCuentaConUnaInvalidaDaLaRecienHecha) {
   EXPECT_EQ(next_date(kInvalida), date());
   EXPECT_EQ(previous_date(kInvalida), date());
   for (const int n : {0, 3, -3}) {
@@ -219,7 +219,7 @@ TEST(Date, ArithmeticOnAnInvalidDateGivesTheDefaultDate) {
   }
 }
 
-TEST(Date, WalksEveryDayOfFourCenturiesBothWays) {
+TEST(Date, RecorreCadaDiaDeCuatroSiglosDeIdaYVuelta) {
   time_t segundos = -5364662400;  // 1 January 1800
   date dia(1, 1, 1800);
   date ayer(31, 12, 1799);
@@ -233,7 +233,7 @@ TEST(Date, WalksEveryDayOfFourCenturiesBothWays) {
   }
 }
 
-TEST(Date, PlusAndMinusWalkDaysInBothDirections) {
+TEST(Date, MasYMenosCaminanDiasEnLosDosSentidos) {
   const date d(28, 2, 2004);
   EXPECT_EQ(d + 0, d);
   EXPECT_EQ(d - 0, d);
@@ -244,7 +244,7 @@ TEST(Date, PlusAndMinusWalkDaysInBothDirections) {
   EXPECT_EQ(d + 366, date(28, 2, 2005));
 }
 
-TEST(Date, PlusAssignChangesTheDateAndMinusAssignDoesNot) {
+TEST(Date, SumarCambiaLaFechaYRestarNo) {
   date d(10, 3, 2006);
   EXPECT_EQ(d += 5, date(15, 3, 2006));
   EXPECT_EQ(d, date(15, 3, 2006));
@@ -254,7 +254,7 @@ TEST(Date, PlusAssignChangesTheDateAndMinusAssignDoesNot) {
   EXPECT_EQ(d, date(15, 3, 2006));
 }
 
-TEST(Date, IncrementAndDecrementStepOneDay) {
+TEST(Date, IncrementoYDecrementoDanUnPaso) {
   date d(31, 12, 2005);
   EXPECT_EQ(++d, date(1, 1, 2006));
   EXPECT_EQ(d++, date(1, 1, 2006));
@@ -265,7 +265,7 @@ TEST(Date, IncrementAndDecrementStepOneDay) {
   EXPECT_STREQ(d.AsChar(), "2005-12-31");
 }
 
-TEST(Date, AddMonthsKeepsTheDayOrTakesTheLastOfTheMonth) {
+TEST(Date, SumarMesesConservaElDiaOTomaElUltimo) {
   const struct {
     date desde;
     int meses;
@@ -292,7 +292,7 @@ TEST(Date, AddMonthsKeepsTheDayOrTakesTheLastOfTheMonth) {
   EXPECT_FALSE(add_months(date(29, 2, 2004), 12).valid());
 }
 
-TEST(Date, AddMonthsOfWholeYearsLeavesTheOldTextsUntilAssigned) {
+TEST(Date, SumarAniosEnterosDejaLosTextosHastaQueSeAsigna) {
   const date resultado = add_months(date(15, 3, 2005), 12);
   EXPECT_EQ(resultado.year(), 2006);
   EXPECT_STREQ(resultado.AsChar(), "2005-03-15");
@@ -302,12 +302,12 @@ TEST(Date, AddMonthsOfWholeYearsLeavesTheOldTextsUntilAssigned) {
   EXPECT_STREQ(asignada.AsChar(), "2006-03-15");
 }
 
-TEST(Date, AddMonthsOfPartYearsFormatsTheTexts) {
+TEST(Date, SumarMesesSueltosEscribeLosTextos) {
   EXPECT_STREQ(add_months(date(31, 1, 2005), 13).AsChar(), "2006-02-28");
   EXPECT_STREQ(add_months(date(15, 1, 2005), -1).AsDMY(), "15/12/2004");
 }
 
-TEST(Date, AddMonthsWithoutAnyFittingDayReportsAndReturnsTheDate) {
+TEST(Date, SinDiaQueQuepaLoDiceYDaLaMismaFecha) {
   const date d(15, 3, 2005);
   const int aAnioNegativo = -12 * 6000 - 1;
   testing::internal::CaptureStderr();
@@ -316,9 +316,9 @@ TEST(Date, AddMonthsWithoutAnyFittingDayReportsAndReturnsTheDate) {
   EXPECT_EQ(resultado, d);
 }
 
-TEST(Date, NextMonthIsOneMonthLater) { EXPECT_EQ(next_month(date(31, 1, 2005)), date(28, 2, 2005)); }
+TEST(Date, ElMesSiguienteEsUnMesDespues) { EXPECT_EQ(next_month(date(31, 1, 2005)), date(28, 2, 2005)); }
 
-TEST(Date, DifDatesCountsTheDaysToALaterDate) {
+TEST(Date, DifDatesCuentaLosDiasHastaUnaPosterior) {
   const date d(28, 2, 2004);
   EXPECT_EQ(dif_dates(d, d), 0);
   EXPECT_EQ(dif_dates(d, date(1, 3, 2004)), 2);
@@ -328,13 +328,13 @@ TEST(Date, DifDatesCountsTheDaysToALaterDate) {
   EXPECT_EQ(dif_dates(d, kInvalida), 0);
 }
 
-TEST(Date, IntDateIsYearMonthDayOrMinusOne) {
+TEST(Date, IntDateEsAnioMesYDiaOMenosUno) {
   EXPECT_EQ(int_date(date(15, 3, 2006)), 20060315);
   EXPECT_EQ(int_date(kInvalida), -1);
   EXPECT_EQ(int_date(date(15, 3, INT_MAX)), INT_MAX * 10000L + 315);
 }
 
-TEST(Date, PrintsItsIntegerBetweenBlanks) {
+TEST(Date, SeEscribeComoEnteroEntreBlancos) {
   std::ostringstream salida;
   salida << date(15, 3, 2006) << date("");
   EXPECT_EQ(salida.str(), " 20060315  invalid date ");
@@ -363,7 +363,7 @@ date HoyEn(const char* zona) {
   return today();
 }
 
-TEST(Date, TodayIsTheLocalDate) {
+TEST(Date, HoyEsLaFechaLocal) {
   const auto enUtc = [] {
     const time_t ahora = time(nullptr);
     tm partes;
@@ -377,7 +377,7 @@ TEST(Date, TodayIsTheLocalDate) {
   EXPECT_LT(HoyEn("OESTE+12"), HoyEn("ESTE-14")) << "26 hours apart it is never the same day";
 }
 
-TEST(Date, AbsurdIntegersStayWithinTheirTextsAndDefined) {
+TEST(Date, LosEnterosAbsurdosNoSeSalenDeSusTextos) {
   const date ultima(31, 12, INT_MAX);
   EXPECT_STREQ(ultima.AsChar(), "2147483647-");
   EXPECT_STREQ(ultima.AsDMY(), "31/12/21474");

@@ -25,7 +25,7 @@ tm CalendarioDe(std::uint32_t juliano) {
   return partes;
 }
 
-TEST(JDate, AgreesWithAnIndependentCalendarFrom1600To2400) {
+TEST(JDate, CoincideConOtroCalendarioDe1600A2400) {
   int diasDelMes = 0;
   for (std::uint32_t juliano = k1Enero1600; juliano <= k31Diciembre2400; ++juliano) {
     const tm esperado = CalendarioDe(juliano);
@@ -51,14 +51,14 @@ TEST(JDate, AgreesWithAnIndependentCalendarFrom1600To2400) {
   }
 }
 
-TEST(JDate, KnownDaysHaveTheirJulianNumbers) {
+TEST(JDate, LosDiasConocidosTienenSuNumeroJuliano) {
   EXPECT_EQ(jDate::greg2jul(1600, 1, 1), k1Enero1600);
   EXPECT_EQ(jDate::greg2jul(1970, 1, 1), kJulianoDe1970);
   EXPECT_EQ(jDate::greg2jul(2000, 1, 1), 2451545U);
   EXPECT_EQ(jDate::greg2jul(2400, 12, 31), k31Diciembre2400);
 }
 
-TEST(JDate, MonthsAndDaysOutOfRangeRunOn) {
+TEST(JDate, MesesYDiasDeMasSiguenDeLargo) {
   const struct {
     int anio, mes, dia;
     const char* partes;
@@ -74,21 +74,21 @@ TEST(JDate, MonthsAndDaysOutOfRangeRunOn) {
   }
 }
 
-TEST(JDate, YearsOfTwoDigitsLieInTheLastCentury) {
+TEST(JDate, LosAniosDeDosCifrasSonDelSigloPasado) {
   EXPECT_EQ(Partes(jDate(24, 1, 1)), "1924-1-1");
   EXPECT_EQ(Partes(jDate(99, 12, 31)), "1999-12-31");
   EXPECT_EQ(Partes(jDate(0, 3, 1)), "1900-3-1");
   EXPECT_EQ(Partes(jDate(100, 1, 1)), "100-1-1");
 }
 
-TEST(JDate, WeekStartsOnMondayUnlikeTheTableOfNames) {
+TEST(JDate, LaSemanaEmpiezaEnLunesYLaTablaDeNombresNo) {
   EXPECT_EQ(jDate(2000, 1, 1).dayOfWeek(), 5) << "a Saturday";
   EXPECT_EQ(jDate(2000, 1, 2).dayOfWeek(), 6) << "a Sunday";
   EXPECT_EQ(jDate(2000, 1, 3).dayOfWeek(), 0) << "a Monday";
   EXPECT_STREQ(jDate::dayNames[0], "Dom");
 }
 
-TEST(JDate, NamesAreSpanish) {
+TEST(JDate, LosNombresSonEspanoles) {
   const char* const meses[] = {"Enero", "Febrero", "Marzo",      "Abril",   "Mayo",      "Junio",
                                "Julio", "Agosto",  "Septiembre", "Octubre", "Noviembre", "Diciembre"};
   for (int i = 1; i <= 12; ++i) EXPECT_STREQ(jDate::monthName(i), meses[i - 1]);
@@ -96,17 +96,17 @@ TEST(JDate, NamesAreSpanish) {
   for (int i = 0; i <= 6; ++i) EXPECT_STREQ(jDate::dayName(i), dias[i]);
 }
 
-TEST(JDate, NamesOutOfRangeAreEmpty) {
+TEST(JDate, LosNombresDeMasEstanVacios) {
   for (const int i : {INT_MIN, 0, 13, INT_MAX}) EXPECT_STREQ(jDate::monthName(i), "") << i;
   for (const int i : {INT_MIN, -1, 7, INT_MAX}) EXPECT_STREQ(jDate::dayName(i), "") << i;
 }
 
-TEST(JDate, MonthDaysAreThoseOfACommonYear) {
+TEST(JDate, LosDiasDelMesSonLosDeUnAnioComun) {
   const short dias[] = {0, 31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
   for (int mes = 0; mes <= 12; ++mes) EXPECT_EQ(jDate::monthDays[mes], dias[mes]) << mes;
 }
 
-TEST(JDate, SetDateAndTodayAnswerTrue) {
+TEST(JDate, PonerFechaYHoyDicenQueSi) {
   jDate d(1990, 5, 5);
   EXPECT_TRUE(d.setDate(2006, 3, 15));
   EXPECT_EQ(Partes(d), "2006-3-15");
@@ -127,7 +127,7 @@ TEST(JDate, SetDateAndTodayAnswerTrue) {
   }
 }
 
-TEST(JDate, AbsurdIntegersStillNameAMonthAndADay) {
+TEST(JDate, LosEnterosAbsurdosTambienNombranMesYDia) {
   const int extremos[] = {INT_MIN, -1, 0, INT_MAX};
   for (const int anio : extremos) {
     for (const int mes : extremos) {

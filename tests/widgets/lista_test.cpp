@@ -67,7 +67,7 @@ struct Modelo {
   }
 };
 
-TEST(Lista, IsBornEmpty) {
+TEST(Lista, NaceVacia) {
   lista<Fila> filas;
   EXPECT_TRUE(filas.ListaVacia());
   EXPECT_EQ(filas.NumElementos(), 0);
@@ -77,7 +77,7 @@ TEST(Lista, IsBornEmpty) {
   EXPECT_TRUE(Contenido(filas).empty());
 }
 
-TEST(Lista, ElementInsertedIntoAnEmptyListIsItsFirst) {
+TEST(Lista, ElPrimeroQueSeInsertaEsElPrimero) {
   lista<Fila> filas;
   filas.Insertar({7, 1});
   filas.Primero();
@@ -86,12 +86,12 @@ TEST(Lista, ElementInsertedIntoAnEmptyListIsItsFirst) {
   EXPECT_EQ(filas.NumElementos(), 1);
 }
 
-TEST(Lista, EqualKeysStandInOrderOfInsertion) {
+TEST(Lista, LasClavesIgualesVanEnElOrdenEnQueEntraron) {
   const std::vector<Fila> espera = {{1, 1}, {1, 3}, {2, 0}, {2, 2}, {2, 4}, {3, 5}};
   EXPECT_EQ(Contenido(Lista({2, 1, 2, 1, 2, 3})), espera);
 }
 
-TEST(Lista, CursorIsLeftBeforeTheNewElementOrOnTheOldFirst) {
+TEST(Lista, ElCursorQuedaAntesDelNuevoOEnElPrimeroDeAntes) {
   const struct {
     std::vector<int> antes;
     int nueva;
@@ -114,7 +114,7 @@ TEST(Lista, CursorIsLeftBeforeTheNewElementOrOnTheOldFirst) {
   }
 }
 
-TEST(Lista, BehavesAsAWalkFromTheFirstElementWould) {
+TEST(Lista, HaceLoQueUnRecorridoDesdeElPrimero) {
   std::mt19937 azar(20060315);
   const auto numero = [&azar](int menorQue) { return static_cast<int>(azar() % menorQue); };
   lista<Fila> filas;
@@ -151,7 +151,7 @@ TEST(Lista, BehavesAsAWalkFromTheFirstElementWould) {
   }
 }
 
-TEST(Lista, ItemReturnsACopyAndLeavesTheCursorThere) {
+TEST(Lista, ItemDaUnaCopiaYDejaAhiElCursor) {
   lista<Fila> filas = Lista({10, 20, 30});
   for (const int i : {2, 0, 1}) {
     Fila copia = filas.Item(i);
@@ -162,7 +162,7 @@ TEST(Lista, ItemReturnsACopyAndLeavesTheCursorThere) {
   }
 }
 
-TEST(Lista, ItemOutsideTheListIsAnEmptyElementAndTheCursorStays) {
+TEST(Lista, ItemFueraDaUnoVacioYElCursorSeQueda) {
   lista<Fila> filas = Lista({10, 20, 30});
   filas.Item(1);
   for (const int i : {-1, 3, 1000}) {
@@ -182,7 +182,7 @@ struct Llena {
   bool operator<=(const Llena& otra) const { return clave <= otra.clave; }
 };
 
-TEST(Lista, AnElementNeedsNoDefaultConstructor) {
+TEST(Lista, ElElementoNoNecesitaConstructorVacio) {
   lista<Llena> filas;
   for (const int clave : {20, 10, 30}) filas.Insertar(Llena(clave));
   for (const int i : {0, 1, 2}) EXPECT_EQ(filas.Item(i).clave, 10 * (i + 1));
@@ -196,7 +196,7 @@ TEST(Lista, AnElementNeedsNoDefaultConstructor) {
   EXPECT_EQ(copia.NumElementos(), 3);
 }
 
-TEST(Lista, SetItemReplacesInPlaceWhateverTheKey) {
+TEST(Lista, SetItemReemplazaEnSuLugarSeaCualSeaLaClave) {
   lista<Fila> filas = Lista({10, 20, 30});
   filas.setItem({5, 77}, 1);
   const std::vector<Fila> espera = {{10, 0}, {5, 77}, {30, 2}};
@@ -205,7 +205,7 @@ TEST(Lista, SetItemReplacesInPlaceWhateverTheKey) {
   EXPECT_EQ(filas.NumElementos(), 3);
 }
 
-TEST(Lista, AStepPastTheLastElementLosesTheList) {
+TEST(Lista, UnPasoMasAllaDelUltimoPierdeLaLista) {
   lista<Fila> filas = Lista({10, 20});
   filas.Primero();
   filas.Siguiente();
@@ -220,7 +220,7 @@ TEST(Lista, AStepPastTheLastElementLosesTheList) {
   EXPECT_EQ(Contenido(filas), (std::vector<Fila>{{5, 5}}));
 }
 
-TEST(Lista, RemoverTodosEmptiesFromAnyCursorAndTheListServesAgain) {
+TEST(Lista, RemoverTodosVaciaDesdeCualquierCursorYLaListaVuelveAServir) {
   lista<Fila> filas = Lista({10, 20, 30});
   filas.Item(1);
   filas.RemoverTodos();
@@ -231,7 +231,7 @@ TEST(Lista, RemoverTodosEmptiesFromAnyCursorAndTheListServesAgain) {
   EXPECT_EQ(Contenido(filas), (std::vector<Fila>{{1, 1}, {2, 0}}));
 }
 
-TEST(Lista, CopiesAreDeepAndKeepTheCursor) {
+TEST(Lista, LasCopiasSonEnterasYConservanElCursor) {
   lista<Fila> original = Lista({10, 20, 30});
   original.Item(1);
   lista<Fila> copia(original);
@@ -251,14 +251,14 @@ TEST(Lista, CopiesAreDeepAndKeepTheCursor) {
   EXPECT_TRUE(copia.ListaVacia());
 }
 
-TEST(Lista, ReadOnlyWalkLeavesTheCursor) {
+TEST(Lista, RecorrerSinCambiarDejaElCursor) {
   lista<Fila> filas = Lista({10, 20, 30});
   filas.Item(2);
   EXPECT_EQ(Contenido(filas).size(), 3U);
   EXPECT_EQ(Cursor(filas), 2);
 }
 
-TEST(Lista, FillingInKeyOrderCostsAFixedNumberOfComparisonsPerRow) {
+TEST(Lista, LlenarEnOrdenCuestaUnNumeroFijoDeComparacionesPorFila) {
   constexpr int kFilas = 5000;
   const struct {
     const char* orden;

@@ -7,7 +7,7 @@
 
 namespace {
 
-TEST(Rtrim, DropsTrailingWhiteSpaceButNeverTheFirstCharacter) {
+TEST(Rtrim, QuitaLosBlancosDelFinalPeroNuncaLaPrimeraLetra) {
   const struct {
     const char *texto, *espera;
   } casos[] = {
@@ -34,7 +34,7 @@ TEST(Rtrim, DropsTrailingWhiteSpaceButNeverTheFirstCharacter) {
   }
 }
 
-TEST(Rtrim, LeavesTheSourceAloneAndGivesTheCallerAnArrayOfItsOwn) {
+TEST(Rtrim, DejaElOrigenYDaUnArregloPropio) {
   char texto[] = "abc  ";
   const std::unique_ptr<char[]> copia(rtrim(texto));
   EXPECT_STREQ(texto, "abc  ");

@@ -27,6 +27,7 @@ SELECT is(pg_temp.cuenta(condicion), esperado, condicion)
                ($$momento NOT BETWEEN now() - interval '1 minute' AND clock_timestamp()$$, '0'),
                ($$mensaje ~ 'SELECT|Clave de|Otra cosa'$$, '0')) AS p (condicion, esperado);
 SELECT is(como('eva', 'norte', $$SELECT count(*) FROM comun.rechazos('2000-01-01', '2001-01-01')$$), '0', 'ni antes ni después');
+SELECT is(como('eva', 'norte', 'SELECT count(*) FROM comun.rechazos(NULL, NULL)'), '0', 'ni sin momentos');
 SELECT matches(como(usuario, 'norte', sentencia), 'permission denied', usuario || ': ' || sentencia)
   FROM (VALUES ('eva', $$SELECT pg_read_file('postgresql.conf')$$), ('eva', 'SELECT pg_ls_logdir()'),
                ('eva', $$SELECT comun.texto_del_registro('x')$$), ('eva', 'SELECT * FROM comun.version'),
