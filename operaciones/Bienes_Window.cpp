@@ -69,8 +69,8 @@ void Bienes_Window::ArmaBotones(FXComposite* columna) {
   boton("&Socio", iconos::find_icon, ID_SOCIO);
   boton("&Nuevo", iconos::nuevo_icon, ID_NUEVO);
   boton("A&brir", iconos::user_icon, ID_ABRIR);
-  boton("&Cerrar", iconos::cerrar_icon, ID_CANCEL, LAYOUT_SIDE_BOTTOM);
-  boton("&Aceptar", iconos::ok_icon, ID_GUARDAR, LAYOUT_SIDE_BOTTOM);
+  boton("&Cerrar", iconos::cerrar_icon, ID_CANCEL, LAYOUT_BOTTOM);
+  boton("&Aceptar", iconos::ok_icon, ID_GUARDAR, LAYOUT_BOTTOM);
 }
 
 long Bienes_Window::onUpdConPersona(FXObject* emisor, FXSelector, void*) {

@@ -242,9 +242,13 @@ cierra_dialogo
 paso 'Una cuenta se busca en el árbol del catálogo'
 opera_dialogo cuentas 'Catálogo de cuentas'
 captura cuentas
-vuelve cuenta
-escribe 'caja'
+vuelve cuenta arbol
+escribe 'fondo fijo'
+exige_campo 'fondo fijo'
 captura cuenta-hallada
+salta busca arbol
+exige_campo "$(servidor psql "$sucursal" -XAtc "SELECT rtrim(cuentaid) FROM catalogo_ctas WHERE cuentanombre ILIKE '%fondo fijo%'
+                                                ORDER BY cuentaid LIMIT 1")"
 
 paso 'Una cuenta se agrega debajo de otra, que se busca, y se borra'
 nuevo '9999-77' 'Cuenta de la Peña'
@@ -262,13 +266,14 @@ teclea Home
 captura busqueda-de-cuentas-filtradas
 teclea alt+a
 espera_ventana 'Catálogo de cuentas'
-salta lupa
+salta acumula lupa
 opta 2
 opta 1
 opta 2
 captura cuenta-nueva
 confirma alt+a 'Cuenta' cuenta-registrar
-exige_dato "SELECT cuentanombre, tipo_cta FROM catalogo_ctas WHERE cuentaid = '9999-77'" 'Cuenta de la Peña|A'
+exige_dato "SELECT cuentanombre, identificacion, tipo_cta, naturaleza FROM catalogo_ctas WHERE cuentaid = '9999-77'" \
+  'Cuenta de la Peña|1|A|D'
 espera_ventana 'Catálogo de cuentas'
 captura cuenta-agregada
 confirma alt+r 'Cuenta' cuenta-borrar

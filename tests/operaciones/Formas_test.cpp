@@ -272,6 +272,44 @@ TEST_F(BienesTest, UnBienSeAgregaSeCambiaYSeBorraConSuPersona) {
   EXPECT_EQ(propia_.Valor(cuantos), "0");
 }
 
+TEST_F(BienesTest, UnSocioDaLosBienesDeSuPersona) {
+  const auto forma = Dialogo<Bienes_Window>();
+  for (const Textos& socio : propia_.Filas("select clavesocioint, sujetoid, nombre from norte.socio join "
+                                           "norte.sujeto using (sujetoid) order by 1 limit 3")) {
+    Guion guion;
+    guion.Con([&](FXDialogBox* busqueda) {
+      Escribe(Todos<FXTextField>(busqueda).at(1), socio[0]);
+      Pulsa(Todos<FXButton>(busqueda).at(1));
+      EligeRenglon(Lista(busqueda), 0);
+      Pulsa(Boton(busqueda, "&Aceptar"));
+    });
+    Pulsa(Boton(forma.get(), "&Socio"));
+    const std::string rotulo = Todos<FXLabel>(forma.get()).at(0)->getText().text();
+    EXPECT_EQ(rotulo.find(socio[1] + "  " + socio[2]), 0u) << rotulo;
+  }
+  Guion guion;  // closed without a choice: the person stays
+  guion.Con([](FXDialogBox* busqueda) { Pulsa(Boton(busqueda, "&Cerrar")); });
+  const FXString antes = Todos<FXLabel>(forma.get()).at(0)->getText();
+  Pulsa(Boton(forma.get(), "&Socio"));
+  EXPECT_EQ(Todos<FXLabel>(forma.get()).at(0)->getText(), antes);
+}
+
+TEST_F(BienesTest, SinLineaElSocioNoCambiaNadaYSeDice) {
+  const auto forma = Dialogo<Bienes_Window>();
+  Espia espia;
+  espia.Cuando("SELECT sujetoid", falla::CorteAntes());
+  Guion guion;
+  guion.Con([](FXDialogBox* busqueda) {
+    Pulsa(Todos<FXButton>(busqueda).at(1));
+    EligeRenglon(Lista(busqueda), 0);
+    Pulsa(Boton(busqueda, "&Aceptar"));
+  });
+  guion.Responde(Respuesta::Aceptar);
+  Pulsa(Boton(forma.get(), "&Socio"));
+  EXPECT_EQ(guion.Ultimo().titulo, "Bienes");
+  EXPECT_FALSE(Boton(forma.get(), "&Nuevo")->isEnabled());
+}
+
 TEST_F(BienesTest, LoQueElServidorNiegaSeDiceYNadaQuedaAMedias) {
   const auto forma = Dialogo<Bienes_Window>();
   ElegirPersona(forma.get(), nombre_);
