@@ -12,8 +12,11 @@
 #include "catalogs/simple/ClasificacionCredito_Window.h"
 #include "catalogs/simple/Grupo_Window.h"
 #include "operaciones/Bienes_Window.h"
+#include "operaciones/Bitacora_Window.h"
 #include "operaciones/Colonia_Window.h"
 #include "operaciones/CuentaContable_Window.h"
+#include "operaciones/Listas_Window.h"
+#include "operaciones/Permisos_Window.h"
 #include "operaciones/TipoAsentamiento_Window.h"
 #include "reports/PreCierre_Window.h"
 #include "reports/Sujeto_Window.h"
@@ -60,6 +63,10 @@ const Opcion opciones[] = {
     {"C&olonias\t\tColonias de una ciudad o de un código postal", {"0906"}, Dialogo<Colonia_Window>},
     {"C&uentas", {}, nullptr},
     {"&Catálogo de cuentas\t\tCuentas contables", {"0901"}, Dialogo<CuentaContable_Window>},
+    {"C&onsultas", {}, nullptr},
+    {"&Listas\t\tCualquier catálogo como una tabla", {"0911"}, Hija<Listas_Window>},
+    {"&Bitácora\t\tQuién cambió qué y cuándo", {"0912"}, Hija<Bitacora_Window>},
+    {"&Permisos\t\tTodos los usuarios contra todas las opciones", {"0913"}, Hija<Permisos_Window>},
 };
 static_assert(std::size(opciones) == Operaciones::ID_FIN - Operaciones::ID_PANEL_CIERRE);
 

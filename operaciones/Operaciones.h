@@ -29,6 +29,10 @@ class Operaciones : public Caja {
     ID_COLONIAS,
     ID_PANEL_CUENTAS,
     ID_CUENTAS,
+    ID_PANEL_CONSULTAS,
+    ID_LISTAS,
+    ID_BITACORA,
+    ID_PERMISOS,
     ID_FIN,
   };
 

@@ -42,7 +42,7 @@ void Agrega(std::string& texto, uint32_t letra) {
     texto += static_cast<char>(letra);
   } else {
     const int siguen = letra < 0x800 ? 1 : letra < 0x10000 ? 2 : 3;
-    texto += static_cast<char>((0xF00 >> siguen & 0xFF) | letra >> (6 * siguen));
+    texto += static_cast<char>((0xFF00 >> (siguen + 1) & 0xFF) | letra >> (6 * siguen));
     for (int i = siguen - 1; i >= 0; --i) texto += static_cast<char>(0x80 | (letra >> (6 * i) & 0x3F));
   }
 }

@@ -54,6 +54,9 @@ operaciones_en_orden=(
   'tipos-de-asentamiento|5|3|0906'
   'colonias|5|4|0906'
   'cuentas|6|1|0901'
+  'listas|7|1|0911'
+  'bitacora|7|2|0912'
+  'permisos|7|3|0913'
 )
 declare -A operacion_en=()
 for operacion in "${operaciones_en_orden[@]}"; do operacion_en[${operacion%%|*}]=${operacion#*|}; done

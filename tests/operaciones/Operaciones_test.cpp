@@ -24,6 +24,9 @@ const struct Renglon {
     {"&Geografía", "&Tipos de asentamiento", {"0906"}, "TipoAsentamiento_Window", false},
     {"&Geografía", "C&olonias", {"0906"}, "Colonia_Window", false},
     {"C&uentas", "&Catálogo de cuentas", {"0901"}, "CuentaContable_Window", false},
+    {"C&onsultas", "&Listas", {"0911"}, "Listas_Window", true},
+    {"C&onsultas", "&Bitácora", {"0912"}, "Bitacora_Window", true},
+    {"C&onsultas", "&Permisos", {"0913"}, "Permisos_Window", true},
 };
 
 std::string Pregunta(const std::string& modulo, const std::string& usuario = "adriana") {
@@ -78,7 +81,7 @@ TEST_F(OperacionesTest, ElMenuDelPrimeroCedeSusCatalogos) {
   Textos titulos;
   for (const FXMenuTitle* titulo : Todos<FXMenuTitle>(principal_)) titulos.push_back(Rotulo(titulo));
   EXPECT_EQ(titulos, (Textos{"&Inicio", "&Cierre", "&Activos", "&Préstamos", "P&ersonas", "&Geografía",
-                             "C&uentas", "A&yuda"}));
+                             "C&uentas", "C&onsultas", "A&yuda"}));
   EXPECT_STREQ(principal_->getTitle().text(), "Tolvara Operaciones V. 0.0.7a");
 }
 
