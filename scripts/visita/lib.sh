@@ -126,15 +126,23 @@ escribe() { xdotool type --delay 15 -- "$1"; }
 pulsa() { xdotool mousemove ${punto[$1]:?} click --repeat "${2:-1}" --delay 80 1; }
 pulsa_en_ventana() { xdotool mousemove --window "$(xdotool getactivewindow)" ${punto_de_ventana[$1]:?} click 1; }
 
-# Opens a pane of the menu bar. Always by way of the first one: the keys of the others can belong to a button as well.
+# Opens a pane of the menu bar. Always by way of the first one: the keys of the others can belong to a button as well. Keys
+# that come before the pane is on the screen would be lost.
 menu() {
+  local antes
   xdotool mousemove 1000 750 # out of the way: an entry that comes up under the pointer becomes the current one
+  antes=$(a_la_vista)
   teclea alt+i
+  espera 'no se abre el menú' hay_mas_que "$antes"
   case $1 in
     Catalogos) teclea Right ;;
     Ayuda) teclea Left ;;
   esac
 }
+
+# How many windows are on the screen, the panes of a menu among them.
+a_la_vista() { xdotool search --onlyvisible --maxdepth 1 '.*' 2>/dev/null | wc -l; }
+hay_mas_que() { (($(a_la_vista) > $1)); }
 
 # Chooses the option with this name.
 elige() {
@@ -270,11 +278,11 @@ captura() {
 # The form that is up in the main window, or else the window with the keyboard in its frame, out of the picture $1 of the
 # screen. See scripts/imagenes.
 retrata() {
-  local activa area hija lugar
+  local activa area hija lugar ventana
   mkdir -p "$salida/manual"
   activa=$(xdotool getactivewindow)
   lugar=$(de_marco -id "$(xwininfo -children -id "$activa" | awk '/Parent window id:/ { print $4 }')")
-  if es_activa "$principal"; then
+  if es_activa "$principal" || es_activa "$operaciones"; then
     # The area is the largest piece of the main window; of its own ones the one in front comes first.
     area=$(piezas "$activa" | sort -k2,2n | sed -n '$s/ .*//p')
     hija=$(piezas "$area" | awk '$2 > 20000 && !hay++ { print $1 }')
