@@ -131,6 +131,12 @@ class Registro : public Base {
     dataChanged = isNew = false;
   }
 
+  /// Calls `accion` with each column, in the order of the server's answer.
+  template <class Accion>
+  void CadaColumna(Accion accion) const {
+    std::apply([&](const auto&... columna) { (accion(columna), ...); }, const_cast<Clase&>(Yo()).Columnas());
+  }
+
   /// Inserts the row if a setter changed anything; both flags false afterwards. Throws what Check throws,
   /// ahead of any statement, or the server's text, with the transaction left open.
   void AddNew() {

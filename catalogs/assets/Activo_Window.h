@@ -1,5 +1,5 @@
 // The form of the fixed assets: three pages, one of them with the depreciation in the books and one with that
-// for taxes. No option opens it.
+// for taxes. Only the second program opens it.
 #pragma once
 
 #include "catalogs/Posiciones.h"

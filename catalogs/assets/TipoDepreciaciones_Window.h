@@ -1,4 +1,4 @@
-// The form of the depreciation types. No option opens it.
+// The form of the depreciation types. Only the second program opens it.
 #pragma once
 
 #include "catalogs/Posiciones.h"

@@ -1,5 +1,4 @@
-// An account of the chart of accounts. The client picks accounts from the chart and never edits it; the
-// writing operations stand ready without a caller.
+// An account of the chart of accounts.
 #pragma once
 
 #include "framework/Registro.h"
@@ -50,6 +49,7 @@ class cCatalogo_Ctas : public Registro<cCatalogo_Ctas> {
   /// As in every record, but the dates are those of an empty text and isNew stays.
   void Clear();
   bool Check();
+  const char* clase() const { return "Cuenta"; }
   /// As in every record, but isNew stays.
   void Update();
   /// AddNew in every branch that lacks the account; traced.

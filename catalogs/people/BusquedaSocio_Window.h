@@ -1,4 +1,4 @@
-// The search for a member. No form opens it.
+// The search for a member.
 #pragma once
 
 #include "db/Catalogo.h"

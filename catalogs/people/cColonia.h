@@ -1,4 +1,4 @@
-// A neighbourhood of a city, with its postal code. No form edits it: it is looked up in the cache.
+// A neighbourhood of a city, with its postal code.
 #pragma once
 
 #include "framework/Registro.h"
@@ -23,6 +23,7 @@ class cColonia : public Registro<cColonia> {
   int getTipoAsentamientoID() const { return TipoAsentamientoID; }
 
   bool Check();
+  const char* clase() const { return "Colonia"; }
 
  private:
   friend Registro<cColonia>;

@@ -1,4 +1,4 @@
-// The form of the advisers. No option opens it.
+// The form of the advisers. Only the second program opens it.
 #pragma once
 
 #include "catalogs/simple/cAsesor.h"

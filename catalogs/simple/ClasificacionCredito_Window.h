@@ -1,4 +1,4 @@
-// The form of the classes of the loan portfolio. No option opens it.
+// The form of the classes of the loan portfolio. Only the second program opens it.
 #pragma once
 
 #include "catalogs/simple/cClasificacionCredito.h"

@@ -1,4 +1,4 @@
-// A kind of settlement: neighbourhood, village and so on. No form edits it: it is looked up in the cache.
+// A kind of settlement: neighbourhood, village and so on.
 #pragma once
 
 #include "framework/Registro.h"
@@ -16,6 +16,7 @@ class cTipoAsentamiento : public Registro<cTipoAsentamiento> {
   const char* getAsentamiento() const { return Asentamiento; }
 
   bool Check();
+  const char* clase() const { return "Tipo de asentamiento"; }
 
  private:
   friend Registro<cTipoAsentamiento>;

@@ -126,15 +126,23 @@ escribe() { xdotool type --delay 15 -- "$1"; }
 pulsa() { xdotool mousemove ${punto[$1]:?} click --repeat "${2:-1}" --delay 80 1; }
 pulsa_en_ventana() { xdotool mousemove --window "$(xdotool getactivewindow)" ${punto_de_ventana[$1]:?} click 1; }
 
-# Opens a pane of the menu bar. Always by way of the first one: the keys of the others can belong to a button as well.
+# Opens a pane of the menu bar. Always by way of the first one: the keys of the others can belong to a button as well. Keys
+# that come before the pane is on the screen would be lost.
 menu() {
+  local antes
   xdotool mousemove 1000 750 # out of the way: an entry that comes up under the pointer becomes the current one
+  antes=$(a_la_vista)
   teclea alt+i
+  espera 'no se abre el menú' hay_mas_que "$antes"
   case $1 in
     Catalogos) teclea Right ;;
     Ayuda) teclea Left ;;
   esac
 }
+
+# How many windows are on the screen, the panes of a menu among them.
+a_la_vista() { xdotool search --onlyvisible --maxdepth 1 '.*' 2>/dev/null | wc -l; }
+hay_mas_que() { (($(a_la_vista) > $1)); }
 
 # Chooses the option with this name.
 elige() {
@@ -174,6 +182,10 @@ elige_ultimo() {
 # Passes over the fields and buttons with these names, from the one with the keyboard on, or back over them.
 salta() { teclea ${@/*/Tab}; }
 vuelve() { teclea ${@/*/shift+Tab}; }
+
+# The next page of the form, with the keyboard in its first field if it was in a page. Not by a click on its tab: what is
+# clicked right after it could still be on the page before.
+hojea() { teclea ctrl+Next; }
 
 # The item at place $1 of the combo box with the keyboard, counted from 1; the keyboard is then behind it.
 opta() {
@@ -241,16 +253,17 @@ pon_cuentas() {
   done
 }
 
-# Answers a box: waits for the one with this title, takes its picture, types a key and sees it go.
+# Answers a box: waits for the one with this title, takes its picture (the manual's too, if $4 names it), types a key and
+# sees it go.
 responde() {
-  local titulo=$1 tecla=$2 nombre=$3
+  local titulo=$1 tecla=$2 nombre=$3 imagen=${4:-}
   espera_ventana "$titulo"
-  captura "$nombre"
+  captura "$nombre" $imagen
   teclea "$tecla"
   espera_cierre
 }
 
-# The picture of the screen once nothing moves, as NN-$1.png.
+# The picture of the screen once nothing moves, as NN-$1.png, and of the window in front, as the manual's picture $2.
 captura() {
   local archivo anterior='' huella='' limite=$((SECONDS + paciencia))
   printf -v archivo '%s/%02d-%s.png' "$salida" "$((++fotos))" "$1"
@@ -259,6 +272,34 @@ captura() {
     import -silent -window root "$archivo"
     huella=$(identify -format '%#' "$archivo")
   done
+  [[ ! ${2:-} ]] || retrata "$archivo" "$2"
+}
+
+# The form that is up in the main window, or else the window with the keyboard in its frame, out of the picture $1 of the
+# screen. See scripts/imagenes.
+retrata() {
+  local activa area hija lugar ventana
+  mkdir -p "$salida/manual"
+  activa=$(xdotool getactivewindow)
+  lugar=$(de_marco -id "$(xwininfo -children -id "$activa" | awk '/Parent window id:/ { print $4 }')")
+  if es_activa "$principal" || es_activa "$operaciones"; then
+    # The area is the largest piece of the main window; of its own ones the one in front comes first.
+    area=$(piezas "$activa" | sort -k2,2n | sed -n '$s/ .*//p')
+    hija=$(piezas "$area" | awk '$2 > 20000 && !hay++ { print $1 }')
+    [[ ! $hija ]] || lugar=$(de_marco -id "$hija")
+  fi
+  convert "$1" -crop "$lugar" +repage -colors 255 "PNG8:$salida/manual/$2.png"
+}
+de_marco() {
+  xwininfo "$@" | awk '/Absolute upper-left X/ { x = $NF } /Absolute upper-left Y/ { y = $NF }
+    $1 == "Width:" { ancho = $2 } $1 == "Height:" { alto = $2 } END { printf "%dx%d+%d+%d", ancho, alto, x, y }'
+}
+# The pieces of a window, the one in front first: number and size of each.
+piezas() {
+  xwininfo -children -id "$1" | awk '$1 ~ /^0x/ && match($0, /  [0-9]+x[0-9]+[+-]/) {
+    split(substr($0, RSTART + 2), medida, "[x+-]")
+    print $1, medida[1] * medida[2]
+  }'
 }
 
 # --- outcomes ------------------------------------------------------------------------------------------------------

@@ -37,23 +37,34 @@ for opcion in "${opciones[@]}"; do
   opcion_en[$nombre]="$lugar $cascada"
 done
 
-# The windows that no option opens, by their place in the pane of the program that shows them.
-declare -A muestra_en=([asesor]=1 [clasificacion]=2 [persona]=3 [socio]=4 [fecha]=5 [grupo]=6 [cuenta]=7 [depreciacion]=8
-  [activo]=9 [precierre]=10 [reporte-de-personas]=11 [estado]=12 [ciudad]=13 [bien]=14)
+# Every option of the second program: name, place of its pane behind "Inicio", place in the pane, module that it asks for
+# first.
+operaciones='Tolvara Operaciones V. 0.0.7a' # title of its main window
+operaciones_en_orden=(
+  'precierre|1|1|0910'
+  'reporte-de-personas|1|2|0442'
+  'activos|2|1|0909'
+  'depreciaciones|2|2|0908'
+  'clasificaciones|3|1|0903'
+  'asesores|4|1|0904'
+  'grupos|4|2|0449'
+  'bienes|4|3|0907'
+  'estados|5|1|0213'
+  'ciudades|5|2|0214'
+  'tipos-de-asentamiento|5|3|0906'
+  'colonias|5|4|0906'
+  'cuentas|6|1|0901'
+  'listas|7|1|0911'
+  'bitacora|7|2|0912'
+  'permisos|7|3|0913'
+)
+declare -A operacion_en=()
+for operacion in "${operaciones_en_orden[@]}"; do operacion_en[${operacion%%|*}]=${operacion#*|}; done
 
 # Places of the screen, "x y": of a form at the place where it opens.
 declare -A punto=(
-  [prestamo-clave]='417 186' [prestamo-buscar]='862 190' [prestamo-descripcion]='593 247'
-  [prestamo-parametros]='442 224' [prestamo-activo]='494 224' [prestamo-pasivo]='544 224' [prestamo-resultados]='598 224'
-  [prestamo-orden]='654 224' [prestamo-generales]='374 224'
-  [tasas-nuevo]='158 520' [tasas-titulo]='414 136' [tasa-fecha-inicial]='265 215'
+  [tasas-nuevo]='158 520' [tasa-fecha-inicial]='265 215'
   [usuario-fila]='230 202' [usuario-borrar]='870 217'
-  [usuario-generales]='376 336' [usuario-apellido]='460 358'
-  [usuario-domicilio]='455 336' [usuario-codigo]='430 360'
-  [usuario-accesos]='545 336' [usuario-monedas]='600 395' [usuario-movimientos]='600 433'
-  [usuario-parametros]='642 336' [usuario-serie]='469 360'
-  [activo-clave]='500 274' [activo-generales]='376 250' [activo-contable]='479 250' [activo-fiscal]='605 250'
-  [activo-fecha-contable]='560 274' [activo-fecha-fiscal]='560 274'
 )
 # The same inside the active window.
 declare -A punto_de_ventana=([usuario-login]='337 101' [usuario-buscar]='757 104')

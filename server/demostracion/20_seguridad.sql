@@ -5,7 +5,7 @@ INSERT INTO tipousuario (tipousuarioid, descripciontipousuario) VALUES
   ('CON', 'Consulta');
 
 INSERT INTO tipousuariomodulo (tipousuarioid, clavemodulo)
-SELECT 'GER', clavemodulo FROM modulo WHERE clavemodulo NOT IN ('0206', '0215', '0216');
+SELECT 'GER', clavemodulo FROM modulo WHERE clavemodulo NOT IN ('0206', '0215', '0216', '0912', '0913');
 INSERT INTO tipousuariomodulo (tipousuarioid, clavemodulo) VALUES ('CAJ', '0102'), ('CAJ', '0203');
 
 -- adriana keeps both branches; the rest belong to one.

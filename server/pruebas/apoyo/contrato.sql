@@ -320,4 +320,12 @@ INSERT INTO contrato VALUES
   ('precierre', 'text', 'integer'),
   ('precorteconsolidado', 'integer, integer', 'SETOF norte.precorte_detalle'),
   ('spssujeto', 'text, text, text, text', 'text'),
-  ('spssujetoc', 'text, text, text, text', 'text');
+  ('spssujetoc', 'text, text, text, text', 'text'),
+  -- what the second program looks at
+  ('spsbitacora', 'text, text, text, text, text, text, bigint',
+   'TABLE(bitacoraid bigint, momento text, usuario name, operacion text, tabla name, nombre text, clave text, '
+   'clave_anterior text, direccion text, aplicacion text)'),
+  ('spsbitacoradetalle', 'bigint', 'TABLE(campo text, anterior text, nuevo text, cambia boolean)'),
+  ('spsmatrizpermisos', '',
+   'TABLE(usuarioid character varying, nombre text, clavemodulo character, descrimodulo character varying, '
+   'permitido boolean)');

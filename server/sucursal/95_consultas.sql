@@ -1,0 +1,74 @@
+-- What the back office looks at: the log, for whoever has its module; who may do what; and the modules of these options.
+
+INSERT INTO modulo (clavemodulo, descrimodulo) VALUES
+  ('0911', 'Listas de catálogos'),
+  ('0912', 'Bitácora'),
+  ('0913', 'Matriz de permisos');
+INSERT INTO tipousuariomodulo SELECT 'ADM', clavemodulo FROM modulo WHERE clavemodulo BETWEEN '0911' AND '0913';
+
+-- The newest lines first, whatever the filter, and a line by its number: without it the whole log would be read for a page.
+CREATE INDEX ON bitacora (bitacoraid);
+
+-- A page of the log: of the lines that pass the filter the 500 newest, of those older than the line with the number
+-- `siguiente` (0: of all). A blank argument does not filter; days are the institution's. A line of a changed key is found
+-- under both.
+CREATE FUNCTION spsbitacora(desde text, hasta text, usuario_pedido text, tabla_pedida text, clave_pedida text,
+                            operacion_pedida text, siguiente bigint)
+RETURNS TABLE (bitacoraid bigint, momento text, usuario name, operacion text, tabla name, nombre text, clave text,
+               clave_anterior text, direccion text, aplicacion text)
+LANGUAGE plpgsql STABLE SECURITY DEFINER SET search_path FROM CURRENT AS $$
+DECLARE
+  condiciones text;
+BEGIN
+  PERFORM exige_permiso('0912');
+  SELECT coalesce(string_agg(condicion, ' AND '), 'true') INTO condiciones
+    FROM (VALUES ('b.momento >= comienzo($1)', desde), ('b.momento < comienzo($2 + 1)', hasta),
+                 ('b.usuario = $3', usuario_pedido), ('b.tabla = $4', tabla_pedida),
+                 ('(b.clave = $5 OR b.clave_anterior = $5)', clave_pedida), ('b.operacion = $6', operacion_pedida),
+                 ('b.bitacoraid < $7', nullif(siguiente, 0)::text)) AS c (condicion, valor)
+   WHERE btrim(valor) <> '';
+  -- Put together of the texts above and of nothing that is given, so that what is asked is planned with its own index.
+  RETURN QUERY EXECUTE
+    'SELECT b.bitacoraid, to_char(hora_local(b.momento), ''DD/MM/YYYY HH24:MI:SS''), b.usuario, b.operacion, b.tabla,
+            coalesce(split_part(obj_description(to_regclass(quote_ident(b.tabla)), ''pg_class''), '':'', 1), ''''), b.clave,
+            coalesce(b.clave_anterior, ''''), coalesce(host(b.direccion), ''''), b.aplicacion
+       FROM (SELECT * FROM bitacora AS b WHERE ' || condiciones || ' ORDER BY b.bitacoraid DESC LIMIT 500) AS b
+      ORDER BY b.bitacoraid DESC'
+    USING fecha_opcional(desde), fecha_opcional(hasta), btrim(usuario_pedido), btrim(tabla_pedida), btrim(clave_pedida),
+          btrim(operacion_pedida), siguiente;
+END $$;
+COMMENT ON FUNCTION spsbitacora IS 'una página de la bitácora, de lo más nuevo a lo más viejo';
+
+-- One line of the log, column by column of its row, before and after; what changed comes first.
+CREATE FUNCTION spsbitacoradetalle(id bigint)
+RETURNS TABLE (campo text, anterior text, nuevo text, cambia boolean)
+LANGUAGE plpgsql STABLE SECURITY DEFINER SET search_path FROM CURRENT AS $$
+BEGIN
+  PERFORM exige_permiso('0912');
+  RETURN QUERY
+    SELECT c.campo, b.anterior ->> c.campo, b.nuevo ->> c.campo, (b.anterior ->> c.campo) IS DISTINCT FROM (b.nuevo ->> c.campo)
+      FROM bitacora AS b,
+           LATERAL (SELECT jsonb_object_keys(coalesce(b.anterior, '{}') || coalesce(b.nuevo, '{}'))) AS c (campo)
+     WHERE b.bitacoraid = id
+     ORDER BY 4 DESC, c.campo;
+END $$;
+COMMENT ON FUNCTION spsbitacoradetalle IS 'lo que un renglón tenía antes y después de un cambio';
+
+-- Every user against every module: what an auditor asks for first.
+CREATE FUNCTION spsmatrizpermisos()
+RETURNS TABLE (usuarioid varchar(20), nombre text, clavemodulo character(10), descrimodulo varchar(80), permitido boolean)
+LANGUAGE plpgsql STABLE SECURITY DEFINER SET search_path FROM CURRENT AS $$
+BEGIN
+  PERFORM exige_permiso('0913');
+  RETURN QUERY
+    SELECT u.usuarioid, concat_ws(' ', s.nombre, s.paterno, s.materno), m.clavemodulo, m.descrimodulo,
+           coalesce(p.permiso <> 'N', false)
+      FROM usuario AS u
+     CROSS JOIN modulo AS m
+      LEFT JOIN permisomodulo AS p ON p.usuarioid = u.usuarioid AND p.clavemodulo = m.clavemodulo
+      LEFT JOIN sujeto AS s ON s.sujetoid = u.sujetoid
+     ORDER BY u.usuarioid, m.clavemodulo;
+END $$;
+COMMENT ON FUNCTION spsmatrizpermisos IS 'los permisos de todos los usuarios';
+
+GRANT EXECUTE ON FUNCTION spsbitacora, spsbitacoradetalle, spsmatrizpermisos TO :"grupo";
