@@ -141,15 +141,14 @@ paso 'Un activo se agrega por sus tres páginas'
 muestra_ventana activo
 espera_ventana 'Activo'
 captura activos
-pulsa_en_ventana activo-clave
+salta identificacion
 llena 'QZ-1' 'Torno de prueba'
 opta 1
 llena 1000 50 900 'Bodega' 'S-77' 1200
 opta 1
 baja 1
 captura activo-generales activo-generales
-pulsa_en_ventana activo-contable
-pulsa_en_ventana activo-fecha-contable
+hojea
 llena '1/2/2026'
 teclea space
 espera_sin_titulo
@@ -159,8 +158,7 @@ salta calendario
 llena 10 20
 baja 1
 captura activo-contable activo-contable
-pulsa_en_ventana activo-fiscal
-pulsa_en_ventana activo-fecha-fiscal
+hojea
 llena '3/2/2026'
 salta calendario
 teclea space
@@ -175,9 +173,8 @@ exige_dato "SELECT activodescripcion, feciniciodepconta, actdeduccioninme FROM a
 
 paso 'Se modifica y se borra'
 espera_ventana 'Activo'
-pulsa_en_ventana activo-generales
+hojea
 elige_ultimo
-pulsa_en_ventana activo-clave
 exige_campo 'QZ-1'
 llena 'QZ-2'
 confirma alt+a 'Activo' activo-guardar

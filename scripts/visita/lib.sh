@@ -175,6 +175,10 @@ elige_ultimo() {
 salta() { teclea ${@/*/Tab}; }
 vuelve() { teclea ${@/*/shift+Tab}; }
 
+# The next page of the form, with the keyboard in its first field if it was in a page. Not by a click on its tab: what is
+# clicked right after it could still be on the page before.
+hojea() { teclea ctrl+Next; }
+
 # The item at place $1 of the combo box with the keyboard, counted from 1; the keyboard is then behind it.
 opta() {
   baja "$1"

@@ -128,5 +128,28 @@ TEST_F(TecladoTest, AlCerrarUnaFormaLaOtraTieneElTeclado) {
   EXPECT_EQ(Leido(monedas_, "Descripción:"), "hola");
 }
 
+TEST_F(TecladoTest, LaVentanaMaximizadaVuelveMaximizadaYConSuTamanoDeAntes) {
+  const auto anotado = [](const char* llave) { return App().reg().readIntEntry("VENTANA", llave, -1); };
+  const auto abre = [] {
+    Guion guion;
+    guion.Con([](FXDialogBox* login) { Pulsa(Boton(login, "&Cerrar")); });
+    auto caja = std::make_unique<Caja>(&App());
+    caja->create();
+    return caja;
+  };
+  auto caja = abre();
+  caja->position(20, 30, 760, 540);
+  ASSERT_TRUE(BombeaHasta([&] { return anotado("ancho") == 760 && anotado("alto") == 540; }));
+  caja->maximize();
+  ASSERT_TRUE(BombeaHasta([&] { return anotado("maximizada") == 1; }));
+  EXPECT_EQ(anotado("ancho"), 760);
+  EXPECT_EQ(anotado("alto"), 540);
+
+  caja = abre();
+  EXPECT_TRUE(BombeaHasta([&] { return caja->isMaximized() != FALSE; }));
+  caja->restore();
+  EXPECT_TRUE(BombeaHasta([&] { return caja->getWidth() == 760 && caja->getHeight() == 540; }));
+}
+
 }  // namespace
 }  // namespace pruebas
