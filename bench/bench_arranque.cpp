@@ -1,4 +1,4 @@
-// From the start of the program to its visible login, and the memory that it then has for itself, against a
+// From the start of each program to its visible login, and the memory that it then has for itself, against a
 // bare program of the toolkit with the same main window (ventana_llana.cpp).
 #include <X11/Xlib.h>
 #include <fcntl.h>
@@ -83,6 +83,20 @@ Costo Arranca(Vigia& vigia, const char* programa, const char* titulo) {
   return {segundos, medida::MemoriaPropia(hijo->pid())};
 }
 
+/// A program against the bare one; `cual` tells it from the others in what is written.
+void Mide(medida::Informe& informe, Vigia& vigia, const char* programa, const std::string& cual) {
+  medida::Razones tiempo, memoria;
+  for (int vuelta = 0; vuelta <= Vueltas; ++vuelta) {
+    const Costo nuestro = Arranca(vigia, programa, "Login");
+    const Costo llano = Arranca(vigia, VENTANA_LLANA, "Tolvara V. 0.0.7a");
+    if (vuelta == 0) continue;  // the first turn warms the caches and does not count
+    tiempo.Anota(nuestro.segundos, llano.segundos);
+    memoria.Anota(nuestro.kilobytes, llano.kilobytes);
+  }
+  informe.Escribe(("arranque" + cual + " hasta el login").c_str(), tiempo, 1.3);
+  informe.Escribe(("memoria propia" + cual + " con el login").c_str(), memoria, 1.5);
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -92,15 +106,7 @@ int main(int argc, char* argv[]) {
   const char* const programa = otro != nullptr ? otro : CORVENA;
   pruebas::App();  // the private X server, and a home without settings
   Vigia vigia;
-  medida::Razones tiempo, memoria;
-  for (int vuelta = 0; vuelta <= Vueltas; ++vuelta) {
-    const Costo nuestro = Arranca(vigia, programa, "Login");
-    const Costo llano = Arranca(vigia, VENTANA_LLANA, "Tolvara V. 0.0.7a");
-    if (vuelta == 0) continue;  // the first turn warms the caches and does not count
-    tiempo.Anota(nuestro.segundos, llano.segundos);
-    memoria.Anota(nuestro.kilobytes, llano.kilobytes);
-  }
-  informe.Escribe("arranque hasta el login", tiempo, 1.3);
-  informe.Escribe("memoria propia con el login", memoria, 1.5);
+  Mide(informe, vigia, programa, "");
+  Mide(informe, vigia, OPERACIONES, " de las operaciones");
   return informe.Codigo();
 }

@@ -69,7 +69,11 @@ pon_impresora
 abre_cliente tolvara-operaciones
 entra "$usuario" "$(clave_de "$usuario")" bienvenida-a-operaciones
 espera_ventana "$operaciones"
-captura operaciones operaciones
+captura operaciones
+menu Inicio
+salta_paneles 4
+captura operaciones-menu operaciones
+teclea Escape
 
 paso 'Un asesor se agrega y se borra'
 opera asesores
@@ -240,11 +244,11 @@ paso 'Una cuenta se busca en el árbol del catálogo'
 opera_dialogo cuentas 'Catálogo de cuentas'
 captura cuentas catalogo-de-cuentas
 vuelve cuenta arbol
-escribe 'fondo fijo'
-exige_campo 'fondo fijo'
+escribe 'caja chica'
+exige_campo 'caja chica'
 captura cuenta-hallada
 salta busca arbol
-exige_campo "$(servidor psql "$sucursal" -XAtc "SELECT rtrim(cuentaid) FROM catalogo_ctas WHERE cuentanombre ILIKE '%fondo fijo%'
+exige_campo "$(servidor psql "$sucursal" -XAtc "SELECT rtrim(cuentaid) FROM catalogo_ctas WHERE cuentanombre ILIKE '%caja chica%'
                                                 ORDER BY cuentaid LIMIT 1")"
 
 paso 'Una cuenta se agrega debajo de otra, que se busca, y se borra'

@@ -161,6 +161,10 @@ LANGUAGE sql STABLE SET search_path FROM CURRENT SET timezone FROM CURRENT AS $$
 CREATE OR REPLACE FUNCTION hora_local(momento timestamptz) RETURNS timestamp
 LANGUAGE sql STABLE SET search_path FROM CURRENT SET timezone FROM CURRENT AS $$ SELECT momento::timestamp $$;
 
+-- That zone, for who converts many moments at once.
+CREATE OR REPLACE FUNCTION zona() RETURNS text
+LANGUAGE sql STABLE SET search_path FROM CURRENT SET timezone FROM CURRENT AS $$ SELECT current_setting('timezone') $$;
+
 -- The moment at which a day of the institution begins.
 CREATE OR REPLACE FUNCTION comienzo(dia date) RETURNS timestamptz
 LANGUAGE sql STABLE SET search_path FROM CURRENT SET timezone FROM CURRENT AS $$ SELECT dia::timestamptz $$;

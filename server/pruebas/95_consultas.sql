@@ -34,6 +34,12 @@ SELECT is(como('adriana', 'norte', format('SELECT string_agg(operacion, '','' OR
 SELECT matches(como('adriana', 'norte', $$SELECT count(*) FROM spsbitacora('ayer', '', '', '', '', '', 0)$$), 'fecha',
                'un día que no es fecha se niega con palabras');
 
+-- A line of a changed key, under both.
+INSERT INTO norte.bitacora (tabla, clave, clave_anterior, operacion) VALUES ('tabla_borrada_2', 'NUEVA', 'VIEJA', 'UPDATE');
+SELECT is(como('adriana', 'norte', format($$SELECT count(*) FROM spsbitacora('', '', '', 'tabla_borrada_2', %L, '', 0)$$, clave)),
+          esperado, 'por la clave ' || clave)
+  FROM (VALUES ('NUEVA', '1'), ('VIEJA', '1'), ('OTRA', '0')) AS caso (clave, esperado);
+
 -- The page behind a line, without that line; the name of a table from its comment, of one that is gone none.
 INSERT INTO norte.bitacora (momento, tabla, clave, operacion)
 SELECT now(), 'tabla_borrada', n::text, 'INSERT' FROM generate_series(1, 1200) AS n;

@@ -29,13 +29,15 @@ BEGIN
    WHERE btrim(valor) <> '';
   -- Put together of the texts above and of nothing that is given, so that what is asked is planned with its own index.
   RETURN QUERY EXECUTE
-    'SELECT b.bitacoraid, to_char(hora_local(b.momento), ''DD/MM/YYYY HH24:MI:SS''), b.usuario, b.operacion, b.tabla,
-            coalesce(split_part(obj_description(to_regclass(quote_ident(b.tabla)), ''pg_class''), '':'', 1), ''''), b.clave,
-            coalesce(b.clave_anterior, ''''), coalesce(host(b.direccion), ''''), b.aplicacion
-       FROM (SELECT * FROM bitacora AS b WHERE ' || condiciones || ' ORDER BY b.bitacoraid DESC LIMIT 500) AS b
+    'WITH pagina AS MATERIALIZED (SELECT * FROM bitacora AS b WHERE ' || condiciones || ' ORDER BY b.bitacoraid DESC LIMIT 500),
+          nombrada AS (SELECT t.tabla, split_part(obj_description(to_regclass(quote_ident(t.tabla)), ''pg_class''), '':'', 1) AS nombre
+                         FROM (SELECT DISTINCT p.tabla FROM pagina AS p) AS t)
+     SELECT b.bitacoraid, to_char(b.momento AT TIME ZONE $8, ''DD/MM/YYYY HH24:MI:SS''), b.usuario, b.operacion, b.tabla,
+            coalesce(n.nombre, ''''), b.clave, coalesce(b.clave_anterior, ''''), coalesce(host(b.direccion), ''''), b.aplicacion
+       FROM pagina AS b LEFT JOIN nombrada AS n USING (tabla)
       ORDER BY b.bitacoraid DESC'
     USING fecha_opcional(desde), fecha_opcional(hasta), btrim(usuario_pedido), btrim(tabla_pedida), btrim(clave_pedida),
-          btrim(operacion_pedida), siguiente;
+          btrim(operacion_pedida), siguiente, zona();
 END $$;
 COMMENT ON FUNCTION spsbitacora IS 'una página de la bitácora, de lo más nuevo a lo más viejo';
 

@@ -28,6 +28,7 @@ namespace {
 enum Pagina { Generales, Domicilio, Accesos, Parametros };
 
 constexpr int Usuarios = 20;  // of the demonstration
+constexpr int Modulos = 40;   // likewise
 constexpr int Jalisco = 14;
 constexpr int Guadalajara = 53;
 constexpr int Zapopan = 56;
@@ -345,7 +346,7 @@ TEST_F(UsuarioVentana, AbrirPideLoDichoYEscribeSuTraza) {
   {
     const Salida salida;
     forma_ = area_.Abre<Usuario_Window>();
-    EXPECT_EQ(salida.Lineas().front(), "No. de modulos -->37");
+    EXPECT_EQ(salida.Lineas().front(), "No. de modulos -->" + std::to_string(Modulos));
     EXPECT_EQ(salida.Lineas().back(), "terminando creacion frm usuario");
   }
   EXPECT_EQ(espia_.Sentencias(),
@@ -386,7 +387,7 @@ TEST_F(UsuarioVentana, LaListaVaAlRevesConElLoginEscondido) {
 
 TEST_F(UsuarioVentana, UnaRejillaNuevaNiegaTodo) {
   Abre();
-  EXPECT_EQ(Rejilla()->getNumRows(), 37);
+  EXPECT_EQ(Rejilla()->getNumRows(), Modulos);
   EXPECT_EQ(Rejilla()->getNumColumns(), 4);
   const std::pair<const char*, FXint> columnas[] = {{"Opcion", 400}, {"A", 20}, {"ID", 0}, {"Permiso", 0}};
   const auto exige = [&] {
@@ -405,17 +406,17 @@ TEST_F(UsuarioVentana, UnaRejillaNuevaNiegaTodo) {
     EXPECT_EQ(Rejilla()->getCellColor(0, columna), FXRGB(240, 255, 240));
     EXPECT_EQ(Rejilla()->getCellColor(1, columna), FXRGB(255, 255, 255));
   }
-  EXPECT_EQ(Letras(), std::string(37, 'N'));
+  EXPECT_EQ(Letras(), std::string(Modulos, 'N'));
   EXPECT_STREQ(Rejilla()->getItemText(1, 0).text(), "Monedas");
   EXPECT_EQ(Rejilla()->getItemJustify(1, 0) & FXTableItem::LEFT, FXuint{FXTableItem::LEFT});
   EXPECT_EQ(Rejilla()->getItemStipple(1, 1), STIPPLE_CROSSDIAG);
   Elige("adriana");
-  EXPECT_EQ(Letras(), std::string(37, 'S'));
+  EXPECT_EQ(Letras(), std::string(Modulos, 'S'));
   EXPECT_EQ(Rejilla()->getItemStipple(1, 1), STIPPLE_NONE);
   exige();
   Hojea(forma_, Accesos);
   Manda("&Nuevo");
-  EXPECT_EQ(Letras(), std::string(37, 'N'));
+  EXPECT_EQ(Letras(), std::string(Modulos, 'N'));
   EXPECT_TRUE(espia_.Sentencias().empty());
 }
 
@@ -466,7 +467,7 @@ TEST_F(UsuarioVentana, ElegirPideLoDichoYMuestraLoSuyo) {
       (Textos{"SELECT * FROM spsdomiciliosujeto(" + persona + ");", "SELECT * FROM spsparametro('braulio');",
               "leyendo parametros", "B", "1101-01-00-00-0000      ", "ENTRANDO A READ", SqlCiudad(Zapopan),
               "EstadoMexID -->14", "ciudadid ---> 56", "asigno ciudad", SqlColonias(Zapopan),
-              "Llenar permisos", "No. de modulos -->37", "Termian permisos"}));
+              "Llenar permisos", "No. de modulos -->" + std::to_string(Modulos), "Termian permisos"}));
   Hojea(forma_, Domicilio);
 }
 
@@ -514,7 +515,7 @@ TEST_F(UsuarioVentana, BuscarMuestraSinPermisosYNoHallaUnNombreCorto) {
   EXPECT_EQ(salida.Lineas().at(0), "Entrando a Find ");
   EXPECT_EQ(espia_.Cuantas("permiso"), 0u);
   EXPECT_EQ(Lee("  Nombre: "), "Camila");
-  EXPECT_EQ(Letras(), std::string(37, 'S')) << "los de adriana";
+  EXPECT_EQ(Letras(), std::string(Modulos, 'S')) << "los de adriana";
   EXPECT_EQ(Arbol()->getCurrentItem(), antes);
   Escribe(forma_, "Login:", "braulio");
   Manda("&Buscar");
@@ -1058,20 +1059,20 @@ TEST_F(UsuarioVentana, UnModuloAgregadoCabeEnLaRejilla) {
   base_.Ejecuta(
       "insert into norte.permisomodulo (clavemodulo, usuarioid, permiso) values ('0999', 'braulio', 'S')");
   Elige("braulio");
-  EXPECT_EQ(Rejilla()->getNumRows(), 38) << "lo suyo, aunque la memoria no sepa del módulo";
-  EXPECT_EQ(Letra(37), "S");
+  EXPECT_EQ(Rejilla()->getNumRows(), Modulos + 1) << "lo suyo, aunque la memoria no sepa del módulo";
+  EXPECT_EQ(Letra(Modulos), "S");
   Manda("&Nuevo");
-  EXPECT_EQ(Rejilla()->getNumRows(), 37);
+  EXPECT_EQ(Rejilla()->getNumRows(), Modulos);
   catalogo.LoadModulos();
   Manda("&Nuevo");
-  EXPECT_EQ(Rejilla()->getNumRows(), 38);
-  EXPECT_EQ(Letras(), std::string(38, 'N'));
+  EXPECT_EQ(Rejilla()->getNumRows(), Modulos + 1);
+  EXPECT_EQ(Letras(), std::string(Modulos + 1, 'N'));
   Elige("camila");
-  EXPECT_EQ(Rejilla()->getNumRows(), 38) << "uno queda vacío";
-  EXPECT_EQ(Letra(37), "");
+  EXPECT_EQ(Rejilla()->getNumRows(), Modulos + 1) << "uno queda vacío";
+  EXPECT_EQ(Letra(Modulos), "");
   Hojea(forma_, Accesos);
   PulsaDosVeces(Rejilla(), 37, 0);
-  EXPECT_EQ(Letra(37), "");
+  EXPECT_EQ(Letra(Modulos), "");
 }
 
 TEST_F(UsuarioVentana, QuinientosUsuariosSeListan) {
