@@ -33,7 +33,7 @@ SELECT is_empty($$ SELECT nombre FROM funcion
 SELECT is_empty($$ SELECT oid::regprocedure FROM pg_proc
                     WHERE pronamespace IN ('norte'::regnamespace, 'comun'::regnamespace) AND proconfig IS NULL
                       AND prosqlbody IS NULL AND proowner = 'tolvara_propietario'::regrole
-                      AND has_function_privilege('sucursal_norte', oid, 'EXECUTE') $$,
+                      AND has_function_privilege('adriana', oid, 'EXECUTE') $$,
                 'lo que corre con los ajustes de quien lo llama no lo llama un usuario');
 SELECT is_empty($$ SELECT nombre FROM funcion WHERE proowner <> 'tolvara_propietario'::regrole $$,
                 'todas las funciones de la sucursal son del propietario');
