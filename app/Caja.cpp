@@ -22,6 +22,7 @@ constexpr char desconectado[] = "¡DESCONECTADO!";
 constexpr char lugar[] = "VENTANA";
 constexpr FXint ninguna = -1;
 constexpr FXint anchoMinimo = 400, altoMinimo = 300;
+constexpr FXint orilla = 32;  // what a window manager puts around it
 
 }  // namespace
 
@@ -160,6 +161,8 @@ void Caja::MuestraDondeEstaba() {
     show();
   } else {
     show(PLACEMENT_SCREEN);
+    // On a small screen the title bar would be above it.
+    if (pantallaAncho < getWidth() + orilla || pantallaAlto < getHeight() + orilla) maximize();
   }
   if (lee("maximizada") == 1) maximize();
 }

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <cstdlib>
 #include <fstream>
 #include <memory>
 #include <stdexcept>
@@ -100,9 +101,12 @@ void Mide(medida::Informe& informe, Vigia& vigia, const char* programa, const st
 
 int main(int argc, char* argv[]) {
   medida::Informe informe(argc, argv);
+  // Another than the one of this build: the installed one, with the script that starts it.
+  const char* const otro = getenv("TOLVARA_PROGRAMA");
+  const char* const programa = otro != nullptr ? otro : CORVENA;
   pruebas::App();  // the private X server, and a home without settings
   Vigia vigia;
-  Mide(informe, vigia, CORVENA, "");
+  Mide(informe, vigia, programa, "");
   Mide(informe, vigia, OPERACIONES, " de las operaciones");
   return informe.Codigo();
 }

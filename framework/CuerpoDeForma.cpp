@@ -43,6 +43,8 @@ void Mide(FXWindow* ventana, Falta& falta) {
   }
 }
 
+constexpr FXint orillaDeVentana = 8;  // left and right of a window, what its manager puts around it
+
 /// Are the letters larger than those for which the sizes of the forms are made?
 bool TieneLetraGrande(FXApp* app) {
   constexpr FXuint comun = 100;  // points to the inch
@@ -63,7 +65,7 @@ void Completa(FXMDIChild* forma, FXWindow* cuerpo) {
 
 /// Grows a main window by what `hija` lacks in its area, but not beyond the screen.
 void Ensancha(FXTopWindow* principal, FXint masAncho, FXint masAlto) {
-  constexpr FXint orilla = 8, titulo = 32;  // what a window manager puts around
+  constexpr FXint orilla = orillaDeVentana, titulo = 32;  // what a window manager puts around
   if (principal->isMaximized()) return;
   const FXWindow* const pantalla = principal->getRoot();
   const FXint maximoAncho = std::max(pantalla->getWidth() - orilla, principal->getWidth());
@@ -172,4 +174,10 @@ void CuerpoDeForma::Acomoda() {
   hija->move(std::max(0, hija->getX() - std::max(falta.ancho, 0)),
              std::max(0, hija->getY() - std::max(falta.alto, 0)));
   if (sobra(falta)) hija->maximize();
+}
+
+void CuerpoDeForma::Estrecha() {
+  if (!TieneLetraGrande(forma->getApp())) return;
+  const FXint ancho = forma->getRoot()->getWidth() - orillaDeVentana;
+  if (forma->getDefaultWidth() > ancho) forma->resize(ancho, forma->getDefaultHeight());
 }

@@ -63,6 +63,8 @@ class CuerpoDeForma {
   /// where that is not enough, the form fills the main window. On a screen with larger letters than usual the
   /// form takes the size that shows it whole, if its own does not.
   void Acomoda();
+  /// Keeps a dialog from being wider than the screen where the letters are larger than usual.
+  void Estrecha();
 
   FXList* lstFilas = nullptr;
 

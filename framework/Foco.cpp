@@ -266,6 +266,26 @@ long ListaDeForma::onQueryTip(FXObject* emisor, FXSelector sel, void* datos) {
   return cortada ? FXList::onQueryTip(emisor, sel, datos) : 0;
 }
 
+FXDEFMAP(TablaDeForma)
+TablaDeFormaMap[] = {
+    FXMAPFUNC(SEL_KEYPRESS, 0, TablaDeForma::onKeyPress),
+};
+FXIMPLEMENT(TablaDeForma, FXTable, TablaDeFormaMap, ARRAYNUMBER(TablaDeFormaMap))
+
+long TablaDeForma::onKeyPress(FXObject* emisor, FXSelector sel, void* evento) {
+  switch (static_cast<FXEvent*>(evento)->code) {
+    case KEY_space:
+    case KEY_KP_Space:
+    case KEY_Return:
+    case KEY_KP_Enter:
+      if (target != nullptr && 0 <= current.row)
+        target->tryHandle(this, FXSEL(SEL_DOUBLECLICKED, message), &current);
+      return 1;
+    default:
+      return FXTable::onKeyPress(emisor, sel, evento);
+  }
+}
+
 void DaTeclado(FXWindow* campo) {
   if (campo->id() == 0) return;
   campo->setFocus();

@@ -1,5 +1,6 @@
 // Where the keyboard goes in a form: the chain of Tab, the pages, the keys of every form, the buttons that
-// give it back, the paragraph that lets Tab pass, the list in which a letter only looks.
+// give it back, the paragraph that lets Tab pass, the list in which a letter only looks, the
+// grid that needs no mouse.
 #pragma once
 
 #include <fx.h>
@@ -105,6 +106,18 @@ class ListaDeForma : public FXList {
 
  protected:
   ListaDeForma() {}
+};
+
+/// A grid that only shows and is one piece to Tab. The arrows move about in it; the blank and Enter do what a
+/// double click on the current cell does.
+class TablaDeForma : public FXTable {
+  FXDECLARE(TablaDeForma)
+ public:
+  using FXTable::FXTable;
+  long onKeyPress(FXObject* emisor, FXSelector sel, void* evento);
+
+ protected:
+  TablaDeForma() {}
 };
 
 /// Gives a field the keyboard, a text selected as a whole so that typing replaces it. One that is not on the

@@ -220,6 +220,7 @@ void Forma<Ventana, Base, busqueda>::Comienza() {
   }
   Yo().Clear();
   Yo().Actual().setIsNew(true);
+  if constexpr (std::is_same_v<Base, FXDialogBox>) Estrecha();
 }
 
 template <class Ventana, class Base, Busqueda busqueda>

@@ -3,7 +3,7 @@ raiz=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 paquetes_programa=(g++ cmake ninja-build pkg-config libfox-1.6-dev libpq-dev fonts-liberation) # the face "arial"
 paquetes_servidor=(postgresql-15 postgresql-15-cron)
-paquetes_pantalla=(xvfb openbox xdotool xclip imagemagick)
+paquetes_pantalla=(xvfb openbox xdotool xclip imagemagick x11-utils)
 paquetes_pruebas=(libgtest-dev python3) # whose csv reads the exports back
 paquetes_revision=(clang-format postgresql-15-pgtap libtap-parser-sourcehandler-pgtap-perl pgbackrest)
 

@@ -1,5 +1,7 @@
 #include "catalogs/finance/Tasa_Window.h"
 
+#include <algorithm>
+
 #include "catalogs/finance/NuevoTasa_Window.h"
 
 MAPA_PROPIO(Tasa_Window, MANDO(Tasa_Window, ID_AGREGAR, onCmdAgregar), MANDO(Tasa_Window, ID_FIND, onCmdFind),
@@ -32,16 +34,17 @@ void Tasa_Window::ArmaTabla(const char* titulo, std::initializer_list<Columna> c
   FXVerticalFrame* pagina = ArmaPagina(libro, titulo);
   auto* marco = new FXVerticalFrame(pagina, FRAME_SUNKEN | FRAME_THICK | LAYOUT_FILL_X | LAYOUT_FILL_Y, 0, 0,
                                     0, 0, 0, 0, 0, 0);
-  tabla =
-      new FXTable(marco, this, ID_EDIT, TABLE_COL_SIZABLE | TABLE_READONLY | LAYOUT_FILL_X | LAYOUT_FILL_Y);
+  tabla = new TablaDeForma(marco, this, ID_EDIT,
+                           TABLE_COL_SIZABLE | TABLE_READONLY | LAYOUT_FILL_X | LAYOUT_FILL_Y);
   tabla->setTableSize(20, static_cast<FXint>(columnas.size()));
   tabla->setRowHeaderWidth(0);
   tabla->setVisibleRows(11);
   tabla->setVisibleColumns(1);
   FXint numero = 0;
   for (const auto& [texto, ancho] : columnas) {
+    constexpr FXint orillas = 4;
     tabla->setColumnText(numero, texto);
-    tabla->setColumnWidth(numero++, ancho);
+    tabla->setColumnWidth(numero++, std::max(ancho, tabla->getFont()->getTextWidth(texto) + orillas));
   }
   Boton(pagina, "&Nuevo", iconos::ok_icon, ID_NUEVO, BUTTON_DEFAULT)->setLayoutHints(LAYOUT_LEFT);
 }

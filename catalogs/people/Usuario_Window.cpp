@@ -166,7 +166,7 @@ void Usuario_Window::ArmaDomicilio(FXComposite* pagina) {
 }
 
 void Usuario_Window::ArmaAccesos(FXComposite* pagina) {
-  tabla = new FXTable(pagina, this, ID_PERMISO, TABLE_READONLY | LAYOUT_FILL_X | LAYOUT_FILL_Y);
+  tabla = new TablaDeForma(pagina, this, ID_PERMISO, TABLE_READONLY | LAYOUT_FILL_X | LAYOUT_FILL_Y);
   tabla->setVisibleRows(8);
   tabla->setVisibleColumns(3);
   tabla->setRowHeaderWidth(3);

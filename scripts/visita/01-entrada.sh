@@ -7,7 +7,7 @@ espera_ventana 'Otro programa'
 abre_cliente
 espera_ventana 'Login'
 kill "$otro"
-captura login
+captura login login
 
 paso 'Una contraseña equivocada se rechaza'
 escribe 'equivocada'

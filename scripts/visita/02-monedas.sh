@@ -1,7 +1,7 @@
 # The catalogue of currencies: one is added, refused, found, changed and deleted.
 paso 'El menú abre el catálogo de monedas'
 menu Catalogos
-captura menu-catalogos
+captura menu-catalogos menu
 teclea alt+m
 exige_traza "SELECT * FROM spspermisomodulo('$usuario','0203');"
 exige_traza 'terminando creacion frm pais'
@@ -28,7 +28,7 @@ salta descripcion
 exige_campo 12.5
 vuelve valor
 exige_campo 'Corona del Ensueño'
-captura moneda-encontrada
+captura moneda-encontrada moneda
 
 paso 'Se modifica'
 llena 'Corona modificada' 13.75

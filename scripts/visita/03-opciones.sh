@@ -10,7 +10,7 @@ abre_opcion() {
     hija) exige_traza "$muestra" ;;
     dialogo) espera_ventana "$muestra" ;;
   esac
-  captura "opcion-$nombre"
+  captura "opcion-$nombre" "$nombre"
   teclea alt+c
   [[ $clase != dialogo ]] || espera_cierre
   espera_ventana "$principal"
@@ -22,7 +22,7 @@ niega_opcion() {
   paso "Se niega a $2 la opción $nombre"
   espera_ventana "$principal"
   elige "$nombre"
-  responde 'Acceso NO AUTORIZADO' Return "negada-a-$2-$nombre"
+  responde 'Acceso NO AUTORIZADO' Return "negada-a-$2-$nombre" sin-permiso
   exige_traza "SELECT * FROM spspermisomodulo('$2','$modulo');"
 }
 
@@ -33,7 +33,7 @@ done
 paso 'Motivos Baja se abre sin preguntar por un permiso'
 elige motivos-baja
 exige_traza 'terminando creacion frm motivobaja'
-captura opcion-motivos-baja
+captura opcion-motivos-baja motivos-baja
 teclea alt+c
 
 paso 'Clasificacion de Creditos no hace nada'

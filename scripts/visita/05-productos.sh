@@ -15,7 +15,7 @@ exige_dato "SELECT formula FROM calculo WHERE descripcioncalculo = 'Tasa del añ
 espera_ventana 'Formulas de Calculos'
 elige_ultimo
 exige_campo 'Tasa del año'
-captura formula-elegida
+captura formula-elegida formulas
 llena 'Tasa corregida'
 confirma alt+a 'Calculo' formula-guardar
 exige_dato "SELECT formula FROM calculo WHERE descripcioncalculo = 'Tasa corregida'" 'saldo * tasa / 100'
@@ -42,7 +42,7 @@ salta cuentas-de-orden
 pon_cuentas 2
 llena 1 2 16
 pon_cuentas 2
-captura tipo-de-movimiento-nuevo
+captura tipo-de-movimiento-nuevo tipo-de-movimientos
 confirma alt+a 'Tipo de Movimiento' tipo-de-movimiento-registrar
 exige_dato "SELECT desctipomovimiento, tasainteres, rtrim(cuentaivacomision) FROM tipomovimiento
              WHERE tipomovimientoid = 'QZ'" 'Ahorro de prueba|3.500000|1101-01-00-00-0000'
@@ -77,7 +77,7 @@ salta iva
 opta 1
 salta isr
 baja 1 # the classification
-captura tipo-de-inversion-nuevo
+captura tipo-de-inversion-nuevo tipo-de-inversion
 confirma alt+a 'Tipo de Inversión' tipo-de-inversion-registrar
 exige_dato "SELECT desctipoinversion, rtrim(cuentapasivo) FROM tipoinversion WHERE tipoinversionid = 'QZ'" \
   'Plazo de otoño|1101-01-00-00-0000'
@@ -95,22 +95,56 @@ teclea alt+c
 paso 'Un tipo de préstamo con solo la clave se rechaza'
 elige tipo-de-prestamos
 exige_traza 'terminando creacion frm tipoprestamo'
-pulsa prestamo-clave
 escribe QZ
 teclea alt+a
 responde 'Error en Validación' Return prestamo-rechazado
 
+# The accounts of the page that is up, $1 of them, with the keyboard left in the page.
+llena_cuentas() {
+  pon_cuentas $(($1 - 1))
+  opta 4
+  captura "prestamo-nuevo-$2"
+}
+
+paso 'Por sus seis páginas se agrega, y se borra'
+nuevo QZ 'Crédito de otoño' 3 18 36
+opta 1 # the movement, the two formulas, the purpose
+opta 1
+opta 1
+baja 1
+captura prestamo-nuevo-generales
+hojea
+llena 90 50000 36 1000 2 30
+salta estatus grupal
+llena 1 16 10 130106
+escribe 1
+captura prestamo-nuevo-parametros
+hojea
+llena_cuentas 5 activo
+hojea
+llena_cuentas 9 pasivo
+hojea
+llena_cuentas 7 resultados
+hojea
+llena_cuentas 7 orden
+confirma alt+a 'Tipo de Prestamo' prestamo-registrar
+exige_dato "SELECT desctipoprestamo, rtrim(cuentaactivo) FROM tipoprestamo WHERE tipoprestamoid = 'QZ'" \
+  'Crédito de otoño|1101-01-00-00-0000'
+confirma alt+r 'Tipo de Prestamo' prestamo-borrar
+exige_dato "SELECT count(*) FROM tipoprestamo WHERE tipoprestamoid = 'QZ'" 0
+
 paso 'Se ven las páginas de uno, y se modifica'
 teclea alt+n
-pulsa prestamo-clave
+hojea # from the last page to the first
 escribe ORD
-pulsa prestamo-buscar
-captura prestamo-generales
+teclea alt+b
+exige_campo ORD
+captura prestamo-generales prestamo-generales
 for pagina in parametros activo pasivo resultados orden generales; do
-  pulsa "prestamo-$pagina"
-  captura "prestamo-$pagina"
+  hojea
+  captura "prestamo-$pagina" "prestamo-$pagina"
 done
-pulsa prestamo-descripcion
+salta clave
 llena 'Ordinario de otoño'
 confirma alt+a 'Tipo de Prestamo' prestamo-guardar
 exige_dato "SELECT desctipoprestamo FROM tipoprestamo WHERE tipoprestamoid = 'ORD'" 'Ordinario de otoño'

@@ -8,8 +8,12 @@ guarda_usuario() {
   responde 'Usuario' Return "usuario-$1-bien"
   espera_ventana "$principal"
 }
-# Turns the right of the row around, and the letter with it.
-alterna() { pulsa "usuario-$1" 2; }
+# From the list into the grid of the rights, which is up, to the row of Monedas. The blank turns a right around.
+va_a_los_accesos() {
+  salta lista login tipo jefe email impresora observaciones
+  teclea ctrl+Home
+  baja 1 # behind Desconectarse
+}
 
 permisos_de_nueva() {
   exige_dato "SELECT string_agg(rtrim(clavemodulo), ',' ORDER BY clavemodulo) FROM permisomodulo
@@ -35,7 +39,6 @@ nuevo "$nueva"
 opta 3 # Consulta, whose users begin with no right at all
 salta jefe
 llena "$nueva@ensueno.example" caja 'De prueba'
-pulsa usuario-apellido
 llena 'Peña' 'Acuña' 'Ximena'
 escribe '4/3/1990'
 salta fecha
@@ -45,34 +48,33 @@ captura usuario-nacimiento
 pon_dia 5
 espera_ventana "$principal"
 exige_traza "Query==select * from generarfc('Peña','Acuña','Ximena','05/03/1990');"
-captura usuario-rfc
+captura usuario-rfc usuario-generales
 
 paso 'Un código postal que no existe se rechaza'
-pulsa usuario-domicilio
-pulsa usuario-codigo
+hojea
 llena 99999
 teclea space
 responde 'Error en Validación' Return codigo-postal-rechazado
 
 paso 'El que existe trae el estado, el municipio y las colonias'
-pulsa usuario-codigo
+vuelve codigo
 llena 44720
 teclea space
 exige_traza 'EstadoMexID 14'
 salta estado municipio colonia
 baja 1 # the first neighbourhood
 salta colonia
-llena 'Calle del Sol' 12 B 'La Peña' '33 1234 5678'
-pulsa usuario-domicilio
-captura usuario-domicilio
+llena 'Calle del Sol' 12 B 'La Peña'
+escribe '33 1234 5678'
+captura usuario-domicilio usuario-domicilio
 
 paso 'Con su serie y su cuenta se agrega'
-pulsa usuario-parametros
-pulsa usuario-serie
+hojea
+hojea
 escribe XI
 salta serie
 baja 4 # an account that takes postings
-captura usuario-parametros
+captura usuario-parametros usuario-parametros
 guarda_usuario registrar
 exige_traza "select * from creausuario('$nueva','tolvara_usuarios');"
 exige_dato "SELECT s.nombre, s.paterno, s.fechanacimiento, s.rfc = generarfc.rfc, d.codpostal, c.nombrecolonia
@@ -84,10 +86,12 @@ permisos_de_nueva ''
 paso 'En la rejilla se le dan dos opciones'
 pulsa usuario-fila
 exige_traza 'Termian permisos'
-pulsa usuario-accesos
-alterna monedas
-alterna movimientos
-captura usuario-accesos
+teclea ctrl+Prior # to the rights, from the page behind them
+va_a_los_accesos
+teclea space
+baja 2 # Movimientos Bancarios
+teclea space
+captura usuario-accesos usuario-accesos
 guarda_usuario permisos
 permisos_de_nueva '0203,0205'
 
@@ -144,7 +148,8 @@ paso 'El administrador le quita las monedas mientras las tiene abiertas'
 pasa_a "$ventana_administrador"
 pulsa usuario-fila
 exige_traza 'Termian permisos'
-alterna monedas
+va_a_los_accesos
+teclea space
 captura usuario-sin-monedas
 guarda_usuario sin-monedas
 permisos_de_nueva 0205

@@ -36,9 +36,6 @@ cierra_dialogo() {
   espera_ventana "$operaciones"
 }
 
-# Brings up the next page of the dialog, whose first field then has the keyboard.
-pasa_pagina() { teclea ctrl+Next; }
-
 # Opens the search dialog by the key $1.
 busca() {
   ventana=$(xdotool getactivewindow)
@@ -55,7 +52,7 @@ filtra_y_toma() {
   exige_traza "SELECT * FROM $2('$1');"
   salta lupa buscar
   teclea End # the last row of the list
-  captura "$3"
+  captura "$3" "busqueda-$3"
   teclea alt+a
 }
 
@@ -75,14 +72,14 @@ espera_ventana "$operaciones"
 captura operaciones
 menu Inicio
 salta_paneles 4
-captura operaciones-menu
+captura operaciones-menu operaciones
 teclea Escape
 
 paso 'Un asesor se agrega y se borra'
 opera asesores
 exige_traza 'terminando creacion frm pais'
 nuevo 97 'Ñico Lagos'
-captura asesores
+captura asesores asesores
 confirma alt+a 'Asesor' asesor-registrar
 exige_dato "SELECT nomasesor FROM asesor WHERE asesorid = 97" 'Ñico Lagos'
 confirma alt+r 'Asesor' asesor-borrar
@@ -92,7 +89,7 @@ teclea alt+c
 paso 'Se ven las clasificaciones de créditos'
 opera clasificaciones
 exige_traza 'terminando creacion frm clasificacioncredito'
-captura clasificaciones
+captura clasificaciones clasificacion-de-creditos
 teclea alt+c
 
 paso 'Un grupo se agrega y se borra'
@@ -103,7 +100,7 @@ confirma alt+a 'Grupo' grupo-registrar
 exige_dato "SELECT count(*) FROM grupo WHERE grupo = 'Grupo de los Soñadores'" 1
 elige_ultimo
 exige_campo 'Grupo de los Soñadores'
-captura grupos
+captura grupos grupos
 confirma alt+r 'Grupo' grupo-borrar
 exige_dato "SELECT count(*) FROM grupo WHERE grupo = 'Grupo de los Soñadores'" 0
 teclea alt+c
@@ -114,7 +111,7 @@ nuevo '' 'Herramienta' 12.5 10 5000
 opta 1
 llena 90
 pon_cuentas 4
-captura depreciacion-nueva
+captura depreciacion-nueva depreciaciones
 confirma alt+a 'Tipo de Depreciacion' depreciacion-registrar
 exige_dato "SELECT depretasacontable, depreporcentaje FROM depreciacion WHERE depredescripcion = 'Herramienta'" '12.5000|90.0000'
 espera_ventana 'Depreciaciones'
@@ -138,13 +135,13 @@ opta 1
 llena 1000 50 900 'Bodega' 'S-77' 1200
 opta 1
 baja 1
-captura activo-generales
-pasa_pagina
+captura activo-generales activo-generales
+hojea
 escribe '1x/2/2026' # the letter is refused
 exige_campo '1/2/2026'
 salta fecha
 busca space
-captura calendario
+captura calendario calendario
 pon_dia 2 calendario-otro-dia
 espera_ventana 'Activo'
 vuelve calendario
@@ -152,8 +149,8 @@ exige_campo '2/2/2026'
 salta fecha calendario
 llena 10 20
 baja 1
-captura activo-contable
-pasa_pagina
+captura activo-contable activo-contable
+hojea
 llena '3/2/2026'
 salta calendario
 teclea space
@@ -161,14 +158,14 @@ salta deduccion
 llena 10 20
 opta 1
 escribe 500
-captura activo-fiscal
+captura activo-fiscal activo-fiscal
 confirma alt+a 'Activo' activo-registrar
 exige_dato "SELECT activodescripcion, feciniciodepconta, feciniciodepfiscal, actdeduccioninme FROM activo WHERE activoclave = 'QZ-1'" \
   'Torno de prueba|2026-02-02|2026-02-03|S'
 
 paso 'Se modifica y se borra'
 espera_ventana 'Activo'
-pasa_pagina # round to the first one
+hojea # round to the first one
 elige_ultimo
 exige_campo 'QZ-1'
 llena 'QZ-2'
@@ -184,7 +181,7 @@ paso 'Una ciudad se agrega y se borra'
 opera_dialogo ciudades 'Ciudad'
 nuevo '' QZ 'Zona de la Peña'
 baja 1 # the first state
-captura ciudad-nueva
+captura ciudad-nueva ciudades
 confirma alt+a 'Ciudadades' ciudad-registrar
 exige_dato "SELECT estadomexid FROM ciudadesmex WHERE nombreciudadmex = 'Zona de la Peña'" 1
 espera_ventana 'Ciudad'
@@ -205,7 +202,7 @@ espera_ventana 'Estados'
 elige_ultimo
 salta clave
 exige_campo 'Tierra de la Peña'
-captura estado-elegido
+captura estado-elegido estados
 confirma alt+r 'EstadoMex' estado-borrar
 exige_dato "SELECT count(*) FROM estadosmex WHERE claveestadomex = 'QZ'" 0
 espera_ventana 'Estados'
@@ -214,7 +211,7 @@ cierra_dialogo
 paso 'Un tipo de asentamiento se agrega y se borra'
 opera_dialogo tipos-de-asentamiento 'Tipos de asentamiento'
 nuevo 77 'Ranchería Ñandú'
-captura tipo-de-asentamiento
+captura tipo-de-asentamiento tipos-de-asentamiento
 confirma alt+a 'Tipo de asentamiento' tipo-de-asentamiento-registrar
 exige_dato "SELECT rtrim(asentamiento) FROM tipoasentamiento WHERE tipoasentamientoid = 77" 'Ranchería Ñandú'
 espera_ventana 'Tipos de asentamiento'
@@ -230,7 +227,7 @@ vuelve mostrar codigo
 escribe "$codigo"
 teclea alt+m
 exige_traza "SELECT * FROM spscoloniacp($codigo);"
-captura colonias
+captura colonias colonias
 nuevo '' 'Peña Alta' "$codigo"
 opta 2
 baja 1
@@ -245,7 +242,7 @@ cierra_dialogo
 
 paso 'Una cuenta se busca en el árbol del catálogo'
 opera_dialogo cuentas 'Catálogo de cuentas'
-captura cuentas
+captura cuentas catalogo-de-cuentas
 vuelve cuenta arbol
 escribe 'caja chica'
 exige_campo 'caja chica'
@@ -260,7 +257,7 @@ salta acumula
 busca space
 escribe '1301x' # no account continues so: the letter is taken back
 exige_campo '1301'
-captura busqueda-de-cuentas
+captura busqueda-de-cuentas busqueda
 salta buscar lista
 escribe 'Bancos'
 salta filtro
@@ -293,10 +290,10 @@ espera_ventana 'Bienes de una persona'
 teclea alt+n
 espera_ventana 'Bien'
 llena 'Adriana Supuesto' 'Terreno de la Peña' 'Baldo' 'Libro 3' 'Ninguna' 90000 80000 70000 50
-captura bien
+captura bien bien
 teclea alt+a
 espera_ventana 'Bienes de una persona'
-captura bienes
+captura bienes bienes
 confirma alt+a 'Bienes' bienes-guardar
 exige_dato "SELECT valorfiscal, adjudicado FROM bienes WHERE describien = 'Terreno de la Peña'" '80000.00|N'
 espera_ventana 'Bienes de una persona'
@@ -317,7 +314,7 @@ paso 'Se corre el pre-cierre del mes pasado y se exporta'
 dia=$(date -d "$(date +%Y-%m-01) -1 day" +%d/%m/%Y)
 opera_dialogo precierre 'Pre-Cierre'
 escribe "$dia"
-captura precierre
+captura precierre precierre
 teclea alt+p
 espera_ventana 'Pre-Corte'
 captura precierre-pregunta
@@ -338,12 +335,12 @@ teclea Escape
 paso 'Se pide el reporte de personas, de la sucursal y consolidado, y se imprime'
 opera_dialogo reporte-de-personas 'Busqueda Sujeto'
 escribe 'Mar'
-captura reporte-personas
+captura reporte-personas reporte-personas
 salta paterno materno nombre otros consolidado imprimir
 teclea space # &Consulta
 espera_ventana 'Reporte'
 exige_traza "SELECT * FROM spssujeto('Mar','','','');"
-captura reporte-personas-visto
+captura reporte-personas-visto reporte
 cierra_reporte 'Busqueda Sujeto'
 vuelve consulta imprimir
 teclea space # CONSOLIDADO

@@ -43,7 +43,7 @@ cierra_dialogo
 paso 'Una lista se filtra, se ve como reporte y se imprime'
 opera listas
 exige_traza "SELECT * FROM spspermisomodulo('$usuario','0911');"
-captura listas
+captura listas listas
 lista_de 'Cuentas'
 baja 1 # behind those of the banks
 captura lista-de-cuentas
@@ -96,7 +96,7 @@ escribe depreciacion
 teclea alt+b
 exige_traza "SELECT * FROM spsbitacora('','','','depreciacion','1','',0);"
 exige_traza 'SELECT * FROM spsbitacoradetalle('
-captura bitacora-de-la-tasa
+captura bitacora-de-la-tasa bitacora
 escribe_csv bitacora.csv bitacora-csv
 linea=$(sed -n 2p "$HOME/bitacora.csv")
 [[ $linea == *",$usuario,Cambio,depreciacion,"*,1,* ]] || no_paso "la primera línea es: $linea"
@@ -105,7 +105,7 @@ teclea alt+c
 paso 'Todos los usuarios contra todas las opciones'
 opera permisos
 exige_traza 'SELECT * FROM spsmatrizpermisos();'
-captura permisos
+captura permisos permisos
 escribe_csv permisos.csv permisos-csv
 exige_filas permisos.csv "$(servidor psql "$sucursal" -XAtc 'SELECT count(*) FROM usuario')"
 teclea alt+c

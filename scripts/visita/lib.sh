@@ -183,6 +183,10 @@ elige_ultimo() {
 salta() { teclea ${@/*/Tab}; }
 vuelve() { teclea ${@/*/shift+Tab}; }
 
+# The next page of the form, with the keyboard in its first field if it was in a page. Not by a click on its tab: what is
+# clicked right after it could still be on the page before.
+hojea() { teclea ctrl+Next; }
+
 # The item at place $1 of the combo box with the keyboard, counted from 1; the keyboard is then behind it.
 opta() {
   baja "$1"
@@ -249,16 +253,17 @@ pon_cuentas() {
   done
 }
 
-# Answers a box: waits for the one with this title, takes its picture, types a key and sees it go.
+# Answers a box: waits for the one with this title, takes its picture (the manual's too, if $4 names it), types a key and
+# sees it go.
 responde() {
-  local titulo=$1 tecla=$2 nombre=$3
+  local titulo=$1 tecla=$2 nombre=$3 imagen=${4:-}
   espera_ventana "$titulo"
-  captura "$nombre"
+  captura "$nombre" $imagen
   teclea "$tecla"
   espera_cierre
 }
 
-# The picture of the screen once nothing moves, as NN-$1.png.
+# The picture of the screen once nothing moves, as NN-$1.png, and of the window in front, as the manual's picture $2.
 captura() {
   local archivo anterior='' huella='' limite=$((SECONDS + paciencia))
   printf -v archivo '%s/%02d-%s.png' "$salida" "$((++fotos))" "$1"
@@ -267,6 +272,34 @@ captura() {
     import -silent -window root "$archivo"
     huella=$(identify -format '%#' "$archivo")
   done
+  [[ ! ${2:-} ]] || retrata "$archivo" "$2"
+}
+
+# The form that is up in the main window, or else the window with the keyboard in its frame, out of the picture $1 of the
+# screen. See scripts/imagenes.
+retrata() {
+  local activa area hija lugar ventana
+  mkdir -p "$salida/manual"
+  activa=$(xdotool getactivewindow)
+  lugar=$(de_marco -id "$(xwininfo -children -id "$activa" | awk '/Parent window id:/ { print $4 }')")
+  if es_activa "$principal" || es_activa "$operaciones"; then
+    # The area is the largest piece of the main window; of its own ones the one in front comes first.
+    area=$(piezas "$activa" | sort -k2,2n | sed -n '$s/ .*//p')
+    hija=$(piezas "$area" | awk '$2 > 20000 && !hay++ { print $1 }')
+    [[ ! $hija ]] || lugar=$(de_marco -id "$hija")
+  fi
+  convert "$1" -crop "$lugar" +repage -colors 255 "PNG8:$salida/manual/$2.png"
+}
+de_marco() {
+  xwininfo "$@" | awk '/Absolute upper-left X/ { x = $NF } /Absolute upper-left Y/ { y = $NF }
+    $1 == "Width:" { ancho = $2 } $1 == "Height:" { alto = $2 } END { printf "%dx%d+%d+%d", ancho, alto, x, y }'
+}
+# The pieces of a window, the one in front first: number and size of each.
+piezas() {
+  xwininfo -children -id "$1" | awk '$1 ~ /^0x/ && match($0, /  [0-9]+x[0-9]+[+-]/) {
+    split(substr($0, RSTART + 2), medida, "[x+-]")
+    print $1, medida[1] * medida[2]
+  }'
 }
 
 # --- outcomes ------------------------------------------------------------------------------------------------------

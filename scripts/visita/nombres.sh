@@ -63,15 +63,8 @@ for operacion in "${operaciones_en_orden[@]}"; do operacion_en[${operacion%%|*}]
 
 # Places of the screen, "x y": of a form at the place where it opens.
 declare -A punto=(
-  [prestamo-clave]='417 186' [prestamo-buscar]='862 190' [prestamo-descripcion]='593 247'
-  [prestamo-parametros]='442 224' [prestamo-activo]='494 224' [prestamo-pasivo]='544 224' [prestamo-resultados]='598 224'
-  [prestamo-orden]='654 224' [prestamo-generales]='374 224'
-  [tasas-nuevo]='158 520' [tasas-titulo]='414 136' [tasa-fecha-inicial]='265 215'
+  [tasas-nuevo]='158 520' [tasa-fecha-inicial]='265 215'
   [usuario-fila]='230 202' [usuario-borrar]='870 217'
-  [usuario-generales]='376 336' [usuario-apellido]='460 358'
-  [usuario-domicilio]='455 336' [usuario-codigo]='430 360'
-  [usuario-accesos]='545 336' [usuario-monedas]='600 395' [usuario-movimientos]='600 433'
-  [usuario-parametros]='642 336' [usuario-serie]='469 360'
 )
 # The same inside the active window.
 declare -A punto_de_ventana=([usuario-login]='337 101' [usuario-buscar]='757 104')

@@ -1,3 +1,6 @@
+-- The branch asks for the program that came with its template.
+UPDATE :"sucursal".empresa SET version = DEFAULT;
+
 -- The old branch has given everything.
 RESET ROLE;
 SET LOCAL client_min_messages = error;

@@ -3,22 +3,25 @@
 SET LOCAL ROLE tolvara_propietario;
 SET LOCAL search_path TO comun, pg_temp;
 
+-- Those of texts and numbers are called for each argument of each save, and settings of their own would cost most of their
+-- time: they run with those of the function that calls them, and depend on none. Nobody is granted them.
+
 -- A text of at most `ancho` characters, trailing blanks apart; NULL becomes ''. Only what can be seen and told apart gets
 -- in: Latin letters, figures and common signs, each of them one character. Control, combining and invisible characters,
 -- other blanks than the blank and the letters of other scripts would make two names that look the same, or a name that
 -- writes a line of its own into a report. A paragraph may have ends of line and tabs besides.
 CREATE OR REPLACE FUNCTION texto_valido(valor text, ancho integer, campo text, en_parrafo boolean) RETURNS text
-LANGUAGE plpgsql IMMUTABLE SET search_path FROM CURRENT SET standard_conforming_strings TO on AS $$
+LANGUAGE plpgsql IMMUTABLE AS $$
 DECLARE
-  visible CONSTANT text := '\u0020-\u007e\u00a1-\u00ac\u00ae-\u024f\u02bc\u1e00-\u1eff\u2010-\u2027\u2030-\u205e'
-                           '\u20a0-\u20c0\u2122';
+  visible CONSTANT text := E'\\u0020-\\u007e\\u00a1-\\u00ac\\u00ae-\\u024f\\u02bc\\u1e00-\\u1eff\\u2010-\\u2027'
+                           '\\u2030-\\u205e\\u20a0-\\u20c0\\u2122';
   extranio text;
 BEGIN
   IF char_length(rtrim(valor)) > ancho THEN
     RAISE EXCEPTION 'No cabe %: tiene % caracteres y admite %', campo, char_length(rtrim(valor)), ancho
       USING ERRCODE = 'string_data_right_truncation';
   END IF;
-  extranio := substring(rtrim(valor) FROM '[^' || visible || CASE WHEN en_parrafo THEN '\t\n\r' ELSE '' END || ']');
+  extranio := substring(rtrim(valor) FROM '[^' || visible || CASE WHEN en_parrafo THEN E'\\t\\n\\r' ELSE '' END || ']');
   IF extranio IS NOT NULL THEN
     RAISE EXCEPTION 'No se admite en % el carácter U+%: no se ve o se confunde con otro', campo,
       lpad(upper(to_hex(ascii(extranio))), 4, '0') USING ERRCODE = 'untranslatable_character';
@@ -27,7 +30,7 @@ BEGIN
 END $$;
 
 CREATE OR REPLACE FUNCTION exige_texto(valor text, campo text) RETURNS void
-LANGUAGE plpgsql IMMUTABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql IMMUTABLE AS $$
 BEGIN
   IF coalesce(btrim(valor, E' \t\r\n'), '') = '' THEN
     RAISE EXCEPTION 'Falta %', campo USING ERRCODE = 'not_null_violation';
@@ -36,42 +39,42 @@ END $$;
 
 -- An optional text of one line, and one that must not be blank.
 CREATE OR REPLACE FUNCTION texto(valor text, ancho integer, campo text) RETURNS text
-LANGUAGE plpgsql IMMUTABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql IMMUTABLE AS $$
 BEGIN
-  RETURN texto_valido(valor, ancho, campo, false);
+  RETURN comun.texto_valido(valor, ancho, campo, false);
 END $$;
 
 CREATE OR REPLACE FUNCTION obligatorio(valor text, ancho integer, campo text) RETURNS text
-LANGUAGE plpgsql IMMUTABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql IMMUTABLE AS $$
 BEGIN
-  PERFORM exige_texto(valor, campo);
-  RETURN texto_valido(valor, ancho, campo, false);
+  PERFORM comun.exige_texto(valor, campo);
+  RETURN comun.texto_valido(valor, ancho, campo, false);
 END $$;
 
 -- An optional paragraph, and one that must not be blank.
 CREATE OR REPLACE FUNCTION parrafo(valor text, ancho integer, campo text) RETURNS text
-LANGUAGE plpgsql IMMUTABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql IMMUTABLE AS $$
 BEGIN
-  RETURN texto_valido(valor, ancho, campo, true);
+  RETURN comun.texto_valido(valor, ancho, campo, true);
 END $$;
 
 CREATE OR REPLACE FUNCTION parrafo_obligatorio(valor text, ancho integer, campo text) RETURNS text
-LANGUAGE plpgsql IMMUTABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql IMMUTABLE AS $$
 BEGIN
-  PERFORM exige_texto(valor, campo);
-  RETURN texto_valido(valor, ancho, campo, true);
+  PERFORM comun.exige_texto(valor, campo);
+  RETURN comun.texto_valido(valor, ancho, campo, true);
 END $$;
 
 -- A text that is NULL when blank, as references to another table are; otherwise as texto().
 CREATE OR REPLACE FUNCTION opcional(valor text, ancho integer, campo text) RETURNS text
-LANGUAGE plpgsql IMMUTABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql IMMUTABLE AS $$
 BEGIN
-  RETURN CASE WHEN btrim(valor) <> '' THEN texto(valor, ancho, campo) END;
+  RETURN CASE WHEN btrim(valor) <> '' THEN comun.texto(valor, ancho, campo) END;
 END $$;
 
 -- A number between both bounds, inclusive; NaN sorts above any number. The column rounds to its own decimals.
 CREATE OR REPLACE FUNCTION numero(valor numeric, minimo numeric, maximo numeric, campo text) RETURNS numeric
-LANGUAGE plpgsql IMMUTABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql IMMUTABLE AS $$
 BEGIN
   IF valor IS NULL THEN
     RAISE EXCEPTION 'Falta %', campo USING ERRCODE = 'not_null_violation';

@@ -5,9 +5,9 @@ SET LOCAL search_path TO comun, pg_temp;
 
 -- A mark of 'S' or 'N'.
 CREATE OR REPLACE FUNCTION letra_si_no(valor text, campo text) RETURNS text
-LANGUAGE plpgsql IMMUTABLE SET search_path FROM CURRENT AS $$
+LANGUAGE plpgsql IMMUTABLE AS $$
 BEGIN
-  IF obligatorio(valor, 1, campo) NOT IN ('S', 'N') THEN
+  IF comun.obligatorio(valor, 1, campo) NOT IN ('S', 'N') THEN
     RAISE EXCEPTION 'Debe ser S o N %', campo USING ERRCODE = 'check_violation';
   END IF;
   RETURN valor;

@@ -363,6 +363,31 @@ TEST_F(CajaConServidorTest, ConLetraGrandeUnaFormaCreceLoQueLeFalta) {
   App().setNormalFont(comun);
 }
 
+TEST_F(CajaConServidorTest, ConLetraGrandeUnDialogoNoEsMasAnchoQueLaPantalla) {
+  const Sesion sesion(*base_);
+  IsConectado = true;
+  FXFont* const comun = App().getNormalFont();
+  FXFont grande(&App(), "arial", 260);
+  grande.create();
+  App().setNormalFont(&grande);
+  const FXint pantalla = App().getRootWindow()->getWidth();
+  for (const FXuint resolucion : {100u, 192u}) {
+    App().reg().writeUnsignedEntry(Seccion, "screenres", resolucion);
+    Guion guion;
+    guion.Con([&](FXDialogBox* ventana) {
+      EXPECT_EQ(ventana->getWidth() > pantalla, resolucion == 100) << ventana->getWidth();
+      const FXButton* const cerrar = Boton(ventana, "&Cerrar");
+      FXint x = 0, y = 0;
+      cerrar->translateCoordinatesTo(x, y, ventana, 0, 0);
+      EXPECT_EQ(x + cerrar->getWidth() > pantalla, resolucion == 100);
+      Pulsa(Boton(ventana, "&Cerrar"));
+    });
+    Pulsa(Opcion(caja_.get(), "Formulas"));
+    EXPECT_EQ(guion.Cuadros().size(), 1u);
+  }
+  App().setNormalFont(comun);
+}
+
 /// The main window as the program makes it, its first login closed.
 class CajaEnSuLugarTest : public SinSesion {
  protected:

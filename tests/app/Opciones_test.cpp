@@ -1,5 +1,7 @@
 // The options of the menu: whose permission each one asks, which form it opens, and which slots are in its
 // way.
+#include <fxkeys.h>
+
 #include <algorithm>
 
 #include "tests/app/ConCaja.h"
@@ -135,6 +137,24 @@ TEST_F(OpcionesTest, CadaUnaPreguntaPorSuModuloYAbreSuForma) {
     EXPECT_EQ(espia.Cuantas("permiso"), opcion.modulo ? 1u : 0u);
     EXPECT_EQ(Abiertas(), EsHija(opcion) ? Textos{opcion.forma} : Textos{});
     CierraTodas();
+  }
+}
+
+TEST_F(OpcionesTest, CadaDialogoSeCierraConEscape) {
+  const Sesion sesion(*base_);
+  for (const Renglon& opcion : Opciones) {
+    if (EsHija(opcion)) continue;
+    SCOPED_TRACE(opcion.forma);
+    Guion guion;
+    guion.Con([](FXDialogBox* ventana) {
+      FXWindow* foco = ventana;
+      while (foco->getFocus() != nullptr) foco = foco->getFocus();
+      Tecla(foco, KEY_Escape);
+      EXPECT_FALSE(ventana->shown());
+      if (ventana->shown()) Pulsa(Boton(ventana, "&Cerrar"));
+    });
+    Manda(opcion.mensaje);
+    EXPECT_EQ(guion.Cuadros().size(), 1u);
   }
 }
 

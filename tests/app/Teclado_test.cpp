@@ -10,15 +10,6 @@
 namespace pruebas {
 namespace {
 
-/// One for all, and ahead of the windows.
-struct ConEscritorio {
-  static Escritorio& Unico() {
-    static Escritorio unico;
-    return unico;
-  }
-  Escritorio& escritorio_ = Unico();
-};
-
 class TecladoTest : public ConEscritorio, public ConCaja {
  protected:
   void SetUp() override {
@@ -135,6 +126,29 @@ TEST_F(TecladoTest, AlCerrarUnaFormaLaOtraTieneElTeclado) {
   EXPECT_EQ(Lugar(), "Descripción:");
   escritorio_.Escribe("hola");
   EXPECT_EQ(Leido(monedas_, "Descripción:"), "hola");
+}
+
+TEST_F(TecladoTest, LaVentanaMaximizadaVuelveMaximizadaYConSuTamanoDeAntes) {
+  const auto anotado = [](const char* llave) { return App().reg().readIntEntry("VENTANA", llave, -1); };
+  const auto abre = [] {
+    Guion guion;
+    guion.Con([](FXDialogBox* login) { Pulsa(Boton(login, "&Cerrar")); });
+    auto caja = std::make_unique<Caja>(&App());
+    caja->create();
+    return caja;
+  };
+  auto caja = abre();
+  caja->position(20, 30, 760, 540);
+  ASSERT_TRUE(BombeaHasta([&] { return anotado("ancho") == 760 && anotado("alto") == 540; }));
+  caja->maximize();
+  ASSERT_TRUE(BombeaHasta([&] { return anotado("maximizada") == 1; }));
+  EXPECT_EQ(anotado("ancho"), 760);
+  EXPECT_EQ(anotado("alto"), 540);
+
+  caja = abre();
+  EXPECT_TRUE(BombeaHasta([&] { return caja->isMaximized() != FALSE; }));
+  caja->restore();
+  EXPECT_TRUE(BombeaHasta([&] { return caja->getWidth() == 760 && caja->getHeight() == 540; }));
 }
 
 }  // namespace

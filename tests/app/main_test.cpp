@@ -21,5 +21,17 @@ TEST(main, UnTextoQueNadieAtrapaSeEscribeEnUnaLineaYTerminaBien) {
   EXPECT_EQ(fin.salida, "El reloj se paró\n");
 }
 
+TEST(main, SinPantallaLoDiceYTerminaConUno) {
+  const CarpetaTemporal casa;
+  for (const char* const pantalla : {"", ":4567", "no es una pantalla", "%s%n"}) {
+    const Resultado fin = Corre({{TOLVARA_PROGRAMA},
+                                 "",
+                                 {"HOME=" + casa.Ruta().string(), "DISPLAY=" + std::string(pantalla),
+                                  "ASAN_OPTIONS=detect_leaks=0"}});
+    EXPECT_EQ(fin.codigo, 1) << pantalla;
+    EXPECT_EQ(fin.salida, "No hay pantalla: abra el programa desde una sesión gráfica.\n") << pantalla;
+  }
+}
+
 }  // namespace
 }  // namespace pruebas

@@ -1,6 +1,7 @@
 // The form of the users.
 #include "catalogs/people/Usuario_Window.h"
 
+#include <fxkeys.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -689,6 +690,35 @@ TEST_F(UsuarioVentana, UnPermisoTocadoSeMandaSoloYUnoTocadoDosVecesConSuLetra) {
   EXPECT_EQ(Letra("braulio", "0204"), "S");
   Acepta();
   EXPECT_EQ(espia_.Cuantas("permiso"), 0u);
+}
+
+TEST_F(UsuarioVentana, LaRejillaSeManejaSinRaton) {
+  Muda("braulio", Zapopan);
+  Abre();
+  Elige("braulio");
+  Hojea(forma_, Accesos);
+  const auto foco = [&] {
+    FXWindow* pieza = forma_->getShell();
+    while (pieza->getFocus() != nullptr) pieza = pieza->getFocus();
+    return pieza;
+  };
+  Todos<CampoParrafo>(forma_).at(0)->setFocus();
+  Tecla(foco(), KEY_Tab);
+  ASSERT_EQ(foco(), Rejilla());
+  Tecla(foco(), KEY_Home, CONTROLMASK);
+  Tecla(foco(), KEY_Down);
+  Tecla(foco(), KEY_Down);
+  Tecla(foco(), KEY_space, 0, " ");
+  EXPECT_EQ(Letra(2), "S");
+  Tecla(foco(), KEY_Up);
+  Tecla(foco(), KEY_Return, 0, "\r");
+  EXPECT_EQ(Letra(1), "N");
+  Tecla(foco(), KEY_x, 0, "x");
+  EXPECT_EQ(Letra(1), "N") << "it is not written in";
+  Tecla(foco(), KEY_Tab);
+  EXPECT_EQ(foco(), Boton(forma_, "&Nuevo"));
+  Tecla(foco(), KEY_ISO_Left_Tab, SHIFTMASK);
+  EXPECT_EQ(foco(), Rejilla());
 }
 
 TEST_F(UsuarioVentana, ElJefeVaEntreComillasYNingunoComoNull) {

@@ -230,6 +230,15 @@ TEST_F(TasaVentana, UnDobleClicEnUnaTablaVaciaAbreUnaEntradaConClaveCero) {
   EXPECT_EQ(Enviado(), Textos{"SELECT * FROM spstasa(0);"});
 }
 
+TEST_F(TasaVentana, EnUnRenglonDeLaTablaEnterHaceLoQueElDobleClic) {
+  Abre();
+  Tabla(0)->setFocus();
+  Tabla(0)->setCurrentItem(3, 0);
+  Tecla(Tabla(0), KEY_Return, 0, "\r");
+  ASSERT_EQ(Entradas().size(), 1u);
+  EXPECT_EQ(Visto(Entradas().back()), Blanca);
+}
+
 TEST_F(TasaVentana, UnDobleClicFueraDeLosRenglonesNoAbreNada) {
   Abre();
   for (const FXint renglon : {-1, -100, 20, 1000}) DobleClic(Tabla(0), renglon);

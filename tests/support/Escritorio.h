@@ -27,4 +27,13 @@ class Escritorio {
   Hijo administrador_;
 };
 
+/// A test with the one of its program, which is there ahead of the windows.
+struct ConEscritorio {
+  static Escritorio& Unico() {
+    static Escritorio unico;
+    return unico;
+  }
+  Escritorio& escritorio_ = Unico();
+};
+
 }  // namespace pruebas

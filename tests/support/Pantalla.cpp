@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <stdexcept>
 
+#include "app/Aplicacion.h"
 #include "app/Traductor.h"
 #include "tests/support/Proceso.h"
 
@@ -41,7 +42,7 @@ FXApp* NuevaApp() {
   static const CarpetaTemporal casa;
   setenv("HOME", casa.Ruta().c_str(), 1);
   setenv("DISPLAY", (":" + AbrePantalla()).c_str(), 1);
-  FXApp* const app = new FXApp("corvena", "Tolvara");
+  FXApp* const app = new Aplicacion;
   delete app->getTranslator();
   app->setTranslator(new Traductor(app));
   static char programa[] = "corvena";

@@ -49,6 +49,12 @@ SELECT is(di('b', $$SELECT login('dario', 'De Darío 1')$$), '1', 'la contraseñ
 SELECT is((SELECT last_value % 8 FROM comun.intentos_dario), 1::bigint, 'y no gasta ningún intento');
 SELECT setval('comun.intentos_efrain', last_value - 61 * 8) FROM comun.intentos_efrain;
 SELECT is(di('b', $$SELECT login('efrain', 'De Efraín 1')$$), '1', 'pasado un minuto se puede otra vez');
+SELECT pg_advisory_lock(hashtextextended('comun.intentos_efrain', 0));  -- as one who is just counting
+SELECT empieza('b', $$SELECT login('efrain', 'De Efraín 1')$$);
+SELECT is((SELECT count(*) FROM pg_locks WHERE locktype = 'advisory' AND NOT granted), 1::bigint,
+          'dos que llegan a la vez no se cuentan por uno');
+SELECT pg_advisory_unlock(hashtextextended('comun.intentos_efrain', 0));
+SELECT is(acaba('b'), '1', 'y el segundo tiene su respuesta');
 SELECT * FROM finish();
 COMMIT;
 

@@ -30,6 +30,11 @@ SELECT is_empty($$ SELECT nombre FROM funcion
                       AND NOT proconfig @> ARRAY['search_path=norte, comun, pg_temp', 'standard_conforming_strings=on',
                                                  'DateStyle=ISO, DMY'] $$,
                 'toda función con derechos del dueño tiene fija su ruta, con lo temporal al final, y sus ajustes');
+SELECT is_empty($$ SELECT oid::regprocedure FROM pg_proc
+                    WHERE pronamespace IN ('norte'::regnamespace, 'comun'::regnamespace) AND proconfig IS NULL
+                      AND prosqlbody IS NULL AND proowner = 'tolvara_propietario'::regrole
+                      AND has_function_privilege('sucursal_norte', oid, 'EXECUTE') $$,
+                'lo que corre con los ajustes de quien lo llama no lo llama un usuario');
 SELECT is_empty($$ SELECT nombre FROM funcion WHERE proowner <> 'tolvara_propietario'::regrole $$,
                 'todas las funciones de la sucursal son del propietario');
 SELECT is_empty($$ SELECT relname FROM pg_class WHERE relnamespace = 'norte'::regnamespace
