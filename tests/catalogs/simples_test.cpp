@@ -337,7 +337,7 @@ const Caso casos[] = {
     },
     {
         .nombre = "cTipoAsentamiento",
-        .clase = "",
+        .clase = "Tipo de asentamiento",
         .hace = Hace(COLUMNAS(cTipoAsentamiento, TipoAsentamientoID, Asentamiento), 7L, "A"),
         .talCual = "[7|A]",
         .tabla = "tipoasentamiento",
