@@ -405,7 +405,7 @@ const Caso casos[] = {
     },
     {
         .nombre = "cColonia",
-        .clase = "",
+        .clase = "Colonia",
         .hace =
             Hace(std::vector<Columna<cColonia>>{COLUMNA(cColonia, ColoniaID), COLUMNA(cColonia, CiudadMexID),
                                                 COLUMNA(cColonia, NombreColonia), COLUMNA(cColonia, CP),
