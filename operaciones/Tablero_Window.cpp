@@ -25,7 +25,7 @@ FXIMPLEMENT(Tablero_Window, FXMDIChild, Tablero_WindowMap, ARRAYNUMBER(Tablero_W
 namespace {
 
 constexpr FXint ancho = 750;
-constexpr FXint alto = 270;
+constexpr FXint alto = 225;
 
 enum { Ejercicio, Periodo, Tipo, Descripcion, Saldo, Vencido, Reserva };  // of the server's answer
 
@@ -50,7 +50,7 @@ std::string Png(const FXImage* imagen) {
 }  // namespace
 
 Tablero_Window::Tablero_Window(FXMDIClient* area, FXMDIMenu* menu)
-    : FXMDIChild(area, "Tablero", nullptr, menu, 0, 10, 10, 780, 560),
+    : FXMDIChild(area, "Tablero", nullptr, menu, 0, 10, 5, 780, 515),
       imagen(std::make_unique<FXImage>(getApp(), nullptr, IMAGE_KEEP | IMAGE_OWNED, ancho, alto)) {
   setAccelTable(new FXAccelTable);
   auto* formal = new MarcoDeForma(this, LAYOUT_FILL_X | LAYOUT_FILL_Y);
