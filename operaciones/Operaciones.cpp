@@ -17,6 +17,7 @@
 #include "operaciones/CuentaContable_Window.h"
 #include "operaciones/Listas_Window.h"
 #include "operaciones/Permisos_Window.h"
+#include "operaciones/Tablero_Window.h"
 #include "operaciones/TipoAsentamiento_Window.h"
 #include "reports/PreCierre_Window.h"
 #include "reports/Sujeto_Window.h"
@@ -67,6 +68,7 @@ const Opcion opciones[] = {
     {"&Listas\t\tCualquier catálogo como una tabla", {"0911"}, Hija<Listas_Window>},
     {"&Bitácora\t\tQuién cambió qué y cuándo", {"0912"}, Hija<Bitacora_Window>},
     {"&Permisos\t\tTodos los usuarios contra todas las opciones", {"0913"}, Hija<Permisos_Window>},
+    {"&Tablero\t\tEl cierre de los últimos doce meses", {"0914"}, Hija<Tablero_Window>},
 };
 static_assert(std::size(opciones) == Operaciones::ID_FIN - Operaciones::ID_PANEL_CIERRE);
 

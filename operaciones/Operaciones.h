@@ -33,6 +33,7 @@ class Operaciones : public Caja {
     ID_LISTAS,
     ID_BITACORA,
     ID_PERMISOS,
+    ID_TABLERO,
     ID_FIN,
   };
 

@@ -57,6 +57,7 @@ operaciones_en_orden=(
   'listas|7|1|0911'
   'bitacora|7|2|0912'
   'permisos|7|3|0913'
+  'tablero|7|4|0914'
 )
 declare -A operacion_en=()
 for operacion in "${operaciones_en_orden[@]}"; do operacion_en[${operacion%%|*}]=${operacion#*|}; done

@@ -1,4 +1,4 @@
--- What the back office looks at: a page of the log, a line of it, the matrix of permissions.
+-- What the back office looks at: a page of the log, a line of it, the matrix of permissions; the board of closed months.
 BEGIN;
 SELECT no_plan();
 
@@ -13,7 +13,9 @@ SELECT is(como(usuario, 'norte', 'SELECT count(*) > 0 FROM ' || funcion), espera
     ('camila', $$spsbitacora('', '', '', '', '', '', 0)$$, 'No tiene permiso para la opción Bitácora (módulo 0912)'),
     ('camila', $$spsbitacoradetalle(1)$$, 'No tiene permiso para la opción Bitácora (módulo 0912)'),
     ('adriana', 'spsmatrizpermisos()', 'true'),
-    ('camila', 'spsmatrizpermisos()', 'No tiene permiso para la opción Matriz de permisos (módulo 0913)'))
+    ('camila', 'spsmatrizpermisos()', 'No tiene permiso para la opción Matriz de permisos (módulo 0913)'),
+    ('adriana', 'spstablero()', 'false'),
+    ('camila', 'spstablero()', 'No tiene permiso para la opción Tablero de cierres (módulo 0914)'))
     AS caso (usuario, funcion, esperado);
 
 -- Each filter, and what fits none.
@@ -75,6 +77,33 @@ SELECT is(como('adriana', 'norte', 'SELECT count(*) FROM spsmatrizpermisos()'),
 SELECT is(como('adriana', 'norte', 'SELECT string_agg(DISTINCT usuarioid, '','') FROM spsmatrizpermisos() WHERE permitido AND clavemodulo = ''0912'''),
           (SELECT string_agg(usuarioid, ',' ORDER BY usuarioid) FROM norte.permisomodulo WHERE clavemodulo = '0912' AND permiso <> 'N'),
           'quién tiene la bitácora');
+
+-- The board: a month, and its types, as the rows of its export add up; a loan that the export leaves out does not count.
+SELECT is(como('adriana', 'norte', $$SELECT precierre('30/09/2026')$$), '1', 'se cierra septiembre');
+SELECT is(como('adriana', 'norte', $$SELECT precierre('31/10/2026')$$), '1', 'se cierra octubre');
+UPDATE norte.domicilio SET ciudadmexid = NULL
+ WHERE sujetoid = (SELECT sujetoid FROM norte.precorte JOIN norte.prestamos USING (prestamoid) JOIN norte.socio USING (socioid)
+                    ORDER BY saldoprestamo DESC LIMIT 1);
+SELECT cmp_ok((SELECT count(*) FROM norte.precorte_detalle), '<', (SELECT count(*) FROM norte.precorte), 'una exportación deja fuera uno');
+PREPARE tablero AS SELECT * FROM como('adriana', 'norte', $$SELECT string_agg(concat_ws('|', ejercicio, periodo,
+   tipoprestamoid, saldo, vencido, reserva), ' ' ORDER BY ejercicio, periodo, tipoprestamoid) FROM spstablero()$$);
+PREPARE exportado AS
+  SELECT string_agg(concat_ws('|', ejercicio, periodo, tipo, saldo, vencido, reserva), ' ' ORDER BY ejercicio, periodo, tipo)
+    FROM (SELECT ejercicio, periodo, tipo, sum(saldoprestamo) AS saldo,
+                 sum(saldovencidomenoravencido) + sum(saldovencidomayoravencido) AS vencido, sum(reservacalculada) AS reserva
+            FROM norte.precorte_detalle, LATERAL (VALUES (tipoprestamoid::text), ('')) AS t (tipo)
+           GROUP BY 1, 2, 3) AS suma;
+SELECT results_eq('tablero', 'exportado', 'el tablero suma lo que las exportaciones');
+SELECT is(como('adriana', 'norte', $$SELECT count(*) FROM spstablero() AS t JOIN tipoprestamo USING (tipoprestamoid, desctipoprestamo)$$),
+          (SELECT count(DISTINCT (ejercicio, periodo, tipoprestamoid))::text FROM norte.precorte_detalle), 'cada tipo con su nombre');
+
+-- A month without loans is there with zeros; one that is not closed is not; one of a year before the last is not either.
+INSERT INTO norte.cierre VALUES (2025, 11, '2025-11-30'), (2025, 10, '2025-10-31');
+SELECT is(como('adriana', 'norte', $$SELECT string_agg(periodo || '/' || ejercicio, ' ' ORDER BY ejercicio, periodo)
+                                       FROM spstablero() WHERE tipoprestamoid = ''$$),
+          '11/2025 9/2026 10/2026', 'los doce meses hasta el último cerrado');
+SELECT is(como('adriana', 'norte', $$SELECT concat_ws('|', tipoprestamoid, saldo, vencido, reserva) FROM spstablero()
+                                      WHERE ejercicio = 2025$$), '|0.00|0.00|0.00', 'un mes sin préstamos');
 
 SELECT * FROM finish();
 ROLLBACK;

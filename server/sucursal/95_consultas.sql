@@ -1,10 +1,12 @@
--- What the back office looks at: the log, for whoever has its module; who may do what; and the modules of these options.
+-- What the back office looks at: the log, for whoever has its module; who may do what; the closed months; and the modules
+-- of these options.
 
 INSERT INTO modulo (clavemodulo, descrimodulo) VALUES
   ('0911', 'Listas de catálogos'),
   ('0912', 'Bitácora'),
-  ('0913', 'Matriz de permisos');
-INSERT INTO tipousuariomodulo SELECT 'ADM', clavemodulo FROM modulo WHERE clavemodulo BETWEEN '0911' AND '0913';
+  ('0913', 'Matriz de permisos'),
+  ('0914', 'Tablero de cierres');
+INSERT INTO tipousuariomodulo SELECT 'ADM', clavemodulo FROM modulo WHERE clavemodulo BETWEEN '0911' AND '0914';
 
 -- The newest lines first, whatever the filter, and a line by its number: without it the whole log would be read for a page.
 CREATE INDEX ON bitacora (bitacoraid);
@@ -73,4 +75,31 @@ BEGIN
 END $$;
 COMMENT ON FUNCTION spsmatrizpermisos IS 'los permisos de todos los usuarios';
 
-GRANT EXECUTE ON FUNCTION spsbitacora, spsbitacoradetalle, spsmatrizpermisos TO :"grupo";
+-- The closed ones of the twelve months up to the last closed one, added up over the rows that their exports have: a row for
+-- the month, its type blank, which is there even if the month has no loan, and one for each type of loan in it.
+CREATE FUNCTION spstablero()
+RETURNS TABLE (ejercicio integer, periodo integer, tipoprestamoid text, desctipoprestamo text, saldo numeric,
+               vencido numeric, reserva numeric)
+LANGUAGE plpgsql STABLE SECURITY DEFINER SET search_path FROM CURRENT AS $$
+BEGIN
+  PERFORM exige_permiso('0914');
+  RETURN QUERY
+    WITH mes AS (
+      SELECT c.ejercicio, c.periodo
+        FROM cierre AS c
+       WHERE c.ejercicio * 12 + c.periodo > (SELECT max(u.ejercicio * 12 + u.periodo) - 12 FROM cierre AS u)),
+    suma AS (
+      SELECT d.ejercicio, d.periodo, d.tipoprestamoid, sum(d.saldoprestamo) AS saldo,
+             sum(d.saldovencidomenoravencido + d.saldovencidomayoravencido) AS vencido, sum(d.reservacalculada) AS reserva
+        FROM precorte_detalle AS d JOIN mes AS m ON m.ejercicio = d.ejercicio AND m.periodo = d.periodo
+       GROUP BY GROUPING SETS ((d.ejercicio, d.periodo), (d.ejercicio, d.periodo, d.tipoprestamoid)))
+    SELECT m.ejercicio, m.periodo, coalesce(s.tipoprestamoid::text, ''), coalesce(t.desctipoprestamo::text, ''),
+           coalesce(s.saldo, 0.00), coalesce(s.vencido, 0.00), coalesce(s.reserva, 0.00)
+      FROM mes AS m
+      LEFT JOIN suma AS s ON s.ejercicio = m.ejercicio AND s.periodo = m.periodo
+      LEFT JOIN tipoprestamo AS t ON t.tipoprestamoid = s.tipoprestamoid
+     ORDER BY 1, 2, 3;
+END $$;
+COMMENT ON FUNCTION spstablero IS 'saldo, vencido y reserva de los últimos doce meses cerrados, por tipo de préstamo';
+
+GRANT EXECUTE ON FUNCTION spsbitacora, spsbitacoradetalle, spsmatrizpermisos, spstablero TO :"grupo";

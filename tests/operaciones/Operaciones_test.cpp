@@ -27,6 +27,7 @@ const struct Renglon {
     {"C&onsultas", "&Listas", {"0911"}, "Listas_Window", true},
     {"C&onsultas", "&Bitácora", {"0912"}, "Bitacora_Window", true},
     {"C&onsultas", "&Permisos", {"0913"}, "Permisos_Window", true},
+    {"C&onsultas", "&Tablero", {"0914"}, "Tablero_Window", true},
 };
 
 std::string Pregunta(const std::string& modulo, const std::string& usuario = "adriana") {

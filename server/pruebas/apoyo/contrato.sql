@@ -328,4 +328,7 @@ INSERT INTO contrato VALUES
   ('spsbitacoradetalle', 'bigint', 'TABLE(campo text, anterior text, nuevo text, cambia boolean)'),
   ('spsmatrizpermisos', '',
    'TABLE(usuarioid character varying, nombre text, clavemodulo character, descrimodulo character varying, '
-   'permitido boolean)');
+   'permitido boolean)'),
+  ('spstablero', '',
+   'TABLE(ejercicio integer, periodo integer, tipoprestamoid text, desctipoprestamo text, saldo numeric, '
+   'vencido numeric, reserva numeric)');

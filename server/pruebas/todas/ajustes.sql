@@ -49,6 +49,7 @@ INSERT INTO llamada VALUES
   ('adriana', format($$serverdate(%L)$$, to_char(comun.hoy(), 'DD/MM/YYYY')), ''),
   ('adriana', format($$serverdate(%L)$$, to_char(comun.hoy() + 1, 'YYYY-MM-DD')), ''),
   ('adriana', format($$spsbitacora(%L,%1$L,'','','','',0)$$, to_char(comun.hoy(), 'DD/MM/YYYY')), ''),
+  ('adriana', $$spstablero()$$, ''),
   ('adriana', $$spssujetos('a_b%')$$, ''), ('adriana', $$spssujetos('quimera l')$$, ''),
   ('hilda', $$precierre('31/10/2026')$$, 'precorte'), ('hilda', $$precierre('2026-10-31')$$, 'precorte_detalle'),
   ('hilda', format($$precierre(%L)$$, to_char(comun.hoy() + 1, 'DD/MM/YYYY')), 'cierre'),

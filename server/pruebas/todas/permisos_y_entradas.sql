@@ -147,6 +147,7 @@ INSERT INTO llamada VALUES
   ('0912', 'spsbitacora', $${"'05/03/2026'","'2026-03-06'","'x'","'y'","'z'","'w'",1}$$),
   ('0912', 'spsbitacoradetalle', $${0}$$),
   ('0913', 'spsmatrizpermisos', $${}$$),
+  ('0914', 'spstablero', $${}$$),
   ('0442', 'spssujetoc', $${"'nadie'","'así'","'se'","'llama'"}$$);
 UPDATE llamada SET argumentos = array_replace(argumentos, 'A', '''1101-01-00-00-0000''');
 
