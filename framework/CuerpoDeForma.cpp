@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "framework/Letra.h"
+
 namespace {
 
 /// How many points a window lacks to show its pieces whole.
@@ -44,12 +46,6 @@ void Mide(FXWindow* ventana, Falta& falta) {
 }
 
 constexpr FXint orillaDeVentana = 8;  // left and right of a window, what its manager puts around it
-
-/// Are the letters larger than those for which the sizes of the forms are made?
-bool TieneLetraGrande(FXApp* app) {
-  constexpr FXuint comun = 100;  // points to the inch
-  return app->reg().readUnsignedEntry("SETTINGS", "screenres", comun) > comun;
-}
 
 /// Grows a form by what its pieces lack.
 void Completa(FXMDIChild* forma, FXWindow* cuerpo) {
@@ -101,6 +97,11 @@ FXVerticalFrame* CuerpoDeForma::ArmaConMarco(FXint ancho) {
                                     0, ancho, 0, 0, 0, 0, 0);
   ArmaMedio();
   return marco;
+}
+
+bool TieneLetraGrande(FXApp* app) {
+  constexpr FXuint comun = 100;  // points to the inch
+  return app->reg().readUnsignedEntry("SETTINGS", "screenres", comun) > comun;
 }
 
 void CuerpoDeForma::ArmaLista(const char* titulo, FXint ancho) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "catalogs/finance/NuevoTasa_Window.h"
+#include "framework/Letra.h"
 
 MAPA_PROPIO(Tasa_Window, MANDO(Tasa_Window, ID_AGREGAR, onCmdAgregar), MANDO(Tasa_Window, ID_FIND, onCmdFind),
             MANDO(Tasa_Window, ID_CLEAR, onCmdClear), MANDO(Tasa_Window, ID_NUEVO, onCmdNuevo),
@@ -42,9 +43,11 @@ void Tasa_Window::ArmaTabla(const char* titulo, std::initializer_list<Columna> c
   tabla->setVisibleColumns(1);
   FXint numero = 0;
   for (const auto& [texto, ancho] : columnas) {
-    constexpr FXint orillas = 4;
+    constexpr FXint orillas = 10;
+    const bool grande = TieneLetraGrande(getApp());
     tabla->setColumnText(numero, texto);
-    tabla->setColumnWidth(numero++, std::max(ancho, tabla->getFont()->getTextWidth(texto) + orillas));
+    tabla->setColumnWidth(numero++,
+                          grande ? std::max(ancho, tabla->getFont()->getTextWidth(texto) + orillas) : ancho);
   }
   Boton(pagina, "&Nuevo", iconos::ok_icon, ID_NUEVO, BUTTON_DEFAULT)->setLayoutHints(LAYOUT_LEFT);
 }

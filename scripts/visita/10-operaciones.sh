@@ -242,11 +242,11 @@ cierra_dialogo
 
 paso 'Una cuenta se busca en el árbol del catálogo'
 opera_dialogo cuentas 'Catálogo de cuentas'
-captura cuentas catalogo-de-cuentas
+captura cuentas
 vuelve cuenta arbol
 escribe 'caja chica'
 exige_campo 'caja chica'
-captura cuenta-hallada
+captura cuenta-hallada catalogo-de-cuentas
 salta busca arbol
 exige_campo "$(servidor psql "$sucursal" -XAtc "SELECT rtrim(cuentaid) FROM catalogo_ctas WHERE cuentanombre ILIKE '%caja chica%'
                                                 ORDER BY cuentaid LIMIT 1")"

@@ -43,13 +43,13 @@ cierra_dialogo
 paso 'Una lista se filtra, se ve como reporte y se imprime'
 opera listas
 exige_traza "SELECT * FROM spspermisomodulo('$usuario','0911');"
-captura listas listas
+captura listas
 lista_de 'Cuentas'
 baja 1 # behind those of the banks
 captura lista-de-cuentas
 salta catalogos
 escribe 'bancos'
-captura lista-filtrada
+captura lista-filtrada listas
 teclea alt+e
 espera_ventana 'Reporte'
 captura lista-reporte

@@ -337,7 +337,7 @@ const Caso casos[] = {
     },
     {
         .nombre = "cTipoAsentamiento",
-        .clase = "",
+        .clase = "Tipo de asentamiento",
         .hace = Hace(COLUMNAS(cTipoAsentamiento, TipoAsentamientoID, Asentamiento), 7L, "A"),
         .talCual = "[7|A]",
         .tabla = "tipoasentamiento",
@@ -405,7 +405,7 @@ const Caso casos[] = {
     },
     {
         .nombre = "cColonia",
-        .clase = "",
+        .clase = "Colonia",
         .hace =
             Hace(std::vector<Columna<cColonia>>{COLUMNA(cColonia, ColoniaID), COLUMNA(cColonia, CiudadMexID),
                                                 COLUMNA(cColonia, NombreColonia), COLUMNA(cColonia, CP),

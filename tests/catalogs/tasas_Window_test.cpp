@@ -230,6 +230,23 @@ TEST_F(TasaVentana, UnDobleClicEnUnaTablaVaciaAbreUnaEntradaConClaveCero) {
   EXPECT_EQ(Enviado(), Textos{"SELECT * FROM spstasa(0);"});
 }
 
+TEST_F(TasaVentana, ConLetraGrandeCadaEncabezadoSeVeEntero) {
+  FXFont* const comun = App().getNormalFont();
+  FXFont grande(&App(), "arial", 180);
+  grande.create();
+  App().setNormalFont(&grande);
+  App().reg().writeUnsignedEntry("SETTINGS", "screenres", 144);
+  Abre();
+  for (int pagina = 0; pagina < 3; ++pagina)
+    for (FXint columna = 0; columna < Tabla(pagina)->getNumColumns(); ++columna) {
+      const FXString titulo = Tabla(pagina)->getColumnText(columna);
+      EXPECT_GT(Tabla(pagina)->getColumnWidth(columna), grande.getTextWidth(titulo)) << titulo.text();
+    }
+  App().reg().deleteEntry("SETTINGS", "screenres");
+  delete historia_;
+  App().setNormalFont(comun);
+}
+
 TEST_F(TasaVentana, EnUnRenglonDeLaTablaEnterHaceLoQueElDobleClic) {
   Abre();
   Tabla(0)->setFocus();
