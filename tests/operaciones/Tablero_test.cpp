@@ -155,9 +155,11 @@ TEST_F(TableroTest, SusBarrasMidenLoQueDicenSusCifras) {
 }
 
 TEST_F(TableroTest, UnMesEsUnGrupoDeBarras) {
+  const std::string dia = FinDeMes(0).AsChar();
   propia_.Ejecuta(
       "insert into norte.cierre select extract(year from m), extract(month from m), m from generate_series("
-      "date '2024-01-31', '2026-09-30', '1 month') m");
+      "date_trunc('month', date '" +
+      dia + "') - interval '30 months', date '" + dia + "' - interval '32 days', '1 month') m");
   Cierra(FinDeMes(0));
   auto* const tablero = Abre<Tablero_Window>();
   EXPECT_EQ(std::to_string(Renglones(tablero)->Datos().Filas()),
