@@ -3,13 +3,11 @@
 
 #include <gtest/gtest.h>
 
-#include <sys/resource.h>
-
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 
 #include "operaciones/Plegado.h"
+#include "tests/support/DiscoLleno.h"
 #include "tests/support/Mandatos.h"
 
 namespace pruebas {
@@ -204,14 +202,11 @@ TEST_F(ArchivoTest, SeEscribeEnteroYReemplazaAlAnterior) {
 TEST_F(ArchivoTest, ConElDiscoLlenoElAnteriorQuedaEntero) {
   ASSERT_EQ(EscribeArchivo("lista.csv", "anterior"), "");
   const size_t antes = Archivos();
-  rlimit limite{}, sin{};
-  getrlimit(RLIMIT_FSIZE, &sin);
-  limite = sin;
-  limite.rlim_cur = 100;
-  signal(SIGXFSZ, SIG_IGN);
-  setrlimit(RLIMIT_FSIZE, &limite);
-  const std::string error = EscribeArchivo("lista.csv", std::string(5000, 'x'));
-  setrlimit(RLIMIT_FSIZE, &sin);
+  std::string error;
+  {
+    const DiscoLleno lleno;
+    error = EscribeArchivo("lista.csv", std::string(5000, 'x'));
+  }
   EXPECT_EQ(error, "No se pudo escribir lista.csv:\nEl archivo es demasiado grande.");
   EXPECT_EQ(Contenido("lista.csv"), "anterior");
   EXPECT_EQ(Archivos(), antes);

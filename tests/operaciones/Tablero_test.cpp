@@ -3,11 +3,9 @@
 // They need the toolkit ahead of them.
 #include <FXPNGImage.h>
 #include <fxkeys.h>
-#include <sys/resource.h>
 
 #include <algorithm>
 #include <cmath>
-#include <csignal>
 #include <filesystem>
 #include <map>
 #include <optional>
@@ -19,6 +17,7 @@
 #include "operaciones/Tablero_Window.h"
 #include "reports/Precorte.h"
 #include "tests/operaciones/ConOperaciones.h"
+#include "tests/support/DiscoLleno.h"
 #include "tests/support/Mandatos.h"
 #include "widgets/date.h"
 
@@ -156,9 +155,11 @@ TEST_F(TableroTest, SusBarrasMidenLoQueDicenSusCifras) {
 }
 
 TEST_F(TableroTest, UnMesEsUnGrupoDeBarras) {
+  const std::string dia = FinDeMes(0).AsChar();
   propia_.Ejecuta(
       "insert into norte.cierre select extract(year from m), extract(month from m), m from generate_series("
-      "date '2024-01-31', '2026-09-30', '1 month') m");
+      "date_trunc('month', date '" +
+      dia + "') - interval '30 months', date '" + dia + "' - interval '32 days', '1 month') m");
   Cierra(FinDeMes(0));
   auto* const tablero = Abre<Tablero_Window>();
   EXPECT_EQ(std::to_string(Renglones(tablero)->Datos().Filas()),
@@ -293,14 +294,10 @@ TEST_F(TableroTest, DondeNoSePuedeEscribirLoDiceYElAnteriorQuedaEntero) {
   Contesta(guion, "lleno.png");
   guion.Responde(Respuesta::Si);
   guion.Responde(Respuesta::Aceptar);
-  rlimit limite{}, sin{};
-  getrlimit(RLIMIT_FSIZE, &sin);
-  limite = sin;
-  limite.rlim_cur = 100;
-  signal(SIGXFSZ, SIG_IGN);
-  setrlimit(RLIMIT_FSIZE, &limite);
-  Pulsa(Boton(tablero, "Guar&dar PNG"));
-  setrlimit(RLIMIT_FSIZE, &sin);
+  {
+    const DiscoLleno lleno;
+    Pulsa(Boton(tablero, "Guar&dar PNG"));
+  }
   EXPECT_EQ(guion.Ultimo().clase, Clase::Error);
   EXPECT_EQ(Contenido("lleno.png"), "anterior");
 }
