@@ -28,7 +28,7 @@ namespace {
 enum Pagina { Generales, Domicilio, Accesos, Parametros };
 
 constexpr int Usuarios = 20;  // of the demonstration
-constexpr int Modulos = 40;   // likewise
+constexpr int Modulos = 41;   // likewise
 constexpr int Jalisco = 14;
 constexpr int Guadalajara = 53;
 constexpr int Zapopan = 56;
@@ -1071,7 +1071,7 @@ TEST_F(UsuarioVentana, UnModuloAgregadoCabeEnLaRejilla) {
   EXPECT_EQ(Rejilla()->getNumRows(), Modulos + 1) << "uno queda vacío";
   EXPECT_EQ(Letra(Modulos), "");
   Hojea(forma_, Accesos);
-  PulsaDosVeces(Rejilla(), 37, 0);
+  PulsaDosVeces(Rejilla(), Modulos, 0);
   EXPECT_EQ(Letra(Modulos), "");
 }
 
