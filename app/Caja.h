@@ -97,6 +97,13 @@ class Caja : public FXMainWindow {
 
  protected:
   Caja() {}
+  /// May the user use the module, at this moment? If not, says so.
+  bool TieneAcceso(const char* modulo);
+
+  FXMDIClient* mdiClient = nullptr;
+  FXMDIMenu* mdiMenu = nullptr;
+  FXMenuBar* menuBar = nullptr;
+  FXMenuTitle* tituloCatalogos = nullptr;
 
  private:
   void ArmaBarras();
@@ -107,7 +114,6 @@ class Caja : public FXMainWindow {
   void MuestraDondeEstaba();
   void AnotaLugar();
   bool PermiteOpciones() const;
-  bool TieneAcceso(const char* modulo);
   template <class Ventana>
   long AbreHija(int ranura);
   template <class Ventana>
@@ -115,9 +121,6 @@ class Caja : public FXMainWindow {
   template <class Ventana>
   long OpcionModal(const char* modulo);
 
-  FXMDIClient* mdiClient = nullptr;
-  FXMDIMenu* mdiMenu = nullptr;
-  FXMenuBar* menuBar = nullptr;
   FXMenuPane* menuInicio = nullptr;
   FXMenuPane* menuCatalogos = nullptr;
   FXMenuPane* menuAyuda = nullptr;

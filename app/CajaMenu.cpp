@@ -108,7 +108,7 @@ void Caja::ArmaMenu() {
   menuSeguridad = cascada("Seguridad", seguridad);
   menuContables = cascada("Contables", contables);
   menuOtros = cascada("Otros", otros);
-  new FXMenuTitle(menuBar, "C&atalogos", nullptr, menuCatalogos);
+  tituloCatalogos = new FXMenuTitle(menuBar, "C&atalogos", nullptr, menuCatalogos);
 
   menuAyuda = Panel(this, {{"&Acerca del Sistema ...", ID_ABOUT}});
   new FXMenuTitle(menuBar, "A&yuda", nullptr, menuAyuda, LAYOUT_RIGHT);

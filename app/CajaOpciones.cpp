@@ -34,7 +34,6 @@
 #include "reports/Sujeto_Window.h"
 #include "widgets/cajas.h"
 
-/// May the user use the module? If not, says so.
 bool Caja::TieneAcceso(const char* modulo) {
   if (permite.Acceso(glogin, modulo)) return true;
   cajaError(this, "Acceso NO AUTORIZADO", "No tiene acceso a la opción ...");

@@ -7,6 +7,7 @@
 
 #include <iostream>
 #include <map>
+#include <string>
 
 #include "db/Engine.h"
 #include "widgets/lista.h"
@@ -53,11 +54,20 @@ void TomaFilas(lista<T>& filas) {
   }
 }
 
+/// What the server said of the last select of a load that it refused, for who wants to tell; who does empties
+/// it ahead of the load.
+inline std::string quejaDeCarga;
+
+inline void AnotaQueja() {
+  if (Rechazada()) quejaDeCarga = PQresultErrorMessage(res);
+}
+
 /// A load without a transaction.
 template <class Contenedor>
 void Carga(Contenedor& contenedor, const char* sql) {
   Vacia(contenedor);
   Ejecuta(sql);
+  AnotaQueja();
   TomaFilas(contenedor);
   LiberaResultado();
 }
@@ -70,6 +80,7 @@ void CargaEnTransaccion(Contenedor& contenedor, const char* sql, const char* men
   Vacia(contenedor);
   AbreTransaccion(mensaje);
   EjecutaEn(conexion, sql);
+  AnotaQueja();
   TomaFilas(contenedor);
   Ejecuta("COMMIT;");
   LiberaResultado();

@@ -61,15 +61,17 @@ void Completa(FXMDIChild* forma, FXWindow* cuerpo) {
 
 /// Grows a main window by what `hija` lacks in its area, but not beyond the screen.
 void Ensancha(FXTopWindow* principal, FXint masAncho, FXint masAlto) {
-  constexpr FXint orilla = orillaDeVentana, titulo = 32;  // what a window manager puts around
+  constexpr FXint titulo = 32;  // what a window manager puts above
   if (principal->isMaximized()) return;
   const FXWindow* const pantalla = principal->getRoot();
-  const FXint maximoAncho = std::max(pantalla->getWidth() - orilla, principal->getWidth());
-  const FXint maximoAlto = std::max(pantalla->getHeight() - titulo - orilla, principal->getHeight());
+  const FXint maximoAncho = std::max(pantalla->getWidth() - orillaDeVentana, principal->getWidth());
+  const FXint maximoAlto = std::max(pantalla->getHeight() - titulo - orillaDeVentana, principal->getHeight());
   const FXint ancho = std::min(principal->getWidth() + std::max(masAncho, 0), maximoAncho);
   const FXint alto = std::min(principal->getHeight() + std::max(masAlto, 0), maximoAlto);
-  const FXint x = std::min(principal->getX(), std::max(0, pantalla->getWidth() - ancho - orilla / 2));
-  const FXint y = std::min(principal->getY(), std::max(0, pantalla->getHeight() - alto - orilla / 2));
+  const FXint x =
+      std::min(principal->getX(), std::max(0, pantalla->getWidth() - ancho - orillaDeVentana / 2));
+  const FXint y =
+      std::min(principal->getY(), std::max(0, pantalla->getHeight() - alto - orillaDeVentana / 2));
   principal->position(x, y, ancho, alto);
 }
 
@@ -97,11 +99,6 @@ FXVerticalFrame* CuerpoDeForma::ArmaConMarco(FXint ancho) {
                                     0, ancho, 0, 0, 0, 0, 0);
   ArmaMedio();
   return marco;
-}
-
-bool TieneLetraGrande(FXApp* app) {
-  constexpr FXuint comun = 100;  // points to the inch
-  return app->reg().readUnsignedEntry("SETTINGS", "screenres", comun) > comun;
 }
 
 void CuerpoDeForma::ArmaLista(const char* titulo, FXint ancho) {

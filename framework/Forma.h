@@ -148,6 +148,14 @@ class Forma : public Base, protected CuerpoDeForma {
     return borrador;
   }
 
+  /// What &Aceptar asks ahead of an insert, and the insert. A form with another one hides both.
+  const char* PreguntaDeAlta() { return "Registrar ?"; }
+  void Inserta() { Yo().Actual().AddNew(); }
+  /// The current row, and one made current, by its position among `Filas`; a position out of it does nothing.
+  /// A form that lists its rows in its own way hides both.
+  int FilaActual() { return lstFilas->getCurrentItem(); }
+  void MuestraFila(int fila);
+
   /// Does a failed &Aceptar write "entrando a error"? A form that does hides this with true.
   static constexpr bool trazaErrores = false;
   /// Does &Buscar make the row that it found the current one? A form that leaves the list alone hides this
@@ -200,7 +208,6 @@ class Forma : public Base, protected CuerpoDeForma {
   void Relectura();
   void TomaClave();
   void MuestraFilaDelRegistro();
-  void MuestraFila(int fila);
 
   int ranura = -1;
 };
@@ -310,16 +317,16 @@ long Forma<Ventana, Base, busqueda>::onCmdAgregar(FXObject*, FXSelector, void*) 
     if (!registro.getDataChanged()) return 1;
     registro.Check();
     if (registro.IsNew()) {
-      if (cajaPregunta(this, registro.clase(), "Registrar ?")) {
-        registro.AddNew();
+      if (cajaPregunta(this, registro.clase(), Yo().PreguntaDeAlta())) {
+        Yo().Inserta();
         Yo().Load();
         MuestraFilaDelRegistro();
       }
     } else if (cajaPregunta(this, registro.clase(), "Guardar cambios realizados ?")) {
       registro.Update();
-      const int fila = lstFilas->getCurrentItem();
+      const int fila = Yo().FilaActual();
       Yo().Load();
-      MuestraFila(fila);
+      Yo().MuestraFila(fila);
     }
   } catch (char* texto) {
     if (Ventana::trazaErrores) std::cout << "entrando a error" << std::endl;
@@ -369,7 +376,7 @@ void Forma<Ventana, Base, busqueda>::MuestraFilaDelRegistro() {
   CadaFila(Yo().Filas(), [&](int posicion, const auto& fila) {
     if (suya < 0 && Yo().MismaFila(fila, Yo().Actual())) suya = posicion;
   });
-  MuestraFila(suya);
+  Yo().MuestraFila(suya);
 }
 
 template <class Ventana, class Base, Busqueda busqueda>

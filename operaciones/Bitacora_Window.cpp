@@ -93,9 +93,9 @@ void Bitacora_Window::ArmaFiltros(FXComposite* padre) {
   auto* botones = new FXVerticalFrame(renglon, LAYOUT_RIGHT | PACK_UNIFORM_WIDTH, 0, 0, 0, 0, 0, 0, 0, 0);
   NuevoBoton<BotonDeForma>(botones, "&Buscar", icono(getApp(), iconos::find_icon), this, ID_BUSCAR,
                            BUTTON_DEFAULT);
-  auto* paginas_ = new FXHorizontalFrame(botones, PACK_UNIFORM_WIDTH, 0, 0, 0, 0, 0, 0, 0, 0);
-  NuevoBoton<BotonDeForma>(paginas_, "<< &Nuevas", nullptr, this, ID_ANTERIORES, 0);
-  NuevoBoton<BotonDeForma>(paginas_, "Vie&jas >>", nullptr, this, ID_SIGUIENTES, 0);
+  auto* hojeo = new FXHorizontalFrame(botones, PACK_UNIFORM_WIDTH, 0, 0, 0, 0, 0, 0, 0, 0);
+  NuevoBoton<BotonDeForma>(hojeo, "<< &Nuevas", nullptr, this, ID_ANTERIORES, 0);
+  NuevoBoton<BotonDeForma>(hojeo, "Vie&jas >>", nullptr, this, ID_SIGUIENTES, 0);
 }
 
 long Bitacora_Window::onCmdFecha(FXObject*, FXSelector sel, void*) {

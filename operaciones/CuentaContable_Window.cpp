@@ -1,6 +1,7 @@
 #include "operaciones/CuentaContable_Window.h"
 
 #include <unordered_map>
+#include <utility>
 
 #include "catalogs/finance/Busqueda_Window.h"
 #include "operaciones/Plegado.h"
@@ -27,6 +28,11 @@ std::string SinBlancos(const char* numero) {
   std::string texto = numero;
   texto.erase(texto.find_last_not_of(' ') + 1);
   return texto;
+}
+
+/// The row of the cache that an item stands for.
+int FilaDe(const FXTreeItem* renglon) {
+  return static_cast<int>(reinterpret_cast<FXival>(renglon->getData()));
 }
 
 }  // namespace
@@ -91,19 +97,29 @@ void CuentaContable_Window::ArmaSaldos(FXMatrix* matriz) {
   campoReal(matriz, "Abonos:", 18, abonos, TEXTFIELD_READONLY);
 }
 
-/// The item of an account, below that of the account that it accumulates in. One of a circle, or below an
+/// Gives each account an item below that of the account that it accumulates in. One of a circle, or below an
 /// account that is not there, stands at the top.
-FXTreeItem* CuentaContable_Window::Cuelga(const std::vector<const cCatalogo_Ctas*>& cuentas,
-                                          std::vector<int>& padres, int cual) {
-  if (renglones[cual] != nullptr) return renglones[cual];
-  const int padre = std::exchange(padres[cual], -1);  // who comes by here again has gone round
-  FXTreeItem* const arriba = padre < 0 ? nullptr : Cuelga(cuentas, padres, padre);
-  if (renglones[cual] != nullptr) return renglones[cual];
-  return renglones[cual] =
-             arbol->appendItem(arriba,
-                               FXString(SinBlancos(cuentas[cual]->getCuentaID()).c_str()) + "  " +
-                                   cuentas[cual]->getCuentaNombre(),
-                               nullptr, nullptr, reinterpret_cast<void*>(static_cast<FXival>(cual)));
+void CuentaContable_Window::Cuelga(const std::vector<const cCatalogo_Ctas*>& cuentas,
+                                   std::vector<int> padres) {
+  renglones.assign(cuentas.size(), nullptr);
+  std::vector<int> camino;  // from an account up to one that has its item
+  for (int primera = 0; primera < static_cast<int>(cuentas.size()); ++primera) {
+    int cual = primera;
+    while (cual >= 0 && renglones[cual] == nullptr) {
+      camino.push_back(cual);
+      cual = std::exchange(padres[cual], -1);  // who comes by here again has gone round
+    }
+    FXTreeItem* arriba = cual < 0 ? nullptr : renglones[cual];
+    for (; !camino.empty(); camino.pop_back()) {
+      FXTreeItem*& renglon = renglones[camino.back()];
+      if (renglon != nullptr) continue;  // where the circle began
+      const cCatalogo_Ctas& cuenta = *cuentas[camino.back()];
+      renglon = arbol->appendItem(
+          arriba, FXString(SinBlancos(cuenta.getCuentaID()).c_str()) + "  " + cuenta.getCuentaNombre(),
+          nullptr, nullptr, reinterpret_cast<void*>(static_cast<FXival>(camino.back())));
+      arriba = renglon;
+    }
+  }
 }
 
 long CuentaContable_Window::Load() {
@@ -123,20 +139,24 @@ long CuentaContable_Window::Load() {
     const auto padre = lugares.find(SinBlancos(una->getCuentaAcumula()));
     padres.push_back(padre == lugares.end() ? -1 : padre->second);
   }
-  renglones.assign(cuentas.size(), nullptr);
-  for (size_t cual = 0; cual < cuentas.size(); ++cual) Cuelga(cuentas, padres, static_cast<int>(cual));
+  Cuelga(cuentas, std::move(padres));
   return 1;
 }
 
 /// Makes an account the current one of the tree, with those above it unfolded.
-void CuentaContable_Window::MuestraEnArbol(int fila) {
-  if (fila < 0) return;
+void CuentaContable_Window::MuestraFila(int fila) {
+  if (fila < 0 || fila >= static_cast<int>(renglones.size())) return;
   FXTreeItem* const renglon = renglones[fila];
   for (FXTreeItem* arriba = renglon->getParent(); arriba != nullptr; arriba = arriba->getParent())
     arbol->expandTree(arriba);
   arbol->setCurrentItem(renglon);
   arbol->selectItem(renglon);
   arbol->makeItemVisible(renglon);
+}
+
+int CuentaContable_Window::FilaActual() {
+  const FXTreeItem* const actual = arbol->getCurrentItem();
+  return actual == nullptr ? -1 : FilaDe(actual);
 }
 
 /// The place of an account; -1 when it is not in the chart.
@@ -152,14 +172,13 @@ int CuentaContable_Window::LugarDe(const char* cuentaID) {
 
 void CuentaContable_Window::Muestra(const char* numero) {
   const int lugar = LugarDe(numero);
-  MuestraEnArbol(lugar);
+  MuestraFila(lugar);
   if (lugar >= 0) onCmdArbol(arbol, FXSEL(SEL_COMMAND, ID_ARBOL), renglones[lugar]);
 }
 
 long CuentaContable_Window::onCmdArbol(FXObject*, FXSelector, void* renglon) {
   if (renglon == nullptr) return 1;
-  const auto fila = static_cast<int>(reinterpret_cast<FXival>(static_cast<FXTreeItem*>(renglon)->getData()));
-  if (!CopiaFila(Filas(), fila, Actual())) return 1;
+  if (!CopiaFila(Filas(), FilaDe(static_cast<FXTreeItem*>(renglon)), Actual())) return 1;
   Read();
   Actual().setDataChanged(false);
   return 1;
@@ -168,10 +187,7 @@ long CuentaContable_Window::onCmdArbol(FXObject*, FXSelector, void* renglon) {
 long CuentaContable_Window::onCmdBusca(FXObject*, FXSelector sel, void*) {
   const std::string buscado = Plegado(txtBusca->getText().text());
   const auto total = static_cast<int>(textos.size());
-  const FXTreeItem* const actual = arbol->getCurrentItem();
-  const int desde = FXSELTYPE(sel) == SEL_COMMAND && actual != nullptr
-                        ? static_cast<int>(reinterpret_cast<FXival>(actual->getData())) + 1
-                        : 0;
+  const int desde = FXSELTYPE(sel) == SEL_COMMAND ? FilaActual() + 1 : 0;
   if (buscado.empty()) return 1;
   for (int paso = 0; paso < total; ++paso) {
     const int fila = (desde + paso) % total;
@@ -179,7 +195,7 @@ long CuentaContable_Window::onCmdBusca(FXObject*, FXSelector sel, void*) {
     if (texto.compare(0, buscado.size(), buscado) != 0 &&
         texto.find(buscado, texto.find('\n')) == std::string::npos)
       continue;
-    MuestraEnArbol(fila);
+    MuestraFila(fila);
     onCmdArbol(arbol, FXSEL(SEL_COMMAND, ID_ARBOL), renglones[fila]);
     return 1;
   }
@@ -197,36 +213,14 @@ long CuentaContable_Window::onCmdClear(FXObject* emisor, FXSelector sel, void* d
   return Forma::onCmdClear(emisor, sel, datos);
 }
 
-long CuentaContable_Window::onCmdFind(FXObject* emisor, FXSelector sel, void* datos) {
-  const long respuesta = Forma::onCmdFind(emisor, sel, datos);
-  if (!Actual().IsNew()) MuestraEnArbol(LugarDe(Actual().getCuentaID()));
-  return respuesta;
+const char* CuentaContable_Window::PreguntaDeAlta() {
+  return todas->getCheck() ? "Registrar en todas las sucursales ?" : "Registrar ?";
 }
 
-long CuentaContable_Window::onCmdAgregar(FXObject*, FXSelector, void*) {
-  cCatalogo_Ctas& registro = Actual();
-  try {
-    Update();
-    if (!registro.getDataChanged()) return 1;
-    registro.Check();
-    if (registro.IsNew()) {
-      const bool enTodas = todas->getCheck() != FALSE;
-      if (!cajaPregunta(this, registro.clase(),
-                        enTodas ? "Registrar en todas las sucursales ?" : "Registrar ?"))
-        return 1;
-      if (enTodas) {
-        registro.AddNewSucursales();
-      } else {
-        registro.AddNew();
-      }
-    } else {
-      if (!cajaPregunta(this, registro.clase(), "Guardar cambios realizados ?")) return 1;
-      registro.Update();
-    }
-    Load();
-    MuestraEnArbol(LugarDe(registro.getCuentaID()));
-  } catch (char* texto) {
-    Falla(texto);
+void CuentaContable_Window::Inserta() {
+  if (todas->getCheck()) {
+    Actual().AddNewSucursales();
+  } else {
+    Actual().AddNew();
   }
-  return 1;
 }

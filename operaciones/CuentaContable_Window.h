@@ -29,10 +29,6 @@ class CuentaContable_Window : public Forma<CuentaContable_Window, FXDialogBox> {
 
   explicit CuentaContable_Window(FXWindow* duenio);
 
-  /// As in every form; a new account goes to this branch, or to all of them where the box is checked.
-  long onCmdAgregar(FXObject*, FXSelector, void*);
-  /// As in every form; the account found is shown in the tree.
-  long onCmdFind(FXObject* emisor, FXSelector sel, void* datos);
   long onCmdClear(FXObject* emisor, FXSelector sel, void* datos);
   /// An account chosen in the tree becomes the record.
   long onCmdArbol(FXObject*, FXSelector, void* renglon);
@@ -52,18 +48,21 @@ class CuentaContable_Window : public Forma<CuentaContable_Window, FXDialogBox> {
 
  private:
   friend Forma;
-  static constexpr bool eligeHallado = false;
 
   void ArmaArbol(FXVerticalFrame* marco);
   void ArmaDatos(FXMatrix* matriz);
   void ArmaSaldos(FXMatrix* matriz);
-  FXTreeItem* Cuelga(const std::vector<const cCatalogo_Ctas*>& cuentas, std::vector<int>& padres, int cual);
+  void Cuelga(const std::vector<const cCatalogo_Ctas*>& cuentas, std::vector<int> padres);
   int LugarDe(const char* cuentaID);
-  void MuestraEnArbol(int fila);
 
   cCatalogo_Ctas& Actual() { return cuentacontable; }
   auto& Filas() { return Catalogo::Catalogo_Ctas; }
   void Relee() { catalogo.LoadCuentas(); }
+  // A new account goes to this branch, or to all of them where the box is checked.
+  const char* PreguntaDeAlta();
+  void Inserta();
+  int FilaActual();
+  void MuestraFila(int fila);
   auto Datos() {
     using T = cCatalogo_Ctas;
     return std::tuple(Liga(cuenta, &T::getCuentaID, &T::setCuentaID),

@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "app/sesion.h"
-#include "db/Engine.h"
+#include "db/Carga.h"
 #include "widgets/cajas.h"
 
 FXDEFMAP(Listas_Window)
@@ -58,16 +58,21 @@ long Listas_Window::onCmdCatalogo(FXObject*, FXSelector, void*) {
   return 1;
 }
 
-/// A load whose select fails throws nothing and leaves no rows: the connection tells.
+/// A load whose select fails throws nothing and leaves no rows: here the user is told why.
 long Listas_Window::onRelee(FXObject*, FXSelector, void*) {
   const Catalogado* const elegido = Elegido();
   if (elegido == nullptr) return 1;
+  std::string queja;
   try {
+    quejaDeCarga.clear();
     elegido->relee();
-    if (PQstatus(conn) != CONNECTION_OK) Lanza("");
+    queja = quejaDeCarga.empty() ? PQerrorMessage(conn) : quejaDeCarga;
   } catch (char* texto) {
+    queja = texto;
+  }
+  if (!queja.empty()) {
     engine.RollBackTransaction();
-    cajaError(this, elegido->nombre, texto);
+    cajaError(this, elegido->nombre, queja.c_str());
   }
   Muestra();
   return 1;

@@ -8,6 +8,7 @@
 #include "framework/Foco.h"
 #include "icons/Icono.h"
 #include "icons/iconos.h"
+#include "operaciones/Archivo.h"
 #include "operaciones/Plegado.h"
 #include "reports/Preview_Window.h"
 #include "reports/Reporte.h"
@@ -188,19 +189,10 @@ long MarcoDeTabla::onCopia(FXObject* emisor, FXSelector, void* datos) {
 }
 
 long MarcoDeTabla::onCsv(FXObject*, FXSelector, void*) {
-  FXString archivo = FXSystem::getCurrentDirectory() + PATHSEPSTRING + NombreDeArchivo() + ".csv";
-  if (!FXInputDialog::getString(archivo, this, "Escribir CSV", "Archivo:") || archivo.trim().empty())
-    return 1;
-  if (FXStat::exists(archivo) && !cajaPregunta(this, "CSV", "El archivo ya existe. Reemplazarlo ?")) return 1;
-  const std::string error = EscribeArchivo(archivo.text(), lista->Datos().Csv(lista->Columnas()));
-  if (error.empty()) {
-    cajaInformacion(this, "CSV",
-                    FXStringFormat("Se escribieron %d renglones en\n", lista->Datos().Visibles())
-                        .append(FXString(archivo).substitute("%", "%%"))
-                        .text());
-  } else {
-    cajaError(this, "CSV", FXString(error.c_str()).substitute("%", "%%").text());
-  }
+  GuardaArchivo(
+      this, "CSV", "Escribir CSV", NombreDeArchivo() + ".csv",
+      [this] { return lista->Datos().Csv(lista->Columnas()); },
+      FXStringFormat("Se escribieron %d renglones en", lista->Datos().Visibles()));
   return 1;
 }
 
@@ -220,7 +212,9 @@ bool MarcoDeTabla::EscribeReporte() {
   de.Begin(archivo.get());
   for (int i = 0; i < tabla.Visibles(); ++i) de.Imprime(archivo.get(), pagina.Fila(tabla.Fila(i)).c_str());
   de.End(archivo.get());
-  return true;
+  if (fflush(archivo.get()) == 0 && ferror(archivo.get()) == 0) return true;
+  cajaError(this, "Reporte", "No se pudo escribir entero reporte.txt: el disco está lleno o no responde.");
+  return false;
 }
 
 long MarcoDeTabla::onVer(FXObject*, FXSelector, void*) {

@@ -1,13 +1,9 @@
 #include "operaciones/Operaciones.h"
 
-#include <cstring>
-
-#include "app/sesion.h"
 #include "catalogs/assets/Activo_Window.h"
 #include "catalogs/assets/TipoDepreciaciones_Window.h"
 #include "catalogs/people/CiudadMex_Window.h"
 #include "catalogs/people/EstadoMex_Window.h"
-#include "catalogs/people/cPermisosModulos.h"
 #include "catalogs/simple/Asesor_Window.h"
 #include "catalogs/simple/ClasificacionCredito_Window.h"
 #include "catalogs/simple/Grupo_Window.h"
@@ -21,7 +17,6 @@
 #include "operaciones/TipoAsentamiento_Window.h"
 #include "reports/PreCierre_Window.h"
 #include "reports/Sujeto_Window.h"
-#include "widgets/cajas.h"
 
 namespace {
 
@@ -72,16 +67,6 @@ const Opcion opciones[] = {
 };
 static_assert(std::size(opciones) == Operaciones::ID_FIN - Operaciones::ID_PANEL_CIERRE);
 
-/// The child of `padre` that is of this class, the `cual`th one.
-template <class Clase>
-Clase* Hijo(const FXWindow* padre, int cual = 0) {
-  for (FXWindow* hijo = padre->getFirst(); hijo != nullptr; hijo = hijo->getNext()) {
-    auto* de = dynamic_cast<Clase*>(hijo);
-    if (de != nullptr && cual-- == 0) return de;
-  }
-  return nullptr;
-}
-
 }  // namespace
 
 FXDEFMAP(Operaciones)
@@ -90,7 +75,7 @@ OperacionesMap[] = {
 };
 FXIMPLEMENT(Operaciones, Caja, OperacionesMap, ARRAYNUMBER(OperacionesMap))
 
-Operaciones::Operaciones(FXApp* app) : Caja(app), area(Hijo<FXMDIClient>(this)) {
+Operaciones::Operaciones(FXApp* app) : Caja(app) {
   setTitle("Tolvara Operaciones V. 0.0.7a");
   ArmaMenu();
 }
@@ -101,27 +86,19 @@ Operaciones::~Operaciones() {
 
 /// Puts the panes of this program where the first one has its catalogues, whose pane stays out of reach.
 void Operaciones::ArmaMenu() {
-  auto* barra = Hijo<FXMenuBar>(this);
-  menuDeHijas = static_cast<FXMDIMenu*>(Hijo<FXMDIWindowButton>(barra)->getMenu());
-  FXMenuTitle* const catalogos = Hijo<FXMenuTitle>(barra, 1);
   FXMenuPane** panel = paneles;
   FXSelector mensaje = ID_PANEL_CIERRE;
   for (const Opcion& opcion : opciones) {
     if (opcion.abre == nullptr) {
       *panel++ = new FXMenuPane(this);
-      (new FXMenuTitle(barra, opcion.etiqueta, nullptr, panel[-1]))->reparent(barra, catalogos);
+      (new FXMenuTitle(menuBar, opcion.etiqueta, nullptr, panel[-1]))->reparent(menuBar, tituloCatalogos);
     } else {
       new FXMenuCommand(panel[-1], opcion.etiqueta, nullptr, this, mensaje);
     }
     ++mensaje;
   }
-  delete catalogos;
-}
-
-bool Operaciones::TieneAcceso(const char* modulo) {
-  if (permite.Acceso(glogin, modulo)) return true;
-  cajaError(this, "Acceso NO AUTORIZADO", "No tiene acceso a la opción ...");
-  return false;
+  delete tituloCatalogos;
+  tituloCatalogos = nullptr;
 }
 
 long Operaciones::onCmdOpcion(FXObject*, FXSelector mensaje, void*) {

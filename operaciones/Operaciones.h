@@ -43,19 +43,16 @@ class Operaciones : public Caja {
   /// Asks the server for the modules of the option and opens its window, or says that there is no access.
   long onCmdOpcion(FXObject*, FXSelector mensaje, void*);
 
-  /// May the user use the module? If not, says so.
-  bool TieneAcceso(const char* modulo);
-
   /// Opens a child window, or brings the one that is open to the front: its form works on one record.
   template <class Ventana>
   Ventana* AbreHija() {
-    for (FXWindow* hija = area->getFirst(); hija != nullptr; hija = hija->getNext()) {
+    for (FXWindow* hija = mdiClient->getFirst(); hija != nullptr; hija = hija->getNext()) {
       if (auto* abierta = dynamic_cast<Ventana*>(hija)) {
-        area->setActiveChild(abierta);
+        mdiClient->setActiveChild(abierta);
         return abierta;
       }
     }
-    auto* nueva = new Ventana(area, menuDeHijas);
+    auto* nueva = new Ventana(mdiClient, mdiMenu);
     nueva->create();
     return nueva;
   }
@@ -66,7 +63,5 @@ class Operaciones : public Caja {
  private:
   void ArmaMenu();
 
-  FXMDIClient* area = nullptr;
-  FXMDIMenu* menuDeHijas = nullptr;
   FXMenuPane* paneles[8] = {};
 };

@@ -9,6 +9,7 @@
 #include "db/Engine.h"
 #include "framework/Campos.h"
 #include "framework/Foco.h"
+#include "operaciones/Archivo.h"
 #include "operaciones/Consulta.h"
 #include "operaciones/Grafica.h"
 #include "widgets/Boton.h"
@@ -164,17 +165,12 @@ long Tablero_Window::onCmdTipo(FXObject*, FXSelector, void*) {
 }
 
 long Tablero_Window::onCmdPng(FXObject*, FXSelector, void*) {
-  FXString archivo = FXSystem::getCurrentDirectory() + PATHSEPSTRING + "tablero.png";
-  if (!FXInputDialog::getString(archivo, this, "Guardar PNG", "Archivo:") || archivo.trim().empty()) return 1;
-  if (FXStat::exists(archivo) && !cajaPregunta(this, "PNG", "El archivo ya existe. Reemplazarlo ?")) return 1;
   const std::string octetos = Png(imagen.get());
-  const std::string error =
-      octetos.empty() ? "No se pudo hacer la imagen." : EscribeArchivo(archivo.text(), octetos);
-  if (error.empty()) {
-    cajaInformacion(this, "PNG",
-                    ("La gráfica se escribió en\n" + FXString(archivo).substitute("%", "%%")).text());
+  if (octetos.empty()) {
+    cajaError(this, "PNG", "No se pudo hacer la imagen.");
   } else {
-    cajaError(this, "PNG", FXString(error.c_str()).substitute("%", "%%").text());
+    GuardaArchivo(
+        this, "PNG", "Guardar PNG", "tablero.png", [&] { return octetos; }, "La gráfica se escribió en");
   }
   return 1;
 }

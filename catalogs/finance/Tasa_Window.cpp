@@ -42,9 +42,9 @@ void Tasa_Window::ArmaTabla(const char* titulo, std::initializer_list<Columna> c
   tabla->setVisibleRows(11);
   tabla->setVisibleColumns(1);
   FXint numero = 0;
+  constexpr FXint orillas = 10;
+  const bool grande = TieneLetraGrande(getApp());
   for (const auto& [texto, ancho] : columnas) {
-    constexpr FXint orillas = 10;
-    const bool grande = TieneLetraGrande(getApp());
     tabla->setColumnText(numero, texto);
     tabla->setColumnWidth(numero++,
                           grande ? std::max(ancho, tabla->getFont()->getTextWidth(texto) + orillas) : ancho);

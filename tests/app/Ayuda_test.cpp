@@ -123,27 +123,21 @@ TEST_F(AyudaTest, EnUnaFormaAbreElDeEllaAunqueHayaOtraAbierta) {
   ExigePedido(manual.Ruta("ayuda/Caja.html"));  // the other one has no chapter of its own
 }
 
-TEST_F(AyudaTest, EnUnDialogoAbreElDelDialogo) {
+TEST_F(AyudaTest, EnUnDialogoYEnLaEntradaAbreElSuyo) {
   const Manual manual;
-  Guion guion;
-  guion.Con([&](FXDialogBox* dialogo) {
-    Toma(dialogo);
-    ExigePedido(manual.Ruta("ayuda/Modulo_Window.html"));
-    Pulsa(Boton(dialogo, "&Cerrar"));
-  });
-  Pulsa(Opcion(caja_.get(), "Modulos"));
-}
-
-TEST_F(AyudaTest, EnLaEntradaAbreElDeLaEntrada) {
-  const Manual manual;
-  Guion guion;
-  guion.Con([&](FXDialogBox* dialogo) {
-    EXPECT_STREQ(dialogo->getClassName(), "Login_Window");
-    Toma(dialogo);
-    ExigePedido(manual.Ruta("ayuda/Login_Window.html"));
-    Pulsa(Boton(dialogo, "&Cerrar"));
-  });
-  Pulsa(Opcion(caja_.get(), "&Conectar"));
+  const std::pair<const char*, std::string> dialogos[] = {{"Modulos", "Modulo_Window"},
+                                                          {"&Conectar", "Login_Window"}};
+  for (const auto& [opcion, clase] : dialogos) {
+    Guion guion;
+    guion.Con([&, suya = clase](FXDialogBox* dialogo) {
+      EXPECT_EQ(dialogo->getClassName(), suya);
+      Toma(dialogo);
+      ExigePedido(manual.Ruta("ayuda/" + suya + ".html"));
+      Pulsa(Boton(dialogo, "&Cerrar"));
+    });
+    Pulsa(Opcion(caja_.get(), opcion));
+    EXPECT_EQ(guion.Cuadros().size(), 1u);
+  }
 }
 
 TEST_F(AyudaTest, EnUnaPreguntaAbreElDeQuienPregunta) {

@@ -47,8 +47,8 @@ class SinSesion : public testing::Test {
   void TearDown() override { apertura::Cierra(); }
 };
 
-/// A main window, and a server whose address the settings know. The tests of a suite share the database.
-class ConCaja : public SinSesion {
+/// A server whose address the settings know. The tests of a suite share the database.
+class ConServidor : public SinSesion {
  protected:
   static void SetUpTestSuite() { base_ = std::make_unique<BaseDatos>(); }
   static void TearDownTestSuite() { base_.reset(); }
@@ -63,6 +63,12 @@ class ConCaja : public SinSesion {
     base_->MataSesiones();
   }
 
+  inline static std::unique_ptr<BaseDatos> base_;
+};
+
+/// The same with a main window.
+class ConCaja : public ConServidor {
+ protected:
   /// Chooses an entry of the menu, which opens no box.
   void Escoge(const char* rotulo) {
     const Guion guion;
@@ -88,7 +94,6 @@ class ConCaja : public SinSesion {
     ExigeRechazo([&] { Pulsa(Opcion(caja_.get(), rotulo)); });
   }
 
-  inline static std::unique_ptr<BaseDatos> base_;
   Salida salida_;
   const Principal caja_;
 };

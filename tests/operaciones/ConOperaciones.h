@@ -7,15 +7,11 @@
 
 namespace pruebas {
 
-/// The main window of the second program, without its first login, and a server. The tests of a suite share
-/// the database.
-class ConOperaciones : public SinSesion {
+/// A server, and the main window of the second program without its first login.
+class ConOperaciones : public ConServidor {
  protected:
-  static void SetUpTestSuite() { base_ = std::make_unique<BaseDatos>(); }
-  static void TearDownTestSuite() { base_.reset(); }
   void SetUp() override {
-    SinSesion::SetUp();
-    AjustaSesion();
+    ConServidor::SetUp();
     principal_ = new Operaciones(&App());
     principal_->FXMainWindow::create();
     principal_->show(PLACEMENT_SCREEN);
@@ -23,8 +19,7 @@ class ConOperaciones : public SinSesion {
   }
   void TearDown() override {
     delete principal_;
-    SinSesion::TearDown();
-    base_->MataSesiones();
+    ConServidor::TearDown();
   }
 
   /// The child window of this class.
@@ -48,7 +43,6 @@ class ConOperaciones : public SinSesion {
     return dialogo;
   }
 
-  inline static std::unique_ptr<BaseDatos> base_;
   Salida salida_;
   Operaciones* principal_ = nullptr;
 };

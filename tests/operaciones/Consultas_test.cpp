@@ -12,6 +12,7 @@
 #include "operaciones/Permisos_Window.h"
 #include "operaciones/Plegado.h"
 #include "tests/operaciones/ConOperaciones.h"
+#include "tests/support/DiscoLleno.h"
 #include "tests/support/Mandatos.h"
 
 namespace pruebas {
@@ -120,7 +121,32 @@ TEST_F(ConsultasTest, SinConexionReleerLoDiceYElProgramaSigue) {
   guion.Responde(Respuesta::Aceptar);
   Pulsa(Boton(listas, "&Releer"));
   EXPECT_EQ(guion.Ultimo().clase, Clase::Error);
+  EXPECT_FALSE(guion.Ultimo().texto.empty());
   EXPECT_TRUE(Usable(TablaDe(listas)));
+}
+
+TEST_F(ConsultasTest, LoQueElServidorNiegaAlReleerSeDice) {
+  auto* const listas = AbreLista("Monedas");
+  EXPECT_FALSE(Celdas(listas, 0).empty());
+  propia_.Ejecuta("drop function norte.spsmoneda cascade");
+  Guion guion;
+  guion.Responde(Respuesta::Aceptar);
+  Pulsa(Boton(listas, "&Releer"));
+  EXPECT_EQ(guion.Ultimo().titulo, "Monedas");
+  EXPECT_NE(guion.Ultimo().texto.find("spsmoneda"), std::string::npos) << guion.Ultimo().texto;
+  EXPECT_TRUE(Celdas(listas, 0).empty());
+}
+
+TEST_F(ConsultasTest, UnReporteQueNoCabeEnElDiscoSeDice) {
+  auto* const listas = AbreLista("Monedas");
+  auto* const marco = Todos<MarcoDeTabla>(listas).at(0);
+  EXPECT_TRUE(marco->EscribeReporte());
+  const DiscoLleno lleno;
+  Guion guion;
+  guion.Responde(Respuesta::Aceptar);
+  EXPECT_FALSE(marco->EscribeReporte());
+  EXPECT_EQ(guion.Ultimo().texto,
+            "No se pudo escribir entero reporte.txt: el disco está lleno o no responde.");
 }
 
 TEST_F(ConsultasTest, LasColumnasGuardanAnchoYLugarPorCatalogo) {

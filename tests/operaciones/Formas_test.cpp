@@ -124,6 +124,35 @@ TEST_F(FormasTest, CadaCuentaCuelgaDeLaQueAcumula) {
   for (const Textos& cuenta : cuentas) EXPECT_EQ(padres[cuenta[0]], cuenta[1]) << cuenta[0];
 }
 
+TEST_F(FormasTest, CuentasEnCirculoOEnUnaCadenaLargaSeVenTodas) {
+  // What the server would refuse: three that accumulate in each other, one below an account that is not
+  // there, and a chain of as many as a chart can have.
+  propia_.Ejecuta(
+      "set session_replication_role = replica; insert into norte.catalogo_ctas (cuentaid, cuentaacumula, "
+      "identificacion, cuentanombre, tipo_cta, naturaleza) "
+      "select id, acumula, '1', 'Prueba', 'C', 'D' from (values ('8-1', '8-2'), ('8-2', '8-3'), ('8-3', "
+      "'8-1'), "
+      "('8-4', '8-x')) as c (id, acumula) union all "
+      "select '9-' || lpad(n::text, 6, '0'), case when n < 20000 then '9-' || lpad((n + 1)::text, 6, '0') "
+      "end, "
+      "'1', 'Cadena', 'C', 'D' from generate_series(1, 20000) n");
+  const auto forma = Dialogo<CuentaContable_Window>();
+  auto* const arbol = Todos<FXTreeList>(forma.get()).at(0);
+  std::map<std::string, std::string> padres;
+  for (FXTreeItem* uno = arbol->getFirstItem(); uno != nullptr; uno = uno->getBelow()) {
+    const FXTreeItem* const padre = uno->getParent();
+    padres[uno->getText().section(' ', 0).text()] =
+        padre != nullptr ? padre->getText().section(' ', 0).text() : "";
+  }
+  EXPECT_EQ(std::to_string(padres.size()), propia_.Valor("select count(*) from norte.catalogo_ctas"));
+  EXPECT_EQ(padres["8-1"], "") << "the first of the circle is at the top";
+  EXPECT_EQ(padres["8-2"], "8-3");
+  EXPECT_EQ(padres["8-3"], "8-1");
+  EXPECT_EQ(padres["8-4"], "");
+  EXPECT_EQ(padres["9-000001"], "9-000002");
+  EXPECT_EQ(padres["9-020000"], "");
+}
+
 TEST_F(FormasTest, UnaCuentaSeAgregaSeCambiaYSeBorra) {
   const auto forma = Dialogo<CuentaContable_Window>();
   const std::string arriba = propia_.Valor(
