@@ -20,7 +20,7 @@ namespace {
 constexpr char seccion[] = "SETTINGS";
 constexpr char desconectado[] = "¡DESCONECTADO!";
 constexpr char enReposo[] = "Listo.";
-constexpr char sinLinea[] = "Se perdió la conexión. F9: conectarse.";
+constexpr char sinLinea[] = "F9: conectarse. Se perdió la conexión.";
 
 // Where the window stood, in a section of its own.
 constexpr char lugar[] = "VENTANA";
@@ -214,7 +214,9 @@ void Caja::readRegistry() {
       ajustes.readStringEntry(seccion, "user", "xxx"), ajustes.readStringEntry(seccion, "servidor", "xxx"),
       ajustes.readStringEntry(seccion, "db", "xxx"), ajustes.readStringEntry(seccion, "sucursal", "xxx"),
       IsConectado && !perdida ? "*" : desconectado));
-  statusBar->getStatusLine()->setNormalText(perdida ? sinLinea : enReposo);
+  FXStatusLine* const linea = statusBar->getStatusLine();
+  linea->setNormalText(perdida ? sinLinea : enReposo);
+  linea->setTextColor(perdida ? FXRGB(192, 0, 0) : getApp()->getForeColor());
 }
 
 /// Tells a user who has not noticed yet that there is no server any more.

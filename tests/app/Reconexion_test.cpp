@@ -13,7 +13,7 @@
 namespace pruebas {
 namespace {
 
-constexpr char SinLinea[] = "Se perdió la conexión. F9: conectarse.";
+constexpr char SinLinea[] = "F9: conectarse. Se perdió la conexión.";
 
 class ReconexionTest : public ConEscritorio, public ConCaja {
  protected:
