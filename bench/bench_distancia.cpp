@@ -95,7 +95,7 @@ class Linea {
 };
 
 /// What is done, in order, with its statements and its seconds on each line.
-class Tabla {
+class Cuadricula {
  public:
   void Anota(const std::string& que, size_t sentencias, double segundos) {
     if (renglones_.find(que) == renglones_.end()) orden_.push_back(que);
@@ -129,7 +129,7 @@ class Tabla {
 /// A session on one line, from the login to the deletion of what it added.
 class Jornada {
  public:
-  Jornada(Tabla& tabla, const BaseDatos& base, const std::string& puerto) : tabla_(tabla) {
+  Jornada(Cuadricula& tabla, const BaseDatos& base, const std::string& puerto) : tabla_(tabla) {
     const std::pair<const char*, std::string> ajustes[] = {{"user", "adriana"},
                                                            {"sucursal", "norte"},
                                                            {"servidor", "127.0.0.1"},
@@ -168,7 +168,8 @@ class Jornada {
   void Trabaja(FXWindow* forma) {
     Escribe(forma, "Moneda:", "RX");
     Escribe(forma, "Descripción:", "De lejos");
-    Escribe(forma, "Valor :", "1");
+    static int valor = 0;  // the form remembers what it saved last, and saves nothing else
+    Escribe(forma, "Valor :", std::to_string(++valor));
     Mide("*Guardar una moneda*", [&] { Pulsa(Boton(forma, "&Aceptar")); });
     Mide("*Buscarla*", [&] { Pulsa(Boton(forma, "&Buscar")); });
     Mide("*Borrarla*", [&] { Pulsa(Boton(forma, "&Borrar")); });
@@ -193,7 +194,7 @@ class Jornada {
     return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
   }
 
-  Tabla& tabla_;
+  Cuadricula& tabla_;
   Espia espia_;
   const Principal caja_;
   Guion guion_{600};
@@ -207,7 +208,7 @@ class Jornada {
 int main() {
   App();
   BaseDatos base;
-  Tabla tabla;
+  Cuadricula tabla;
   std::cout.setstate(std::ios::failbit);  // the traces
   for (const int demora : Demoras) {
     const Linea linea(Servidor::Unico().puerto(), demora);
