@@ -24,6 +24,8 @@ import time
 import psycopg2
 
 PACIENCIA = 15  # seconds for an answer
+# Only who can be written to knows: one that led until a moment ago may show what it is about to forget.
+ESTA = "SELECT CASE WHEN NOT pg_is_in_recovery() THEN ARRAY[count(*)] END FROM calculo WHERE descripcioncalculo = %s"
 acaba = threading.Event()
 candado = threading.Lock()
 
@@ -105,7 +107,10 @@ class Sesion(threading.Thread):
             esta = None
             while esta is None and not acaba.is_set():
                 if self.conecta():
-                    esta = self.pregunta("SELECT ARRAY[count(*)] FROM calculo WHERE descripcioncalculo = %s", texto) or None
+                    esta = self.pregunta(ESTA, texto) or None
+                if esta is None:
+                    self.suelta()
+                    acaba.wait(0.2)
             if esta and esta[0]:
                 break
         else:
