@@ -3,7 +3,7 @@
 apoyo=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 cluster=$apoyo/../../../scripts/cluster
 export TOLVARA_CLUSTER=$obra/cluster
-corrida=0 escritores=()
+escritores=()
 
 hay_cluster() { command -v patroni >/dev/null && command -v etcd >/dev/null && command -v etcdctl >/dev/null; }
 
@@ -21,13 +21,17 @@ prepara_cluster() {
 
 # escriben [SESSIONS [HOST [--cree]]]: sessions that write from now on, wherever one can, or to that host and no other.
 escriben() {
-  local destino=${2:-"$anfitriones target_session_attrs=read-write"}
-  ((corrida += 1))
+  local destino=${2:-"$anfitriones target_session_attrs=read-write"} corrida
+  corrida=$(date +%s%N)
   /usr/bin/python3 "$apoyo/escritor.py" escribe "$obra/cuenta.$corrida" "host=$destino port=$(conexion Puerto) dbname=tolvara" \
     "$TOLVARA_CLUSTER/demostracion.claves" "${1:-8}" "$corrida" "${@:3}" &
   escritores+=("$!")
   cuenta=$obra/cuenta.$corrida
+  : >>"$cuenta"
 }
+
+# The leader dies: which one, and when it was dead.
+muere() { muerto=$("$cluster" mata lider) && muerte=$(ahora); }
 
 callan() {
   ((${#escritores[@]})) || return 0

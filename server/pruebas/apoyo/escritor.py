@@ -24,6 +24,11 @@ import time
 import psycopg2
 
 PACIENCIA = 15  # seconds for an answer
+# Only who can be written to knows: one that led until a moment ago may show what it is about to forget. And what a session
+# that was given up still waits with for a standby cannot be seen yet.
+SABE = """SELECT NOT pg_is_in_recovery() AND NOT EXISTS (SELECT FROM pg_stat_activity
+                                                          WHERE usename = session_user AND wait_event = %s)"""
+ESTA = "SELECT ARRAY[count(*)] FROM calculo WHERE descripcioncalculo = %s"
 acaba = threading.Event()
 candado = threading.Lock()
 
@@ -104,8 +109,11 @@ class Sesion(threading.Thread):
                 break
             esta = None
             while esta is None and not acaba.is_set():
-                if self.conecta():
-                    esta = self.pregunta("SELECT ARRAY[count(*)] FROM calculo WHERE descripcioncalculo = %s", texto) or None
+                if self.conecta() and self.pregunta(SABE, "SyncRep"):
+                    esta = self.pregunta(ESTA, texto) or None
+                if esta is None:
+                    self.suelta()
+                    acaba.wait(0.2)
             if esta and esta[0]:
                 break
         else:
@@ -152,7 +160,7 @@ def cuenta(archivo):
 
 
 def corte(archivo, desde, hasta="inf"):
-    momentos = [m for m, que, _ in lee(archivo) if que == "guardado" and float(desde) - 1 <= m <= float(hasta)]
+    momentos = [m for m, que, _ in lee(archivo) if que == "guardado" and float(desde) - 5 <= m <= float(hasta)]
     print(f"{max((b - a for a, b in zip(momentos, momentos[1:])), default=-1):.1f}")
 
 
