@@ -27,14 +27,15 @@ DECLARE
   cuales CONSTANT text := CASE cardinality(nombres) WHEN 1 THEN 'La sucursal ' ELSE 'Las sucursales ' END
                           || array_to_string(nombres, ', ');
   n CONSTANT text := CASE cardinality(nombres) WHEN 1 THEN '' ELSE 'n' END;
-  -- of several addresses that were tried, what the last one said
-  motivo CONSTANT text := btrim(regexp_replace(coalesce(nullif(detalle, ''), mensaje), '^.*(failed|falló): |\n.*$|FATAL: ', '', 'g'));
+  -- what libpq says, without where, which is told already
+  motivo CONSTANT text := btrim(regexp_replace(regexp_replace(coalesce(nullif(detalle, ''), mensaje), '\s*\n\s*', ' ', 'g'),
+    '(connection to server at "[^"]*"|falló la conexión al servidor en «[^»]*»)( \([^)]*\))?[^:]*: |FATAL:\s+', '', 'g'));
 BEGIN
   RAISE EXCEPTION '%', CASE
-      WHEN estado ~ '^(08|57P)' AND motivo ~ 'SSL|channel binding' THEN
+      WHEN estado = '08001' AND motivo ~ '(support|soporta) SSL|channel binding' THEN
         format('%s no se lee%s (%s): el otro servidor no ofrece TLS, y fuera de este equipo no se habla sin él (%s)', cuales, n,
                lugar, motivo)
-      WHEN estado ~ '^(08|57P)' AND detalle ~ 'FATAL: ' THEN
+      WHEN estado = '08001' AND detalle ~ 'FATAL: ' THEN
         format('%s no se lee%s (%s): el otro servidor no deja entrar (%s)', cuales, n, lugar, motivo)
       WHEN estado ~ '^(08|57P)' THEN
         format('%s no contesta%s (%s): %s', cuales, n, lugar, motivo)
@@ -186,10 +187,12 @@ BEGIN
         USING ERRCODE = 'object_not_in_prerequisite_state';
     END IF;
   END LOOP;
-  -- In place of the institution's row, of which the login reads every column, the refusal.
+  -- In place of the institution's row, of which the login reads every column, the refusal; a condition on a column cannot
+  -- be decided without it.
   IF local IS NOT NULL THEN
-    EXECUTE (SELECT format('CREATE VIEW %I.empresa AS SELECT %s WHERE comun.rechaza_entrada(%L)', sucursal,
-                           string_agg(format('NULL::%s AS %I', format_type(coalesce(nullif(typbasetype, 0), t.oid), NULL), attname),
+    EXECUTE (SELECT format('CREATE VIEW %I.empresa AS SELECT %s FROM comun.rechaza_entrada(%L) AS se_rechaza', sucursal,
+                           string_agg(format('CASE WHEN se_rechaza THEN NULL::%s END AS %I',
+                                             format_type(coalesce(nullif(typbasetype, 0), t.oid), NULL), attname),
                                       ', ' ORDER BY attnum), sucursal)
                FROM pg_attribute JOIN pg_type AS t ON t.oid = atttypid
               WHERE attrelid = format('%s.empresa', local)::regclass AND attnum > 0 AND NOT attisdropped);

@@ -184,7 +184,7 @@ DECLARE
   sucursal name;
   existe boolean;
   agregadas integer := 0;
-  lejos CONSTANT text := (SELECT string_agg(format('%s (%s)', nombre, lugar), '; ') FROM sucursales_remotas());
+  lejos CONSTANT text := (SELECT string_agg(format('%s (%s)', r.nombre, r.lugar), '; ') FROM sucursales_remotas() AS r);
 BEGIN
   PERFORM exige_permiso('0901');
   IF lejos <> '' THEN

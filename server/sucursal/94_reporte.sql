@@ -64,7 +64,8 @@ SELECT p.paterno, p.materno, p.nombre, p.sujetoid, sin_acentos(p.paterno) AS bus
   FROM sujeto p LEFT JOIN socio s USING (sujetoid);
 
 -- The report of the persons who fit, branch by branch. Each argument is words to be found, in any order: in the given
--- names, in either surname, and in the RFC, CURP or member's key; a blank one fits everybody.
+-- names, in either surname, and in the RFC, CURP or member's key; a blank one fits everybody. The conditions are those of the
+-- whole: within its parts they would make the planner ask one server after the other.
 CREATE FUNCTION personas_reporte(sucursales name[], nombres text, apaterno text, amaterno text, clave text) RETURNS text
 LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
 DECLARE
@@ -74,14 +75,15 @@ BEGIN
     WITH hallada AS (%1$s),
     de_una AS (
       SELECT sucursal, count(*) AS personas, string_agg(renglones, %2$L ORDER BY paterno, materno, nombre, sujetoid) AS renglones
-        FROM hallada GROUP BY sucursal)
+        FROM hallada
+       WHERE busca_nombre LIKE ALL ($1) AND busca_paterno LIKE ALL ($2) AND busca_materno LIKE ALL ($3)
+         AND busca_clave LIKE ALL ($4)
+       GROUP BY sucursal)
     SELECT string_agg(concat_ws(%2$L, ''Sucursal '' || s.sucid, repeat(''-'', 135),
                                 coalesce(d.renglones, ''No hay personas con esos datos.''), repeat(''-'', 135),
                                 ''Personas: '' || coalesce(d.personas, 0), ''''), %2$L ORDER BY s.sucursal)
       FROM (%3$s) AS s LEFT JOIN de_una AS d USING (sucursal)',
-    consulta_de(sucursales, 'SELECT %1$L::name AS sucursal, d.* FROM %1$I.persona_detalle AS d
-                              WHERE d.busca_nombre LIKE ALL ($1) AND d.busca_paterno LIKE ALL ($2)
-                                AND d.busca_materno LIKE ALL ($3) AND d.busca_clave LIKE ALL ($4)'),
+    consulta_de(sucursales, 'SELECT %1$L::name AS sucursal, d.* FROM %1$I.persona_detalle AS d'),
     E'\n', consulta_de(sucursales, 'SELECT %1$L::name AS sucursal, sucid FROM %1$I.sucursal_detalle'))
      INTO reporte USING patrones(nombres), patrones(apaterno), patrones(amaterno), patrones(clave);
   RETURN concat_ws(E'\n', encabezado_reporte(nombres, apaterno, amaterno, clave), reporte);
