@@ -72,14 +72,15 @@ BEGIN
   IF estado !~ '^(08|HV|57P|2F003|42704)' AND orden IS NULL THEN
     RETURN;
   END IF;
-  FOR remota IN
-    SELECT r.lugar, r.servidor, CASE WHEN estado ~ '^08' THEN array_agg(r.nombre) ELSE ARRAY[min(r.nombre)] END AS nombres
-      FROM sucursales_remotas() AS r
-     WHERE strpos(mensaje, '"' || r.servidor || '"') > 0 OR orden ~ format('FROM "?%s"?\.', r.nombre)
-     GROUP BY r.servidor, r.lugar
-  LOOP
-    PERFORM rechaza_remota(remota.nombres, remota.lugar, estado, mensaje, detalle);
-  END LOOP;
+  SELECT * INTO remota
+    FROM sucursales_remotas() AS r
+   WHERE strpos(mensaje, '"' || r.servidor || '"') > 0 OR orden ~ format('FROM "?%s"?\.', r.nombre)
+   LIMIT 1;
+  IF FOUND THEN
+    PERFORM rechaza_remota(CASE WHEN estado ~ '^08' THEN ARRAY(SELECT r.nombre FROM sucursales_remotas() AS r
+                                                                WHERE r.lugar = remota.lugar)
+                                ELSE ARRAY[remota.nombre] END, remota.lugar, estado, mensaje, detalle);
+  END IF;
   FOR remota IN SELECT * FROM sucursales_remotas() LOOP
     PERFORM lee_remota(remota.nombre, 'sucursal_detalle', remota.lugar);
   END LOOP;
