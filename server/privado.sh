@@ -82,9 +82,7 @@ memoria_por_sesion=1280
 
 consulta() { administra psql -XAtq -v ON_ERROR_STOP=1 "${@:2}" <<<"$1"; }
 
-sucursales() {
-  consulta "SELECT string_agg(relnamespace::regnamespace::text, ', ' ORDER BY 1) FROM pg_class WHERE relname = 'empresa';"
-}
+sucursales() { consulta "SELECT string_agg(s, ', ') FROM comun.sucursales() AS s;"; }
 
 prepara_base() {
   administra psql -Xq -v ON_ERROR_STOP=1 -d postgres <<SQL

@@ -7,16 +7,20 @@
 --                        only role that may create roles: a flaw elsewhere cannot reach that power
 --   tolvara_auditores    reads the log of every branch and nothing else
 --   tolvara_registro     owns only the function that reads the server's own log for them (60_registro.sql)
+--   tolvara_lectores     the logins of other servers, which read of each branch what goes into an answer over all (70_remotas.sql)
+--   tolvara_respaldo     what a backup of the shared objects is read as where a password is kept that it must not hold
 SELECT format('CREATE ROLE %I NOLOGIN%s', papel, facultad)
   FROM (VALUES ('tolvara_usuarios', ''), ('tolvara_propietario', ''), ('tolvara_altas', ' CREATEROLE'),
-               ('tolvara_auditores', ''), ('tolvara_registro', ''))
+               ('tolvara_auditores', ''), ('tolvara_registro', ''), ('tolvara_lectores', ''), ('tolvara_respaldo', ''))
        AS papeles (papel, facultad)
  WHERE NOT EXISTS (SELECT FROM pg_roles WHERE rolname = papel)
 \gexec
 
 SELECT current_database() AS base \gset
 REVOKE ALL ON DATABASE :"base" FROM PUBLIC;
-GRANT CONNECT ON DATABASE :"base" TO tolvara_usuarios, tolvara_auditores;
+GRANT CONNECT ON DATABASE :"base" TO tolvara_usuarios, tolvara_auditores, tolvara_lectores;
+ALTER ROLE tolvara_respaldo BYPASSRLS;  -- a restored one has lost it
+GRANT pg_read_all_data TO tolvara_respaldo;
 REVOKE ALL ON SCHEMA public FROM PUBLIC;
 
 -- A retired login's sessions are ended, see 30_logins.sql.

@@ -64,24 +64,31 @@ BEGIN ATOMIC
    ORDER BY n.nspname;
 END;
 
--- The same, for what reads or writes all of them: none may be of another version than the one that asks.
+-- The same and those that live on other servers, for what reads all of them: none may be of another version than the one
+-- that asks, nor fail to answer.
 CREATE OR REPLACE FUNCTION sucursales_iguales(ejemplo name) RETURNS SETOF name
 LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
 DECLARE
+  propia CONSTANT integer := (SELECT version FROM version WHERE objeto = ejemplo);
   otra record;
 BEGIN
-  SELECT s AS nombre, coalesce(v.version, 1) AS version, propia.version AS propia INTO otra
+  SELECT s AS nombre, coalesce(v.version, 1) AS version INTO otra
     FROM sucursales() AS s
     LEFT JOIN version AS v ON v.objeto = s
-   CROSS JOIN (SELECT version FROM version WHERE objeto = ejemplo) AS propia
-   WHERE coalesce(v.version, 1) <> propia.version
+   WHERE coalesce(v.version, 1) <> propia
    ORDER BY s LIMIT 1;
   IF FOUND THEN
     RAISE EXCEPTION 'La sucursal % está en la versión % y ésta en la %: el administrador del servidor debe actualizarla',
-      otra.nombre, otra.version, otra.propia USING ERRCODE = 'object_not_in_prerequisite_state';
+      otra.nombre, otra.version, propia USING ERRCODE = 'object_not_in_prerequisite_state';
   END IF;
-  RETURN QUERY SELECT * FROM sucursales();
+  PERFORM exige_remotas(propia);
+  RETURN QUERY SELECT s FROM sucursales() AS s UNION ALL SELECT nombre FROM sucursales_remotas() ORDER BY 1;
 END $$;
+
+-- One statement over several of them: each takes the place of every %1$I and %1$L of `parte`.
+CREATE OR REPLACE FUNCTION consulta_de(nombres name[], parte text) RETURNS text
+LANGUAGE sql STABLE SET search_path FROM CURRENT
+RETURN (SELECT string_agg(format(parte, s), ' UNION ALL ') FROM unnest(nombres) AS s);
 
 -- A statement from a template: each {name} gives way to the value of that name.
 CREATE OR REPLACE FUNCTION rellena(plantilla text, valores jsonb) RETURNS text

@@ -2,7 +2,8 @@
 -- users that keep others waiting or sit in a transaction, which no setting of theirs can prevent, and those of logins
 -- that may no longer connect; it answers what it ended, and the server's log file keeps it. Each interval is a limit:
 --   bloquea      for keeping others waiting while doing nothing
---   trabaja      for keeping others waiting with work
+--   trabaja      for keeping others waiting with work; and for waiting oneself for another server, which ends by itself
+--                unless that one went silent in the middle of its answer
 --   ociosa       for doing nothing within a transaction
 --   transaccion  for a transaction
 CREATE OR REPLACE FUNCTION comun.vigila(bloquea interval DEFAULT '1 minute', trabaja interval DEFAULT '10 minutes',
@@ -26,6 +27,8 @@ BEGIN
              CASE WHEN NOT r.rolcanlogin THEN 'su login ya no puede entrar'
                   WHEN e.tiempo > CASE WHEN a.state = 'active' THEN trabaja ELSE bloquea END
                     THEN format('hace esperar a otros desde hace %s', date_trunc('second', e.tiempo))
+                  WHEN a.wait_event IN ('AppendReady', 'Extension') AND ahora - a.query_start > trabaja
+                    THEN format('espera a otro servidor desde hace %s', date_trunc('second', ahora - a.query_start))
                   WHEN a.state LIKE 'idle in transaction%' AND ahora - a.state_change > ociosa
                     THEN format('no hace nada en su transacción desde hace %s',
                                 date_trunc('second', ahora - a.state_change))

@@ -177,15 +177,21 @@ BEGIN ATOMIC
 END;
 
 -- Adds an account to every branch that does not have it yet. Each asks for the permission by itself: without it in one
--- of them none gets the account.
+-- of them none gets the account. All or none cannot be promised over two servers, so that nothing is written then.
 CREATE FUNCTION spicatalogo_ctasc(:campos) RETURNS void
 LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
 DECLARE
   sucursal name;
   existe boolean;
   agregadas integer := 0;
+  lejos CONSTANT text := (SELECT string_agg(format('%s (%s)', r.nombre, r.lugar), '; ') FROM sucursales_remotas() AS r);
 BEGIN
   PERFORM exige_permiso('0901');
+  IF lejos <> '' THEN
+    RAISE EXCEPTION 'Una cuenta no se da de alta a la vez en varios servidores, y hay sucursales en otro: %. Dela de alta en '
+      'cada sucursal; el administrador ve las que faltan con: servidor faltan-cuentas', lejos
+      USING ERRCODE = 'feature_not_supported';
+  END IF;
   FOR sucursal IN SELECT sucursales_iguales(current_schema()) LOOP
     EXECUTE format('SELECT EXISTS (SELECT FROM %I.catalogo_ctas WHERE cuentaid = $1::bpchar)', sucursal)
        INTO existe USING cuenta;

@@ -275,17 +275,22 @@ SELECT s.clavesocioint, pr.referenciaprestamo, p.ejercicio, p.periodo, p.fechaci
   JOIN ciudadesmex c USING (ciudadmexid)
   JOIN finalidades f ON f.clavefinalidad = p.clavefinalidad;
 
--- The same of all branches. A user reads only his own; this reads the others with the owner's rights, for whoever may
--- run the pre-close here, and answers nothing but that month.
+-- The same of all branches, those of other servers too. A user reads only his own; this reads the others with the owner's
+-- rights, for whoever may run the pre-close here, and answers nothing but that month.
 CREATE FUNCTION precorteconsolidado(anio integer, mes integer) RETURNS SETOF precorte_detalle
 LANGUAGE plpgsql STABLE SECURITY DEFINER SET search_path FROM CURRENT AS $$
+DECLARE
+  detalle text;
+  contexto text;
 BEGIN
   PERFORM exige_permiso('0910');
-  RETURN QUERY EXECUTE
-    (SELECT string_agg(format('SELECT * FROM %I.precorte_detalle WHERE ejercicio = $1 AND periodo = $2', sucursal),
-                       ' UNION ALL ')
-       FROM sucursales_iguales(current_schema()) AS sucursal) || ' ORDER BY diasvencidos, clavesocioint, referenciaprestamo'
-    USING anio, mes;
+  RETURN QUERY EXECUTE consulta_de(ARRAY(SELECT sucursales_iguales(current_schema())),
+                                   'SELECT * FROM %1$I.precorte_detalle WHERE ejercicio = $1 AND periodo = $2')
+                       || ' ORDER BY diasvencidos, clavesocioint, referenciaprestamo' USING anio, mes;
+EXCEPTION WHEN OTHERS OR query_canceled THEN
+  GET STACKED DIAGNOSTICS detalle = PG_EXCEPTION_DETAIL, contexto = PG_EXCEPTION_CONTEXT;
+  PERFORM culpa_remota(SQLSTATE, SQLERRM, detalle, contexto);
+  RAISE;
 END $$;
 
 ALTER TABLE precorte ENABLE ROW LEVEL SECURITY;

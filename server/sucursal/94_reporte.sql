@@ -16,9 +16,10 @@ LANGUAGE sql STABLE SET search_path FROM CURRENT AS $$
                                                    left(clave, 99)), '\s+', ' ', 'g')) AS pedido
 $$;
 
--- One person: keys, address, membership, loans and goods, each on lines of its own below the first.
+-- One person: keys, address, membership, loans and goods, each on lines of its own below the first. It runs with the owner's
+-- rights, since in a view a function has those of whoever reads it.
 CREATE FUNCTION persona_reporte(p sujeto) RETURNS text
-LANGUAGE sql STABLE SET search_path FROM CURRENT AS $$
+LANGUAGE sql STABLE SECURITY DEFINER SET search_path FROM CURRENT AS $$
   SELECT concat_ws(E'\n',
            rtrim(format('%7s  %-62s  %-16s  %-21s  %10s  %4s', p.sujetoid,
                         left(concat_ws(' ', p.paterno, nullif(p.materno, ''), p.nombre), 62), p.rfc, p.curp,
@@ -55,53 +56,61 @@ LANGUAGE sql STABLE SET search_path FROM CURRENT AS $$
     LEFT JOIN socio s ON s.sujetoid = p.sujetoid
 $$;
 
--- The persons of this branch who fit, without an end of line. Each argument is words to be found, in any order: in the
--- given names, in either surname, and in the RFC, CURP or member's key; a blank one fits everybody.
-CREATE FUNCTION personas_reporte(nombres text, apaterno text, amaterno text, clave text) RETURNS text
-LANGUAGE sql STABLE SET search_path FROM CURRENT AS $$
-  WITH hallada AS (
-    SELECT p AS persona
-      FROM sujeto p LEFT JOIN socio s USING (sujetoid)
-     WHERE sin_acentos(p.nombre) LIKE ALL ((SELECT patrones(nombres))::text[])
-       AND sin_acentos(p.paterno) LIKE ALL ((SELECT patrones(apaterno))::text[])
-       AND sin_acentos(p.materno) LIKE ALL ((SELECT patrones(amaterno))::text[])
-       AND sin_acentos(concat_ws(' ', p.rfc, p.curp, s.clavesocioint)) LIKE ALL ((SELECT patrones(clave))::text[]))
-  SELECT concat_ws(E'\n',
-           'Sucursal ' || (SELECT sucid FROM empresa),
-           repeat('-', 135),
-           coalesce(string_agg(persona_reporte(persona), E'\n' ORDER BY (persona).paterno, (persona).materno,
-                               (persona).nombre, (persona).sujetoid),
-                    'No hay personas con esos datos.'),
-           repeat('-', 135),
-           'Personas: ' || count(*))
-    FROM hallada
-$$;
+-- Every person as the report has him, with what he is found by, and the order of his place in it.
+CREATE VIEW persona_detalle AS
+SELECT p.paterno, p.materno, p.nombre, p.sujetoid, sin_acentos(p.paterno) AS busca_paterno, sin_acentos(p.materno) AS busca_materno,
+       sin_acentos(p.nombre) AS busca_nombre, sin_acentos(concat_ws(' ', p.rfc, p.curp, s.clavesocioint)) AS busca_clave,
+       persona_reporte(p) AS renglones
+  FROM sujeto p LEFT JOIN socio s USING (sujetoid);
+
+-- The report of the persons who fit, branch by branch. Each argument is words to be found, in any order: in the given
+-- names, in either surname, and in the RFC, CURP or member's key; a blank one fits everybody. The conditions are those of the
+-- whole: within its parts they would make the planner ask one server after the other.
+CREATE FUNCTION personas_reporte(sucursales name[], nombres text, apaterno text, amaterno text, clave text) RETURNS text
+LANGUAGE plpgsql STABLE SET search_path FROM CURRENT AS $$
+DECLARE
+  reporte text;
+BEGIN
+  EXECUTE format('
+    WITH hallada AS (%1$s),
+    de_una AS (
+      SELECT sucursal, count(*) AS personas, string_agg(renglones, %2$L ORDER BY paterno, materno, nombre, sujetoid) AS renglones
+        FROM hallada
+       WHERE busca_nombre LIKE ALL ($1) AND busca_paterno LIKE ALL ($2) AND busca_materno LIKE ALL ($3)
+         AND busca_clave LIKE ALL ($4)
+       GROUP BY sucursal)
+    SELECT string_agg(concat_ws(%2$L, ''Sucursal '' || s.sucid, repeat(''-'', 135),
+                                coalesce(d.renglones, ''No hay personas con esos datos.''), repeat(''-'', 135),
+                                ''Personas: '' || coalesce(d.personas, 0), ''''), %2$L ORDER BY s.sucursal)
+      FROM (%3$s) AS s LEFT JOIN de_una AS d USING (sucursal)',
+    consulta_de(sucursales, 'SELECT %1$L::name AS sucursal, d.* FROM %1$I.persona_detalle AS d'),
+    E'\n', consulta_de(sucursales, 'SELECT %1$L::name AS sucursal, sucid FROM %1$I.sucursal_detalle'))
+     INTO reporte USING patrones(nombres), patrones(apaterno), patrones(amaterno), patrones(clave);
+  RETURN concat_ws(E'\n', encabezado_reporte(nombres, apaterno, amaterno, clave), reporte);
+END $$;
 
 -- The report of this branch.
 CREATE FUNCTION spssujeto(nombres text, apaterno text, amaterno text, clave text) RETURNS text
 LANGUAGE plpgsql STABLE SECURITY DEFINER SET search_path FROM CURRENT AS $$
 BEGIN
   PERFORM exige_permiso('0442');
-  RETURN concat(encabezado_reporte(nombres, apaterno, amaterno, clave), E'\n',
-                personas_reporte(nombres, apaterno, amaterno, clave), E'\n');
+  RETURN personas_reporte(ARRAY[current_schema()], nombres, apaterno, amaterno, clave);
 END $$;
 
--- The report of all branches. A user reads only his own; this reads the others with the owner's rights, for whoever may
--- use the option of persons here.
+-- The report of all branches, those of other servers too. A user reads only his own; this reads the others with the
+-- owner's rights, for whoever may use the option of persons here.
 CREATE FUNCTION spssujetoc(nombres text, apaterno text, amaterno text, clave text) RETURNS text
 LANGUAGE plpgsql STABLE SECURITY DEFINER SET search_path FROM CURRENT AS $$
 DECLARE
-  reporte text;
-  partes text[] := ARRAY[encabezado_reporte(nombres, apaterno, amaterno, clave)];
-  sucursal name;
+  detalle text;
+  contexto text;
 BEGIN
   PERFORM exige_permiso('0442');
-  FOR sucursal IN SELECT * FROM sucursales_iguales(current_schema()) LOOP
-    EXECUTE format('SELECT %I.personas_reporte($1, $2, $3, $4)', sucursal)
-       INTO reporte USING nombres, apaterno, amaterno, clave;
-    partes := partes || (reporte || E'\n');
-  END LOOP;
-  RETURN array_to_string(partes, E'\n');
+  RETURN personas_reporte(ARRAY(SELECT sucursales_iguales(current_schema())), nombres, apaterno, amaterno, clave);
+EXCEPTION WHEN OTHERS OR query_canceled THEN
+  GET STACKED DIAGNOSTICS detalle = PG_EXCEPTION_DETAIL, contexto = PG_EXCEPTION_CONTEXT;
+  PERFORM culpa_remota(SQLSTATE, SQLERRM, detalle, contexto);
+  RAISE;
 END $$;
 
 GRANT EXECUTE ON FUNCTION spssujeto(text, text, text, text), spssujetoc TO :"grupo";
