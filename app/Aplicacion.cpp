@@ -7,12 +7,22 @@
 #include <cstring>
 #include <iostream>
 
+#include "app/Caja.h"
+#include "framework/Foco.h"
+
 namespace {
 
 /// Ends a program that has not begun.
 void Desiste(const char* texto) {
   std::cerr << texto << std::endl;
   std::_Exit(1);
+}
+
+bool HayForma(FXWindow* ventana) {
+  if (dynamic_cast<MarcoDeForma*>(ventana) != nullptr) return true;
+  for (FXWindow* hija = ventana->getFirst(); hija != nullptr; hija = hija->getNext())
+    if (HayForma(hija)) return true;
+  return false;
 }
 
 }  // namespace
@@ -45,11 +55,30 @@ bool Aplicacion::getNextEvent(FXRawEvent& evento, bool espera) {
 
 bool Aplicacion::dispatchEvent(FXRawEvent& evento) {
   // An open menu or list has pointer and keyboard to itself.
-  if (evento.type != KeyPress || XLookupKeysym(&evento.xkey, 0) != XK_F1 || getPopupWindow() != nullptr ||
+  if (evento.type != KeyPress || getPopupWindow() != nullptr ||
       (evento.xkey.state & (ShiftMask | ControlMask | Mod1Mask)) != 0)
     return FXApp::dispatchEvent(evento);
-  if (FXWindow* const ventana = EnFrente()) ayuda.Muestra(ventana);
-  return true;
+  FXWindow* const ventana = EnFrente();
+  switch (XLookupKeysym(&evento.xkey, 0)) {
+    case XK_F1:
+      if (ventana != nullptr) ayuda.Muestra(ventana);
+      return true;
+    case XK_F9:
+      if (ventana != nullptr) Conecta(ventana);
+      return true;
+    default:
+      return FXApp::dispatchEvent(evento);
+  }
+}
+
+/// A user whose connection is lost may be in a dialog, behind which the menu cannot be reached: he need not
+/// close it, and lose what he has typed. A box has to be answered first.
+void Aplicacion::Conecta(FXWindow* enFrente) {
+  if (!HayForma(enFrente) && dynamic_cast<Caja*>(enFrente) == nullptr) return;
+  FXWindow* principal = enFrente;
+  while (principal->getOwner() != nullptr) principal = principal->getOwner()->getShell();
+  if (dynamic_cast<Caja*>(principal) != nullptr)
+    principal->handle(this, FXSEL(SEL_COMMAND, Caja::ID_CONECTAR), nullptr);
 }
 
 /// The window that the user is in: the one that has to be answered first, if there is one.

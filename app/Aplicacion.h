@@ -1,4 +1,5 @@
-// The application object: the toolkit's, with accents that can be typed anywhere, and the help of F1.
+// The application object: the toolkit's, with accents that can be typed anywhere, the help of F1, and the
+// login of F9.
 #pragma once
 
 #include <fx.h>
@@ -18,12 +19,13 @@ class Aplicacion : public FXApp {
   /// Gives the keys of an accent ("´", then "a") to the field with the focus. The toolkit itself composes
   /// them only while the pointer is over that field.
   bool getNextEvent(FXRawEvent& evento, bool espera) override;
-  /// F1 asks for help, in whatever window, since a key goes up no further than the window that it was pressed
-  /// in.
+  /// F1 asks for help and F9 logs in again, in whatever window, since a key goes up no further than the
+  /// window that it was pressed in.
   bool dispatchEvent(FXRawEvent& evento) override;
 
  private:
   FXWindow* EnFrente() const;
+  void Conecta(FXWindow* enFrente);
 
   Ayuda ayuda;
 };

@@ -5,11 +5,13 @@
 #include <algorithm>
 #include <cstring>
 #include <iostream>
+#include <vector>
 
 #include "app/Traductor.h"
 #include "app/sesion.h"
 #include "db/Apertura.h"
 #include "db/Login_Window.h"
+#include "framework/Foco.h"
 #include "icons/Icono.h"
 #include "icons/iconos.h"
 
@@ -17,12 +19,16 @@ namespace {
 
 constexpr char seccion[] = "SETTINGS";
 constexpr char desconectado[] = "¡DESCONECTADO!";
+constexpr char enReposo[] = "Listo.";
+constexpr char sinLinea[] = "F9: conectarse. Se perdió la conexión.";
 
 // Where the window stood, in a section of its own.
 constexpr char lugar[] = "VENTANA";
 constexpr FXint ninguna = -1;
 constexpr FXint anchoMinimo = 400, altoMinimo = 300;
 constexpr FXint orilla = 32;  // what a window manager puts around it
+
+bool SesionPerdida() { return IsConectado && apertura::SePerdio(); }
 
 }  // namespace
 
@@ -106,7 +112,7 @@ void Caja::ArmaEstado() {
   statusBar =
       new FXStatusBar(this, LAYOUT_SIDE_BOTTOM | LAYOUT_FILL_X | STATUSBAR_WITH_DRAGCORNER | FRAME_RAISED, 0,
                       0, 0, 0, 3, 3, 2, 2, 4, 0);
-  statusBar->getStatusLine()->setNormalText("Listo.");
+  statusBar->getStatusLine()->setNormalText(enReposo);
   clockField =
       new FXTextField(statusBar, 11, nullptr, 0, TEXTFIELD_READONLY | aLaDerecha, 0, 0, 0, 0, 2, 2, 1, 1);
   clockField->setBackColor(statusBar->getBackColor());
@@ -180,9 +186,25 @@ void Caja::AnotaLugar() {
 }
 
 void Caja::Login() {
-  Login_Window login(this);
-  login.execute(PLACEMENT_SCREEN);
-  readRegistry();
+  bool abierta;
+  {
+    Login_Window login(this);
+    abierta = login.execute(PLACEMENT_SCREEN) && IsConectado;
+    perdida = SesionPerdida();
+    readRegistry();
+  }
+  if (abierta) ReleeFormas();
+}
+
+/// Each open form shows what is there now, wherever it stands; its fields are left alone.
+void Caja::ReleeFormas() {
+  std::vector<MarcoDeForma*> marcos;
+  const auto busca = [&](const auto& sigue, FXWindow* ventana) -> void {
+    if (auto* const marco = dynamic_cast<MarcoDeForma*>(ventana)) marcos.push_back(marco);
+    for (FXWindow* hija = ventana->getFirst(); hija != nullptr; hija = hija->getNext()) sigue(sigue, hija);
+  };
+  busca(busca, getRoot());
+  for (MarcoDeForma* const marco : marcos) marco->Relee();
 }
 
 void Caja::readRegistry() {
@@ -191,12 +213,23 @@ void Caja::readRegistry() {
       "Usuario: %s - Suc. \\\\%s\\%s\\%s %s",  //
       ajustes.readStringEntry(seccion, "user", "xxx"), ajustes.readStringEntry(seccion, "servidor", "xxx"),
       ajustes.readStringEntry(seccion, "db", "xxx"), ajustes.readStringEntry(seccion, "sucursal", "xxx"),
-      IsConectado ? "*" : desconectado));
+      IsConectado && !perdida ? "*" : desconectado));
+  FXStatusLine* const linea = statusBar->getStatusLine();
+  linea->setNormalText(perdida ? sinLinea : enReposo);
+  linea->setTextColor(perdida ? FXRGB(192, 0, 0) : getApp()->getForeColor());
+}
+
+/// Tells a user who has not noticed yet that there is no server any more.
+void Caja::VigilaConexion() {
+  if (SesionPerdida() == perdida) return;
+  perdida = !perdida;
+  readRegistry();
 }
 
 long Caja::onClock(FXObject*, FXSelector, void*) {
   clockField->setText(FXSystem::time("%I:%M:%S %p", FXSystem::now()));
   if (shown()) AnotaLugar();
+  VigilaConexion();
   getApp()->addTimeout(this, ID_CLOCK, 500);
   return 1;
 }
@@ -209,7 +242,7 @@ long Caja::onCmdConectar(FXObject*, FXSelector, void*) {
 long Caja::onCmdDesconectar(FXObject*, FXSelector, void*) {
   if (!TieneAcceso("0102")) return 1;
   apertura::Cierra();
-  IsConectado = false;
+  IsConectado = perdida = false;
   statusLabel->setText(FXStringFormat("Usuario: %s - Suc. %s %s",  //
                                       getApp()->reg().readStringEntry(seccion, "user", "xxx"),
                                       getApp()->reg().readStringEntry(seccion, "sucursal", "xxx"),

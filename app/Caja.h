@@ -51,11 +51,13 @@ class Caja : public FXMainWindow {
   /// Shows the window and runs the first login, ahead of the event loop.
   void create() override;
 
-  /// Rewrites the session text from the settings and IsConectado.
+  /// Rewrites the session text from the settings and IsConectado, and the line that tells of a lost
+  /// connection.
   void readRegistry();
 
   long onCmdAbout(FXObject*, FXSelector, void*);
-  /// A further login. A session that is open stays so.
+  /// A further login. A session that is open stays so. The forms that are open stay as they are and list
+  /// their catalogues anew.
   long onCmdConectar(FXObject*, FXSelector, void*);
   /// Closes the connection; cache and session variables stay as they are.
   long onCmdDesconectar(FXObject*, FXSelector, void*);
@@ -111,6 +113,8 @@ class Caja : public FXMainWindow {
   void ArmaMenu();
   void ArmaBotonesDeHija();
   void Login();
+  void VigilaConexion();
+  void ReleeFormas();
   void MuestraDondeEstaba();
   void AnotaLugar();
   bool PermiteOpciones() const;
@@ -136,6 +140,7 @@ class Caja : public FXMainWindow {
   FXTextField* clockField = nullptr;
   FXLabel* statusLabel = nullptr;
   FXToolTip* avisos = nullptr;  // of all windows of the program
+  bool perdida = false;         // the server has gone, and the session with it
   FXIcon* bigIcon = nullptr;
   FXIcon* smallIcon = nullptr;
   FXFont* fuente = nullptr;          // the application's normal font while this window lives

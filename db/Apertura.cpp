@@ -1,6 +1,9 @@
 #include "db/Apertura.h"
 
 #include <libintl.h>
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <sys/socket.h>
 
 #include <clocale>
 #include <cstdlib>
@@ -143,6 +146,19 @@ void PideEspanol() {
   bind_textdomain_codeset("libc", "UTF-8");  // whose words for a failed call it quotes
 }
 
+/// A server that has gone without a word is given up within half a minute. On a socket of this machine there
+/// is nothing to set.
+void VigilaLinea() {
+  constexpr struct {
+    int nivel, opcion, valor;  // seconds, times, or milliseconds
+  } ajustes[] = {
+      {SOL_SOCKET, SO_KEEPALIVE, 1}, {IPPROTO_TCP, TCP_KEEPIDLE, 10},        {IPPROTO_TCP, TCP_KEEPINTVL, 5},
+      {IPPROTO_TCP, TCP_KEEPCNT, 4}, {IPPROTO_TCP, TCP_USER_TIMEOUT, 30000},
+  };
+  for (const auto& ajuste : ajustes)
+    setsockopt(PQsocket(conn), ajuste.nivel, ajuste.opcion, &ajuste.valor, sizeof ajuste.valor);
+}
+
 /// Executes `sql` and answers its first field; throws when it is refused.
 std::string Campo(const char* sql) {
   Ejecuta(sql);
@@ -171,11 +187,19 @@ bool Conecta(const char* servidor, const char* puerto, const char* db, const cha
              const char* password) {
   setenv("PGCLIENTENCODING", "UTF8", 0);
   setenv("PGCONNECT_TIMEOUT", "10", 0);
+  setenv("PGTARGETSESSIONATTRS", "read-write", 0);
   PideEspanol();
   Abandona(conn);
   conn = PQsetdbLogin(servidor, puerto, nullptr, nullptr, db, usuario, password);
   PQsetErrorContextVisibility(conn, PQSHOW_CONTEXT_NEVER);
-  return PQstatus(conn) != CONNECTION_BAD;
+  if (PQstatus(conn) == CONNECTION_BAD) return false;
+  VigilaLinea();
+  return true;
+}
+
+bool SePerdio() {
+  if (PQstatus(conn) == CONNECTION_OK) PQconsumeInput(conn);
+  return conn != nullptr && PQstatus(conn) == CONNECTION_BAD;
 }
 
 std::string MotivoDelRechazo() {

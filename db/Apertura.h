@@ -11,12 +11,17 @@ void Cierra();
 /// Closes it together with those of the attempts before it that connected and came to no session.
 void CierraIntentos();
 
-/// Connects as the user: the server's own accounts are the system's. The texts travel in UTF-8 and a server
-/// that is away is given up after 10 seconds, unless the environment says otherwise. The handle is left in
+/// Connects as the user: the server's own accounts are the system's. The texts travel in UTF-8, a server that
+/// is away is given up after 10 seconds, and of several ("a,b,c") the one that writes is taken, unless the
+/// environment says otherwise. The handle is left in
 /// `conn` also when this fails; a session that was open there stays open. False if the server refused or did
 /// not answer.
 bool Conecta(const char* servidor, const char* puerto, const char* db, const char* usuario,
              const char* password);
+
+/// Has the server gone since the last statement? Looks at what has arrived and sends nothing. A connection
+/// that was closed here is not lost.
+bool SePerdio();
 
 /// The server's refusal from the line break ahead of "FATAL" on, or all of it when there is none; 511 bytes
 /// at most.

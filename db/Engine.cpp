@@ -1,6 +1,7 @@
 #include "db/Engine.h"
 
 #include <iostream>
+#include <string>
 
 int Engine::miTransactionCount = 0;
 int Engine::miNestedTransaction = 1;
@@ -10,6 +11,11 @@ namespace {
 /// Executes a transaction command with a result of its own: a thrown server text that is still to be shown
 /// points into the shared one.
 void EjecutaAparte(const char* sql) { PQclear(PQexec(conn, sql)); }
+
+/// What has become of a write whose commit was not answered.
+constexpr char sinRespuesta[] =
+    "No se sabe si se guardó: se perdió la conexión al confirmar.\n"
+    "Conéctese otra vez con F9 y vea si está, antes de repetir.\n\n";
 
 }  // namespace
 
@@ -57,11 +63,24 @@ void Engine::BeginTransaction() {
 
 void Engine::CommitTransaction() {
   if (miTransactionCount <= miNestedTransaction) {
-    EjecutaAparte("COMMIT;");
+    const bool abierta = miTransactionCount > 0;
     miTransactionCount = 0;
+    Confirma(abierta);
   } else {
     --miTransactionCount;
   }
+}
+
+/// A commit that the server refuses has saved nothing; one whose answer is lost may have.
+void Engine::Confirma(bool abierta) {
+  const bool enLinea = PQstatus(conn) == CONNECTION_OK;
+  PGresult* const respuesta = PQexec(conn, "COMMIT;");
+  const bool confirmada = PQresultStatus(respuesta) == PGRES_COMMAND_OK;
+  PQclear(respuesta);
+  if (confirmada || !abierta || conn == nullptr) return;
+  static std::string texto;  // a thrown text outlives its statement
+  texto = enLinea && PQstatus(conn) == CONNECTION_BAD ? sinRespuesta : "";
+  Lanza(texto.append(PQerrorMessage(conn)).c_str());
 }
 
 void Engine::RollBackTransaction() {

@@ -2,7 +2,7 @@
 //
 // A statement is executed into the shared `res` (db/Conexion.h). The result of the statement before it is
 // released by the next one, so a path may leave it behind. Failures travel as a thrown char*: a server text,
-// which points into `res` and is valid until the next statement or clear, or a literal of the program.
+// which points into `res` and is valid until the next statement or clear, or a text of the program.
 //
 // A question to the server:
 //
@@ -63,7 +63,9 @@ class Engine {
   /// Sends "BEGIN;" at depth 0; one level deeper in every case.
   void BeginTransaction();
 
-  /// Sends "COMMIT;" from the outermost level, and also when nothing is open; one level up otherwise.
+  /// Sends "COMMIT;" from the outermost level, and also when nothing is open; one level up otherwise. Throws
+  /// when an open transaction was not confirmed: the server's refusal, or a text that begins with "No se sabe
+  /// si se guardó: " when the connection broke before the answer came. The depth is 0 then.
   void CommitTransaction();
 
   /// Sends "ROLLBACK;" if anything is open and resets the depth to 0. Leaves `res` as it is, so that a thrown
@@ -121,6 +123,7 @@ class Engine {
   static int miNestedTransaction;
 
  private:
+  static void Confirma(bool abierta);
   void EjecutaTrazando(const char* sql, bool traza);
 };
 

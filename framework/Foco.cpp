@@ -125,7 +125,7 @@ long MarcoDeForma::onKeyPress(FXObject* emisor, FXSelector sel, void* evento) {
         libro->Hojea(tecla->code == KEY_Page_Down || tecla->code == KEY_KP_Page_Down, evento);
       return 1;
     case KEY_F5:
-      if (releer) releer();
+      Relee();
       return 1;
     default:
       return FXHorizontalFrame::onKeyPress(emisor, sel, evento);

@@ -46,6 +46,10 @@ class MarcoDeForma : public FXHorizontalFrame {
   void Lleva(LibroDeForma* suyo) { libro = suyo; }
   /// What F5 does.
   void AlReleer(std::function<void()> accion) { releer = std::move(accion); }
+  /// Does it, if the form has anything to read again.
+  void Relee() {
+    if (releer) releer();
+  }
 
  protected:
   MarcoDeForma() {}

@@ -84,21 +84,23 @@ Operaciones::~Operaciones() {
   for (const FXMenuPane* panel : paneles) delete panel;
 }
 
-/// Puts the panes of this program where the first one has its catalogues, whose pane stays out of reach.
+/// Puts the panes of this program where the first one has its catalogues, whose pane stays out of reach. Its
+/// title goes first: with it goes its key, which is also one of ours.
 void Operaciones::ArmaMenu() {
+  FXWindow* const siguiente = tituloCatalogos->getNext();
+  delete tituloCatalogos;
+  tituloCatalogos = nullptr;
   FXMenuPane** panel = paneles;
   FXSelector mensaje = ID_PANEL_CIERRE;
   for (const Opcion& opcion : opciones) {
     if (opcion.abre == nullptr) {
       *panel++ = new FXMenuPane(this);
-      (new FXMenuTitle(menuBar, opcion.etiqueta, nullptr, panel[-1]))->reparent(menuBar, tituloCatalogos);
+      (new FXMenuTitle(menuBar, opcion.etiqueta, nullptr, panel[-1]))->reparent(menuBar, siguiente);
     } else {
       new FXMenuCommand(panel[-1], opcion.etiqueta, nullptr, this, mensaje);
     }
     ++mensaje;
   }
-  delete tituloCatalogos;
-  tituloCatalogos = nullptr;
 }
 
 long Operaciones::onCmdOpcion(FXObject*, FXSelector mensaje, void*) {

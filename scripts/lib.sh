@@ -3,6 +3,7 @@ raiz=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 paquetes_programa=(g++ cmake ninja-build pkg-config libfox-1.6-dev libpq-dev fonts-liberation) # the face "arial"
 paquetes_servidor=(postgresql-15 postgresql-15-cron)
+paquetes_cluster=("${paquetes_servidor[@]}" patroni etcd-server etcd-client)
 paquetes_pantalla=(xvfb openbox xdotool xclip imagemagick x11-utils)
 paquetes_pruebas=(libgtest-dev python3) # whose csv reads the exports back
 paquetes_revision=(clang-format postgresql-15-pgtap libtap-parser-sourcehandler-pgtap-perl pgbackrest)
@@ -27,14 +28,21 @@ asegura_paquetes() {
   fi
   "${root[@]}" sh -s -- "${faltan[@]}" <<'SH' || falla "no se pudieron instalar: ${faltan[*]}"
 set -e
-# The server package would make and start a cluster of its own. Ours is private, see scripts/servidor.
+# The server package would make and start a cluster of its own, those of the cluster start their services. Ours are
+# private, see scripts/servidor and scripts/cluster.
 ajuste=/etc/postgresql-common/createcluster.d/tolvara.conf
-trap 'rm -f "$ajuste"' EXIT
+arranques=/usr/sbin/policy-rc.d
+[ ! -e "$arranques" ] || arranques=
+trap 'rm -f "$ajuste" $arranques' EXIT
 mkdir -p "${ajuste%/*}"
 echo 'create_main_cluster = false' >"$ajuste"
+[ -z "$arranques" ] || { printf '#!/bin/sh\nexit 101\n' >"$arranques" && chmod +x "$arranques"; }
 export DEBIAN_FRONTEND=noninteractive
 apt-get -qq update </dev/null
 apt-get -qq -o DPkg::Lock::Timeout=120 install -y --no-install-recommends "$@" </dev/null
+case " $* " in *' etcd-server '* | *' patroni '*)
+  [ ! -x "$(command -v systemctl)" ] || systemctl -q disable etcd patroni 2>/dev/null || true ;;
+esac
 SH
 }
 

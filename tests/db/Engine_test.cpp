@@ -6,6 +6,7 @@
 #include "catalogs/people/cParametro.h"
 #include "catalogs/people/cSocioCaja.h"
 #include "catalogs/simple/cMonedas.h"
+#include "db/Apertura.h"
 #include "tests/support/Espia.h"
 #include "tests/support/Registros.h"
 #include "tests/support/Salida.h"
@@ -122,6 +123,62 @@ TEST_F(EngineTest, UnCommitDeMasDejaSoloElAvisoDelServidor) {
   EXPECT_STREQ(gsMsgServidor, "WARNING:  there is no transaction in progress\n");
   EXPECT_EQ(salida.Texto(), "WARNING:  there is no transaction in progress\n\n");
   EXPECT_EQ(Profundidad(), 0);
+}
+
+TEST_F(EngineTest, UnCommitSinRespuestaSeDiceSiHabiaAlgoQueConfirmar) {
+  constexpr char sinSaber[] =
+      "No se sabe si se guardó: se perdió la conexión al confirmar.\n"
+      "Conéctese otra vez con F9 y vea si está, antes de repetir.\n\n";
+  base_.Ejecuta("create table t(n int)");
+  const struct {
+    const char* caso;
+    std::string antes;  // calls ahead of the commit
+    Falla falla;
+    std::string empieza;  // what is thrown; "" for nothing
+    const char* filas;
+  } tabla[] = {
+      {"rechazado", "b", falla::Error("No"), "ERROR:  No", "0"},
+      {"cortado antes", "b", falla::CorteAntes(), sinSaber, "0"},
+      {"cortado después", "b", falla::CorteDespues(), sinSaber, "1"},
+      {"de adentro", "bb", falla::CorteAntes(), "", "0"},
+      {"de más, rechazado", "", falla::Error("No"), "", "1"},
+      {"de más, cortado", "", falla::CorteAntes(), "", "1"},
+  };
+  for (const auto& fila : tabla) {
+    SCOPED_TRACE(fila.caso);
+    base_.Ejecuta("truncate t");
+    apertura::Cierra();
+    conn = base_.Conecta().release();
+    engine.Inicializa();
+    Recorre(engine, fila.antes);
+    Ejecuta("insert into t values (1)");
+    LiberaResultado();
+    {
+      Espia espia;
+      espia.Cuando("COMMIT;", fila.falla);
+      const auto lanzado = Lanzado([] { engine.CommitTransaction(); });
+      EXPECT_EQ(lanzado.has_value(), !fila.empieza.empty());
+      EXPECT_EQ(lanzado.value_or("").substr(0, fila.empieza.size()), fila.empieza);
+      EXPECT_GT(lanzado.value_or("y el motivo").size(), fila.empieza.size());
+      if (lanzado) {
+        EXPECT_EQ(Profundidad(), 0);
+      }
+    }
+    apertura::Cierra();  // with whatever is still open
+    EXPECT_EQ(base_.Valor("select count(*) from t"), fila.filas);
+  }
+}
+
+TEST_F(EngineTest, UnaEscrituraCalladaEnUnaConexionPerdidaNoPasaPorGuardada) {
+  class Callada : public Engine {
+   public:
+    void Guarda() { EscribeCallada("insert into t values (1)", false); }
+  } registro;
+  base_.MataSesiones();
+  Ejecuta("select 1");
+  const std::string lanzado = Lanzado([&] { registro.Guarda(); }).value_or("");
+  EXPECT_NE(lanzado, "");
+  EXPECT_EQ(lanzado.find("No se sabe"), std::string::npos) << "nothing was sent";
 }
 
 TEST_F(EngineTest, LosCambiosEntranConElCommitDeAfuera) {

@@ -86,6 +86,11 @@ TEST_F(OperacionesTest, ElMenuDelPrimeroCedeSusCatalogos) {
   EXPECT_STREQ(principal_->getTitle().text(), "Tolvara Operaciones V. 0.0.7a");
 }
 
+TEST_F(OperacionesTest, CadaTituloTieneSuTecla) {
+  for (const FXMenuTitle* titulo : Todos<FXMenuTitle>(principal_))
+    EXPECT_TRUE(principal_->getAccelTable()->hasAccel(parseHotKey(Rotulo(titulo).c_str()))) << Rotulo(titulo);
+}
+
 TEST_F(OperacionesTest, CadaOpcionEstaEnSuPanelYEnElMenuNoHayOtras) {
   size_t entradas = 0;
   const std::vector<FXMenuTitle*> titulos = Todos<FXMenuTitle>(principal_);
