@@ -31,7 +31,7 @@ copia_sucursal() {
   [[ -f $obra/$1.sql ]] || pg_dump -n "$1" -f "$obra/$1.sql" "$2"
   sed "s/\b$1\b/$3/g; s/\bsucursal_$1\b/sucursal_$3/g" "$obra/$1.sql" |
     PGOPTIONS='-c synchronous_commit=off -c client_min_messages=warning' administra -1 -d "$4" >/dev/null
-  administra -d "$4" -c "GRANT sucursal_$3 TO adriana"
+  PGOPTIONS="-c client_min_messages=warning" administra -d "$4" -c "GRANT sucursal_$3 TO adriana"
 }
 
 # A password for adriana, for the sessions of pgbench; and one query of hers, in milliseconds: tarda DATABASE BRANCH QUERY
