@@ -6,8 +6,7 @@
 #include <fstream>
 
 #include "catalogs/simple/Monedas_Window.h"
-#include "tests/app/ConCaja.h"
-#include "tests/support/Escritorio.h"
+#include "tests/app/ConTeclas.h"
 
 namespace pruebas {
 namespace {
@@ -70,23 +69,8 @@ class Navegador {
   const std::filesystem::path abridor_;
 };
 
-class AyudaTest : public ConEscritorio, public ConCaja {
+class AyudaTest : public ConTeclas {
  protected:
-  void SetUp() override {
-    ConCaja::SetUp();
-    sesion_ = std::make_unique<Sesion>(*base_);
-    IsConectado = true;
-    Toma(caja_.get());
-  }
-  void TearDown() override {
-    sesion_.reset();
-    ConCaja::TearDown();
-  }
-
-  void Toma(FXWindow* ventana) {
-    escritorio_.Activa(ventana);
-    ASSERT_TRUE(BombeaHasta([ventana] { return ventana->hasFocus() != FALSE; })) << "sin teclado";
-  }
   /// What the browser is called with after F1, and whether it was the one that stands in for it.
   void ExigePedido(const std::string& archivo) {
     Navegador navegador;
@@ -105,8 +89,6 @@ class AyudaTest : public ConEscritorio, public ConCaja {
     EXPECT_EQ(guion.Cuadros()[0].titulo, "Ayuda");
     EXPECT_EQ(guion.Cuadros()[0].texto, texto);
   }
-
-  std::unique_ptr<Sesion> sesion_;
 };
 
 TEST_F(AyudaTest, EnLaVentanaPrincipalAbreSuCapitulo) {

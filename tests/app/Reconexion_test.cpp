@@ -4,9 +4,8 @@
 #include "catalogs/simple/Modulo_Window.h"
 #include "catalogs/simple/Monedas_Window.h"
 #include "db/Login_Window.h"
-#include "tests/app/ConCaja.h"
+#include "tests/app/ConTeclas.h"
 #include "tests/support/Entorno.h"
-#include "tests/support/Escritorio.h"
 #include "tests/support/Espia.h"
 #include "tests/support/Ventana.h"
 
@@ -15,24 +14,8 @@ namespace {
 
 constexpr char SinLinea[] = "F9: conectarse. Se perdió la conexión.";
 
-class ReconexionTest : public ConEscritorio, public ConCaja {
+class ReconexionTest : public ConTeclas {
  protected:
-  void SetUp() override {
-    ConCaja::SetUp();
-    sesion_ = std::make_unique<Sesion>(*base_);
-    IsConectado = true;
-    caja_->readRegistry();
-    Toma(caja_.get());
-  }
-  void TearDown() override {
-    sesion_.reset();
-    ConCaja::TearDown();
-  }
-
-  void Toma(FXWindow* ventana) {
-    escritorio_.Activa(ventana);
-    ASSERT_TRUE(BombeaHasta([ventana] { return ventana->hasFocus() != FALSE; })) << "sin teclado";
-  }
   /// What the bar tells after a turn of the clock: the line, and whether the session text says connected.
   std::pair<std::string, bool> Estado() {
     caja_->handle(&App(), FXSEL(SEL_TIMEOUT, Caja::ID_CLOCK), nullptr);
@@ -63,8 +46,6 @@ class ReconexionTest : public ConEscritorio, public ConCaja {
     EXPECT_TRUE(BombeaHasta([&] { return guion.Pendientes() == 0; }));
     Bombea(100);
   }
-
-  std::unique_ptr<Sesion> sesion_;
 };
 
 TEST_F(ReconexionTest, LaPerdidaSeVeSinTocarNada) {
