@@ -4,27 +4,18 @@
 
 #include "catalogs/simple/Monedas_Window.h"
 #include "catalogs/simple/TipoMoviBanco_Window.h"
-#include "tests/app/ConCaja.h"
-#include "tests/support/Escritorio.h"
+#include "tests/app/ConTeclas.h"
 
 namespace pruebas {
 namespace {
 
-class TecladoTest : public ConEscritorio, public ConCaja {
+class TecladoTest : public ConTeclas {
  protected:
   void SetUp() override {
-    ConCaja::SetUp();
-    sesion_ = std::make_unique<Sesion>(*base_);
-    IsConectado = true;
-    escritorio_.Activa(caja_.get());
-    ASSERT_TRUE(BombeaHasta([this] { return caja_->hasFocus() != FALSE; })) << "the window has no keyboard";
+    ConTeclas::SetUp();
     Escoge("&Monedas");
     monedas_ = Forma<Monedas_Window>();
     ASSERT_NE(monedas_, nullptr);
-  }
-  void TearDown() override {
-    sesion_.reset();
-    ConCaja::TearDown();
   }
 
   template <class Ventana>
@@ -50,7 +41,6 @@ class TecladoTest : public ConEscritorio, public ConCaja {
     return 1;
   }
 
-  std::unique_ptr<Sesion> sesion_;
   Monedas_Window* monedas_ = nullptr;
 };
 
