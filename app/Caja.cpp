@@ -190,7 +190,6 @@ void Caja::Login() {
   {
     Login_Window login(this);
     abierta = login.execute(PLACEMENT_SCREEN) && IsConectado;
-    perdida = SesionPerdida();
     readRegistry();
   }
   if (abierta) ReleeFormas();
@@ -208,6 +207,7 @@ void Caja::ReleeFormas() {
 }
 
 void Caja::readRegistry() {
+  perdida = SesionPerdida();
   FXRegistry& ajustes = getApp()->reg();
   statusLabel->setText(FXStringFormat(
       "Usuario: %s - Suc. \\\\%s\\%s\\%s %s",  //
@@ -221,9 +221,7 @@ void Caja::readRegistry() {
 
 /// Tells a user who has not noticed yet that there is no server any more.
 void Caja::VigilaConexion() {
-  if (SesionPerdida() == perdida) return;
-  perdida = !perdida;
-  readRegistry();
+  if (SesionPerdida() != perdida) readRegistry();
 }
 
 long Caja::onClock(FXObject*, FXSelector, void*) {
@@ -242,7 +240,7 @@ long Caja::onCmdConectar(FXObject*, FXSelector, void*) {
 long Caja::onCmdDesconectar(FXObject*, FXSelector, void*) {
   if (!TieneAcceso("0102")) return 1;
   apertura::Cierra();
-  IsConectado = perdida = false;
+  IsConectado = false;
   statusLabel->setText(FXStringFormat("Usuario: %s - Suc. %s %s",  //
                                       getApp()->reg().readStringEntry(seccion, "user", "xxx"),
                                       getApp()->reg().readStringEntry(seccion, "sucursal", "xxx"),

@@ -140,7 +140,7 @@ class Caja : public FXMainWindow {
   FXTextField* clockField = nullptr;
   FXLabel* statusLabel = nullptr;
   FXToolTip* avisos = nullptr;  // of all windows of the program
-  bool perdida = false;         // the server has gone, and the session with it
+  bool perdida = false;         // what readRegistry showed: the server has gone
   FXIcon* bigIcon = nullptr;
   FXIcon* smallIcon = nullptr;
   FXFont* fuente = nullptr;          // the application's normal font while this window lives
